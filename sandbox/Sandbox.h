@@ -1,0 +1,69 @@
+// A booking service for this machine: HTTPS on the loopback interface, with faults on demand.
+#pragma once
+
+#include "sandbox/FaultPlan.h"
+#include "sandbox/Options.h"
+#include "sandbox/RequestLog.h"
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ombrivane::sandbox {
+
+class HttpsServer;
+class Service;
+class TlsConnection;
+
+/// Every operation may be called from any thread, but `start` and `stop` not at the same time.
+class Sandbox {
+public:
+    /// Throws `std::invalid_argument` for a fault that does not read.
+    explicit Sandbox(Options options = {});
+    ~Sandbox();
+    Sandbox(const Sandbox&) = delete;
+    Sandbox& operator=(const Sandbox&) = delete;
+
+    /// Makes the certificates, writes the authority's file and listens. Throws `std::system_error` when the
+    /// port is taken or the file cannot be written.
+    void start();
+
+    /// Ends every connection and takes the temporary folder away. A second call does nothing.
+    void stop();
+
+    /// "https://localhost:PORT"; empty before the start.
+    [[nodiscard]] std::string address() const { return address_; }
+
+    /// The authority that a client is to trust, a PEM file.
+    [[nodiscard]] std::filesystem::path caFile() const { return caFile_; }
+
+    [[nodiscard]] std::vector<RecordedRequest> requests() const { return log_.requests(); }
+    [[nodiscard]] Counters counters() const { return log_.counters(); }
+
+    /// Replaces all faults. Throws `std::invalid_argument` and changes nothing when one does not read.
+    void setFaults(const std::vector<std::string>& faults);
+
+    /// Turns the service's clock on.
+    void advanceClock(std::chrono::seconds time);
+
+    /// Forgets faults, log, counters, tokens, searches and bookings, as after a fresh start without faults.
+    void reset();
+
+private:
+    bool answer(const HttpRequest& request, bool isFirst, TlsConnection& connection);
+    HttpAnswer answerControl(const HttpRequest& request);
+    void writeCaFile(const std::string& pem);
+
+    Options options_;
+    RequestLog log_;
+    FaultPlan faults_;
+    std::string address_;
+    std::filesystem::path caFile_;
+    std::filesystem::path temporaryFolder_;
+    std::unique_ptr<Service> service_;
+    std::unique_ptr<HttpsServer> server_;
+};
+
+} // namespace ombrivane::sandbox
