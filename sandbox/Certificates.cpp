@@ -71,8 +71,13 @@ Certificate makeCertificate(const Subject& subject, EVP_PKEY* key, const Authori
     ASN1_INTEGER_set_uint64(X509_get_serialNumber(raw), serial);
     X509_gmtime_adj(X509_getm_notBefore(raw), subject.startsIn);
     X509_gmtime_adj(X509_getm_notAfter(raw), subject.endsIn);
-    X509_NAME_add_entry_by_txt(X509_get_subject_name(raw), "CN", MBSTRING_UTF8,
-                               reinterpret_cast<const unsigned char*>(subject.commonName), -1, -1, 0);
+    X509_NAME_add_entry_by_txt(X509_get_subject_name(raw),
+                               "CN",
+                               MBSTRING_UTF8,
+                               reinterpret_cast<const unsigned char*>(subject.commonName),
+                               -1,
+                               -1,
+                               0);
     X509* signer = issuer == nullptr ? raw : issuer->certificate.get();
     X509_set_issuer_name(raw, X509_get_subject_name(signer));
     X509_set_pubkey(raw, key);

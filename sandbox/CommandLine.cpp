@@ -70,29 +70,45 @@ const std::vector<OptionForm>& optionForms() {
     using Line = CommandLine;
     using Text = const std::string&;
     static const std::vector<OptionForm> forms{
-        {"--port", "N", "listen there; 0 (default) takes a free port",
+        {"--port",
+         "N",
+         "listen there; 0 (default) takes a free port",
          [](Line& line, Text text) { line.options.port = number<std::uint16_t>(text); }},
-        {"--ca-out", "FILE",
+        {"--ca-out",
+         "FILE",
          "write the authority to trust there; default: a temporary folder, removed at the end",
          [](Line& line, Text text) { line.options.caFile = text; }},
-        {"--seed", "N", "the seed of all data; default 1",
+        {"--seed",
+         "N",
+         "the seed of all data; default 1",
          [](Line& line, Text text) { line.options.seed = number<std::uint64_t>(text); }},
-        {"--now", "TIME", "what the service's clock shows at the start, such as 2026-03-01T09:30:00Z",
+        {"--now",
+         "TIME",
+         "what the service's clock shows at the start, such as 2026-03-01T09:30:00Z",
          setNow},
-        {"--freeze", "", "the service's clock stands still",
+        {"--freeze",
+         "",
+         "the service's clock stands still",
          [](Line& line, Text) { line.options.frozen = true; }},
         {"--client", "ID:SECRET", "credentials, may be repeated; default wallet:wallet-secret", addClient},
         {"--offers", "N", "offers in every list, up to 10000; default 12 to 60 by search", setOffers},
-        {"--documents", "RULE", "travel documents: auto (default: international trips), always, never",
+        {"--documents",
+         "RULE",
+         "travel documents: auto (default: international trips), always, never",
          setDocuments},
-        {"--otp", "TEXT", "the one-time password of the wallet; default 123456",
+        {"--otp",
+         "TEXT",
+         "the one-time password of the wallet; default 123456",
          [](Line& line, Text text) { line.options.otp = text; }},
-        {"--certificate", "KIND",
+        {"--certificate",
+         "KIND",
          "good (default), self-signed, expired, not-yet-valid, wrong-host, wrong-alternative-names, "
          "untrusted",
          setCertificate},
         {"--fault", "FAULT", "a fault, may be repeated, see below", addFault},
-        {"--exit-with-stdin", "", "end when the standard input ends",
+        {"--exit-with-stdin",
+         "",
+         "end when the standard input ends",
          [](Line& line, Text) { line.exitWithStdin = true; }},
         {"--help", "", "this text", [](Line& line, Text) { line.help = true; }},
     };
@@ -134,9 +150,9 @@ std::string helpText() {
                             form.value.empty() ? std::string(form.name)
                                                : fmt::format("{}={}", form.name, form.value),
                             form.meaning);
-    text += "\nWhile it runs: GET /sandbox/requests, GET /sandbox/counters, POST /sandbox/faults (an array "
-            "of faults),\n"
-            "POST /sandbox/clock ({\"advance\": SECONDS}), POST /sandbox/reset.\n";
+    text += "\nWhile it runs: GET /sandbox/requests, /sandbox/counters and /sandbox/bookings; POST "
+            "/sandbox/faults\n"
+            "(an array of faults), /sandbox/clock ({\"advance\": SECONDS}) and /sandbox/reset.\n";
     return text;
 }
 

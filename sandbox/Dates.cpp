@@ -67,14 +67,19 @@ std::optional<Instant> parseInstant(std::string_view text) {
 
 std::string dayText(Day date) {
     const year_month_day parts(date);
-    return fmt::format("{:04}-{:02}-{:02}", static_cast<int>(parts.year()),
-                       static_cast<unsigned>(parts.month()), static_cast<unsigned>(parts.day()));
+    return fmt::format("{:04}-{:02}-{:02}",
+                       static_cast<int>(parts.year()),
+                       static_cast<unsigned>(parts.month()),
+                       static_cast<unsigned>(parts.day()));
 }
 
 std::string instantText(Instant time) {
     const Day date = floor<days>(time);
     const hh_mm_ss clock(time - date);
-    return fmt::format("{}T{:02}:{:02}:{:02}Z", dayText(date), clock.hours().count(), clock.minutes().count(),
+    return fmt::format("{}T{:02}:{:02}:{:02}Z",
+                       dayText(date),
+                       clock.hours().count(),
+                       clock.minutes().count(),
                        clock.seconds().count());
 }
 
@@ -87,19 +92,26 @@ std::string timeText(LocalTime time) {
 
 std::string zonedText(LocalTime time, minutes utcOffset) {
     const long offset = std::abs(utcOffset.count());
-    return fmt::format("{}T{}:00.000{}{:02}:{:02}", dayText(time), timeText(time),
-                       utcOffset.count() < 0 ? '-' : '+', offset / 60, offset % 60);
+    return fmt::format("{}T{}:00.000{}{:02}:{:02}",
+                       dayText(time),
+                       timeText(time),
+                       utcOffset.count() < 0 ? '-' : '+',
+                       offset / 60,
+                       offset % 60);
 }
 
 std::string longText(LocalTime time) {
     constexpr std::array<std::string_view, 7> weekdays{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
-    constexpr std::array<std::string_view, 12> months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    constexpr std::array<std::string_view, 12> months{
+        "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     const Day date = dayOf(time);
     const year_month_day parts(date);
-    return fmt::format("{}, {} {}, {} {}", weekdays[weekday(date).c_encoding()],
-                       months[static_cast<unsigned>(parts.month()) - 1], static_cast<unsigned>(parts.day()),
-                       static_cast<int>(parts.year()), timeText(time));
+    return fmt::format("{}, {} {}, {} {}",
+                       weekdays[weekday(date).c_encoding()],
+                       months[static_cast<unsigned>(parts.month()) - 1],
+                       static_cast<unsigned>(parts.day()),
+                       static_cast<int>(parts.year()),
+                       timeText(time));
 }
 
 Day plusYears(Day day, int count) { return lastValid(year_month_day(day) + years(count)); }

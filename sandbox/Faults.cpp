@@ -13,8 +13,8 @@ namespace ombrivane::sandbox {
 namespace {
 
 const FaultForm& formNamed(std::string_view name) {
-    const auto found = std::find_if(faultForms().begin(), faultForms().end(),
-                                    [&](const FaultForm& form) { return form.name == name; });
+    const auto found = std::find_if(
+        faultForms().begin(), faultForms().end(), [&](const FaultForm& form) { return form.name == name; });
     if (found == faultForms().end())
         throw std::invalid_argument(fmt::format("There is no fault \"{}\".", name));
     return *found;
@@ -48,8 +48,8 @@ Json* valueAt(Json& root, std::string_view path) {
         if (value->is_object() && value->contains(step)) {
             value = &(*value)[step];
         } else if (value->is_array() && !step.empty() &&
-                   std::all_of(step.begin(), step.end(),
-                               [](char digit) { return digit >= '0' && digit <= '9'; }) &&
+                   std::all_of(
+                       step.begin(), step.end(), [](char digit) { return digit >= '0' && digit <= '9'; }) &&
                    std::stoul(step) < value->size()) {
             value = &(*value)[std::stoul(step)];
         } else {
@@ -113,17 +113,23 @@ const std::vector<FaultForm>& faultForms() {
     static const std::vector<FaultForm> forms{
         {FaultKind::Latency, "latency", "MS", "answers after so many milliseconds"},
         {FaultKind::Status, "status", "CODE", "the usual body under another HTTP status"},
-        {FaultKind::Refuse, "refuse", "MESSAGE",
+        {FaultKind::Refuse,
+         "refuse",
+         "MESSAGE",
          "success false with that message; the operation is not done"},
         {FaultKind::Malformed, "malformed", "", "a body that is no JSON"},
-        {FaultKind::Truncate, "truncate", "BYTES",
+        {FaultKind::Truncate,
+         "truncate",
+         "BYTES",
          "only the first bytes of the body, and a Content-Length to match"},
         {FaultKind::Short, "short", "", "a Content-Length 512 larger than what is sent, then the end"},
         {FaultKind::Drop, "drop", "", "the end of the connection in place of an answer"},
         {FaultKind::Reset, "reset", "", "a TCP reset in place of an answer"},
         {FaultKind::HalfStatusLine, "half-status-line", "", "\"HTTP/1.1 2\", then the end"},
         {FaultKind::Silence, "silence", "", "no answer until the client goes"},
-        {FaultKind::WrongType, "wrong-type", "KEYPATH",
+        {FaultKind::WrongType,
+         "wrong-type",
+         "KEYPATH",
          "a value of another JSON type at data.accessToken or the like"},
         {FaultKind::MissingKey, "missing-key", "KEYPATH", "the answer without that key or element"},
         {FaultKind::Extra, "extra", "BYTES", "so many bytes of garbage behind the JSON"},
@@ -136,7 +142,9 @@ const std::vector<FaultForm>& faultForms() {
         {FaultKind::Deep, "deep", "LEVELS", "data of so many nested arrays"},
         {FaultKind::Nul, "nul", "", "a zero byte in the middle of the body"},
         {FaultKind::InvalidUtf8, "invalid-utf8", "", "bytes that are no UTF-8 inside the first text value"},
-        {FaultKind::GzipBomb, "gzip-bomb", "BYTES",
+        {FaultKind::GzipBomb,
+         "gzip-bomb",
+         "BYTES",
          "a small gzip body that unpacks to a well-formed answer so large"},
     };
     return forms;

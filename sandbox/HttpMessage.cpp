@@ -32,8 +32,9 @@ std::string percentDecoded(std::string_view text) {
 } // namespace
 
 bool equalIgnoringCase(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return lower(a) == lower(b); });
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) {
+        return lower(a) == lower(b);
+    });
 }
 
 std::string HttpRequest::header(std::string_view name) const {

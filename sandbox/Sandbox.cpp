@@ -69,7 +69,9 @@ void Sandbox::start() {
     std::promise<void> ready;
     const std::shared_future<void> isReady = ready.get_future().share();
     server_ = std::make_unique<HttpsServer>(
-        options_.port, identity, log_,
+        options_.port,
+        identity,
+        log_,
         [this, isReady](const HttpRequest& request, bool isFirst, TlsConnection& connection) {
             isReady.wait();
             return answer(request, isFirst, connection);
@@ -109,8 +111,8 @@ bool Sandbox::answer(const HttpRequest& request, bool isFirst, TlsConnection& co
     }
     log_.record(request);
     const std::vector<Fault> faults = faults_.due(faultPath(request.path));
-    const bool isPrevented = std::any_of(faults.begin(), faults.end(),
-                                         [](const Fault& fault) { return preventsTheOperation(fault.kind); });
+    const bool isPrevented = std::any_of(
+        faults.begin(), faults.end(), [](const Fault& fault) { return preventsTheOperation(fault.kind); });
     HttpAnswer reply = isPrevented ? HttpAnswer{} : service_->answer(request);
     for (const Fault& fault : faults)
         reply = withFault(std::move(reply), fault);
@@ -124,6 +126,7 @@ HttpAnswer Sandbox::answerControl(const HttpRequest& request) {
     const Json body = Json::parse(request.body, nullptr, false);
     try {
         if (call == "GET /sandbox/requests") return jsonAnswer(recordedJson(log_.requests()));
+        if (call == "GET /sandbox/bookings") return jsonAnswer(service_->bookings());
         if (call == "GET /sandbox/counters") {
             const Counters counters = log_.counters();
             return jsonAnswer({{"connections", counters.connections},

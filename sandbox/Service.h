@@ -1,10 +1,13 @@
 // The booking service itself, without the network: a request in, an answer out.
 #pragma once
 
+#include "sandbox/Bookings.h"
 #include "sandbox/ClientAccounts.h"
 #include "sandbox/HttpMessage.h"
+#include "sandbox/OfferBook.h"
 #include "sandbox/Options.h"
 #include "sandbox/ServiceClock.h"
+#include "sandbox/Trip.h"
 
 #include <mutex>
 #include <string>
@@ -23,6 +26,9 @@ public:
 
     HttpAnswer answer(const HttpRequest& request);
 
+    /// All bookings and their states.
+    Json bookings();
+
     /// Turns the service's clock on.
     void advanceClock(std::chrono::seconds time) { clock_.advance(time); }
 
@@ -30,15 +36,34 @@ public:
     void reset();
 
 private:
+    /// A request to an endpoint, with what all endpoints need of it.
+    struct Call;
     struct Endpoint;
 
     HttpAnswer answerEndpoint(const Endpoint& endpoint, const HttpRequest& request);
-    HttpAnswer getToken(const HttpRequest& request);
+    HttpAnswer answerPage(const HttpRequest& request);
+
+    HttpAnswer getToken(const Call& call);
+    HttpAnswer getCountries(const Call& call);
+    HttpAnswer getAirports(const Call& call);
+    HttpAnswer searchFlights(const Call& call);
+    HttpAnswer verifyFlights(const Call& call);
+    HttpAnswer openAvailability(const Call& call);
+    HttpAnswer reserve(const Call& call);
+    HttpAnswer uploadDocuments(const Call& call);
+    HttpAnswer orderPayment(const Call& call);
+    HttpAnswer confirmPayment(const Call& call);
+    HttpAnswer issue(const Call& call);
+    HttpAnswer download(const Call& call);
 
     std::mutex mutex_;
     std::string address_;
+    DocumentsRule documents_;
+    std::string otp_;
     ServiceClock clock_;
     ClientAccounts accounts_;
+    OfferBook offers_;
+    Bookings bookings_;
 };
 
 } // namespace ombrivane::sandbox
