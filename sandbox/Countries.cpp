@@ -1,5 +1,7 @@
 #include "sandbox/Countries.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -226,7 +228,7 @@ Json countriesJson() {
                         {"name", country.name},
                         {"nationality", country.nationality},
                         {"short_name", country.shortName},
-                        {"country_code", "+" + std::string(country.diallingCode)}});
+                        {"country_code", fmt::format("+{}", country.diallingCode)}});
     return list;
 }
 

@@ -48,7 +48,9 @@ Json fareJson(const FareTotals& totals) {
               {"total_chd", totals.children},
               {"total_inf", totals.infants},
               {"total_cost", totals.total()}};
-    if (totals.cashBack) fare["cashBack"] = *totals.cashBack;
+    if (!totals.cashBack) return fare;
+    const std::int64_t whole = std::llround(std::floor(*totals.cashBack));
+    fare["cashBack"] = static_cast<double>(whole) < *totals.cashBack ? Json(*totals.cashBack) : Json(whole);
     return fare;
 }
 

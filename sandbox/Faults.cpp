@@ -39,6 +39,14 @@ bool takeCount(std::string_view& text, std::string_view name, std::size_t& count
     return true;
 }
 
+/// The number that a step of a path is, or one beyond every array.
+std::size_t indexOf(const std::string& step) {
+    std::size_t index = 0;
+    const char* end = step.data() + step.size();
+    const auto [last, failure] = std::from_chars(step.data(), end, index);
+    return failure == std::errc() && last == end ? index : std::numeric_limits<std::size_t>::max();
+}
+
 /// The value at a dotted path ("data.0.fares"), or null when the answer has none.
 Json* valueAt(Json& root, std::string_view path) {
     Json* value = &root;
@@ -47,11 +55,8 @@ Json* valueAt(Json& root, std::string_view path) {
         path.remove_prefix(std::min(path.size(), step.size() + 1));
         if (value->is_object() && value->contains(step)) {
             value = &(*value)[step];
-        } else if (value->is_array() && !step.empty() &&
-                   std::all_of(
-                       step.begin(), step.end(), [](char digit) { return digit >= '0' && digit <= '9'; }) &&
-                   std::stoul(step) < value->size()) {
-            value = &(*value)[std::stoul(step)];
+        } else if (const auto index = indexOf(step); value->is_array() && index < value->size()) {
+            value = &(*value)[index];
         } else {
             return nullptr;
         }
@@ -76,7 +81,7 @@ void removeLastStep(Json& root, std::string_view path) {
     if (parent.is_object()) {
         parent.erase(last);
     } else {
-        parent.erase(std::stoul(last));
+        parent.erase(indexOf(last));
     }
 }
 

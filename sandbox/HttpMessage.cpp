@@ -59,7 +59,11 @@ HttpAnswer jsonAnswer(const Json& body, int status) {
     return {status, {{"Content-Type", "application/json"}}, toText(body)};
 }
 
-HttpAnswer successAnswer(Json data) { return jsonAnswer({{"success", true}, {"data", std::move(data)}}); }
+HttpAnswer successAnswer(Json data) {
+    Json envelope{{"success", true}};
+    envelope["data"] = std::move(data);
+    return jsonAnswer(envelope);
+}
 
 HttpAnswer refusalAnswer(const std::string& message, int status) {
     return jsonAnswer({{"success", false}, {"data", {{"error", message}}}}, status);

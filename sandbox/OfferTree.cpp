@@ -56,6 +56,8 @@ Json searchSummary(const Offer& offer) {
                  {"source_id", fmt::format("{}", 1 + offer.index % 3)},
                  {"currency", "NPR"},
                  {"validating_carrier", offer.outbound.first().carrier->code}};
+    // Without a class a client takes it for economy.
+    if (offer.isSparse && offer.fare.cabin != "M") summary["booking_class"] = offer.fare.cabin;
     if (offer.isSparse) return summary;
     const auto letters = [&](const Journey& journey) {
         return Json(std::vector<std::string_view>(journey.legs.size(), bookingLetter(offer.fare.cabin)));

@@ -49,7 +49,7 @@ std::optional<Offer> makeOffer(std::uint64_t seed, const SearchRequest& request,
         makeJourney(drawRouting(routingsBetween(*asked.from, *asked.to), dice), asked.departure, dice);
     offer.fare = priceJourney(asked, offer.outbound, dice);
     if (list == OfferList::Round) {
-        const auto routings = routingsBetween(*asked.to, *asked.from);
+        const auto& routings = routingsBetween(*asked.to, *asked.from);
         offer.back = makeJourney(drawRouting(routings, dice), *asked.comingBack, dice);
         if (!isPossible(offer.outbound, *offer.back)) return std::nullopt;
         SearchRequest sameCabin = asked;

@@ -5,6 +5,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <map>
+#include <mutex>
+#include <utility>
 
 namespace ombrivane::sandbox {
 
@@ -83,9 +86,7 @@ std::vector<Routing> internationalRoutings(const Airport& from, const Airport& t
     return found;
 }
 
-} // namespace
-
-std::vector<Routing> routingsBetween(const Airport& from, const Airport& to) {
+std::vector<Routing> findRoutings(const Airport& from, const Airport& to) {
     if (from.isDomestic() && to.isDomestic()) return domesticRoutings(from, to);
     const Airport* kathmandu = airportOf("KTM");
     const Airport& gateFrom = from.isInternational() ? from : *kathmandu;
@@ -108,6 +109,17 @@ std::vector<Routing> routingsBetween(const Airport& from, const Airport& to) {
     });
     if (found.size() > mostRoutings) found.resize(mostRoutings);
     return found;
+}
+
+} // namespace
+
+const std::vector<Routing>& routingsBetween(const Airport& from, const Airport& to) {
+    static std::mutex mutex;
+    static std::map<std::pair<const Airport*, const Airport*>, std::vector<Routing>> known;
+    const std::lock_guard lock(mutex);
+    const auto [entry, isNew] = known.try_emplace({&from, &to});
+    if (isNew) entry->second = findRoutings(from, to);
+    return entry->second;
 }
 
 } // namespace ombrivane::sandbox

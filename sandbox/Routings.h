@@ -15,7 +15,8 @@ struct Routing {
     [[nodiscard]] std::size_t legs() const { return carriers.size(); }
 };
 
-/// At least one way of one to three legs, the most direct first.
-std::vector<Routing> routingsBetween(const Airport& from, const Airport& to);
+/// At least one way of one to three legs, the most direct first. Worked out once for each pair; safe from
+/// every thread, and the result stays valid.
+const std::vector<Routing>& routingsBetween(const Airport& from, const Airport& to);
 
 } // namespace ombrivane::sandbox

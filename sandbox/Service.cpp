@@ -136,6 +136,8 @@ HttpAnswer Service::answer(const HttpRequest& request) {
         return answerEndpoint(*found, request);
     } catch (const Refusal& refusal) {
         return refusalAnswer(refusal.what(), refusal.status());
+    } catch (const std::exception& failure) {
+        return refusalAnswer(fmt::format("The sandbox cannot answer this: {}", failure.what()), 500);
     }
 }
 
