@@ -25,7 +25,7 @@ double cabinFactor(std::string_view cabin) {
 double basicPrice(const Journey& journey) {
     const double kilometres = distance(*journey.first().from, *journey.last().to);
     if (journey.first().from->isDomestic() && journey.last().to->isDomestic()) return 2'600 + 15 * kilometres;
-    return kilometres < 4'500 ? 12'000 + 9 * kilometres : 40'000 + 11 * kilometres;
+    return kilometres < 4'500 ? 13'000 + 7 * kilometres : 45'000 + 8.5 * kilometres;
 }
 
 } // namespace
@@ -66,7 +66,7 @@ Fare priceJourney(const SearchRequest& request, const Journey& journey, Dice& di
     fare.checkedKilos = isDomestic ? (brand == 0 ? 15 : 20) : (brand == 0 ? 20 : brand == 1 ? 30 : 40);
     fare.cabinKilos = isDomestic ? 5 : fare.cabin == "M" ? 7 : 10;
 
-    const double demand = dice.between(88, 122) / 100.0;
+    const double demand = dice.between(92, 116) / 100.0;
     const double directness = journey.legs.size() == 1 && !isDomestic ? 1.07 : 1.0;
     const double price = basicPrice(journey) * demand * directness * brandFactors[brand] *
                          journey.first().carrier->fareLevel * cabinFactor(fare.cabin);

@@ -67,6 +67,8 @@ private:
         FormPart part;
         expect("Content-Disposition: form-data; name=\"", "A part must start with its Content-Disposition.");
         std::string_view names = upTo("\"\r\n", "A Content-Disposition must end with a quote and CR LF.");
+        if (names.find_first_of(lineEnd) != std::string_view::npos)
+            throw Refusal("A Content-Disposition must end with a quote and CR LF.");
         constexpr std::string_view fileName = "\"; filename=\"";
         const std::size_t at = names.find(fileName);
         part.name = names.substr(0, at);
@@ -78,6 +80,9 @@ private:
         expect(lineEnd, "An empty line must stand between the headers of a part and its data.");
         part.data =
             upTo(std::string(lineEnd) + delimiter_, "A part does not end with CR LF and the boundary.");
+        // The boundary behind a bare line feed would make two parts one.
+        if (part.data.find(delimiter_) != std::string_view::npos)
+            throw Refusal("A part does not end with CR LF and the boundary.");
         return part;
     }
 

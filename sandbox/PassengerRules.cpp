@@ -21,7 +21,7 @@ struct AgeRule {
 };
 
 constexpr std::array<AgeRule, 3> ageRules{
-    {{"ADT", "adult", 12, 100}, {"CHD", "child", 0, 12}, {"INF", "infant", 0, 2}}};
+    {{"ADT", "An adult", 12, 100}, {"CHD", "A child", 0, 12}, {"INF", "An infant", 0, 2}}};
 
 const AgeRule& ruleFor(const BodyFields& fields) {
     const std::string& type = fields.text("type");
@@ -40,12 +40,12 @@ void checkAge(const BodyFields& fields, const AgeRule& rule, Day lastDay, Instan
     const Day born = day(fields, "dob");
     if (born > now + std::chrono::hours(24)) throw Refusal("A date of birth lies in the future.");
     if (born < plusYears(lastDay, -rule.oldest))
-        throw Refusal(fmt::format("An {} can be at most {} years old on the last day of travel: see {}.",
+        throw Refusal(fmt::format("{} can be at most {} years old on the last day of travel: see {}.",
                                   rule.name,
                                   rule.oldest,
                                   fields.name("dob")));
     if (rule.youngest > 0 && born > plusYears(lastDay, -rule.youngest))
-        throw Refusal(fmt::format("An {} must be {} years old on the last day of travel: see {}.",
+        throw Refusal(fmt::format("{} must be {} years old on the last day of travel: see {}.",
                                   rule.name,
                                   rule.youngest,
                                   fields.name("dob")));
