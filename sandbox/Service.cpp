@@ -54,7 +54,14 @@ Json parsedBody(const HttpRequest& request) {
     const std::string type = request.header("Content-Type");
     if (!equalIgnoringCase(type.substr(0, type.find(';')), "application/json"))
         throw Refusal("The Content-Type must be application/json.");
-    Json body = Json::parse(request.body, nullptr, false);
+    // What is nested without end would exhaust the stack when it is copied.
+    bool isTooDeep = false;
+    const auto watchDepth = [&](int depth, Json::parse_event_t, const Json&) {
+        isTooDeep = isTooDeep || depth > 64;
+        return !isTooDeep;
+    };
+    Json body = Json::parse(request.body, watchDepth, false);
+    if (isTooDeep) throw Refusal("The request body is nested too deeply.");
     if (body.is_discarded()) throw Refusal("The request body is no JSON.");
     return body;
 }

@@ -202,7 +202,7 @@ TEST(Faults, HappenAfterSoManyRequestsAndSoOften) {
     EXPECT_EQ(statuses, (std::vector<int>{404, 500, 500, 200, 200}));
 }
 
-TEST(Faults, ARefusedOrRedirectedReservationIsNotMadeButADroppedAnswerIs) {
+TEST(Faults, ARefusedOrRedirectedRequestIsNotDoneButOneWithoutAnAnswerIs) {
     struct Effect {
         const char* fault;
         bool isDone;

@@ -131,6 +131,44 @@ TEST(CommandLine, RefusesWhatItCannotRead) {
         EXPECT_THROW(parseCommandLine(wrong), std::invalid_argument) << wrong.front() << wrong.size();
 }
 
+TEST(Server, AnswersSeveralRequestsOnOneConnection) {
+    Sandbox sandbox;
+    sandbox.start();
+    const WireAnswer answer =
+        exchange(sandbox.address(), sandbox.caFile(), {"POST", "/api/b2b/v2/get-token", {}, "{}", 3});
+    EXPECT_EQ(sandbox.counters().requests, 3U);
+    EXPECT_EQ(sandbox.counters().connections, 1U);
+    EXPECT_EQ(answer.end, WireEnd::InOrder);
+    std::size_t answers = 0;
+    for (std::size_t at = 0; (at = answer.bytes.find("HTTP/1.1 422", at)) != std::string::npos; ++at)
+        ++answers;
+    EXPECT_EQ(answers, 3U);
+}
+
+TEST(Server, RefusesWhatItCannotRead) {
+    struct Case {
+        WireRequest request;
+        int status;
+        const char* error;
+    };
+    const std::string json = "Content-Type: application/json";
+    const std::string deep = std::string(100'000, '[') + std::string(100'000, ']');
+    Sandbox sandbox;
+    sandbox.start();
+    for (const Case& scenario :
+         {Case{{"GET", "/api/b2b/v2/get-token"}, 405, "/get-token takes POST."},
+          Case{{"GET", "/api/b2b/v1/get-token"}, 404, "There is nothing at /api/b2b/v1/get-token."},
+          Case{{"POST", "/api/b2b/v2/get-token", {json}, "{"}, 422, "The request body is no JSON."},
+          Case{
+              {"POST", "/api/b2b/v2/get-token", {json}, deep}, 422, "The request body is nested too deeply."},
+          Case{{"POST", "/x", {"Transfer-Encoding: chunked"}}, 411, "A Content-Length is needed."},
+          Case{{"GET", "/x", {"no colon"}}, 400, "A header has no colon."}}) {
+        const WireAnswer answer = exchange(sandbox.address(), sandbox.caFile(), scenario.request);
+        EXPECT_EQ(answer.status(), scenario.status) << scenario.error;
+        EXPECT_EQ(ServiceClient::error(Json::parse(answer.body())), scenario.error);
+    }
+}
+
 TEST(Controls, ShowAndChangeTheSandboxWithoutBeingCounted) {
     ServiceClient client(frozenOptions());
     const auto control = [&](const char* method, const char* path, const char* body) {

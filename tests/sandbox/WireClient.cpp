@@ -42,6 +42,15 @@ public:
 using Context = std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)>;
 using Tls = std::unique_ptr<SSL, decltype(&SSL_free)>;
 
+std::string requestText(const WireRequest& request, bool isLast) {
+    std::string text = request.method + " " + request.target + " HTTP/1.1\r\nHost: localhost\r\n";
+    if (isLast) text += "Connection: close\r\n";
+    for (const std::string& header : request.headers)
+        text.append(header).append("\r\n");
+    text.append("Content-Length: ").append(std::to_string(request.body.size())).append("\r\n\r\n");
+    return text.append(request.body);
+}
+
 WireEnd endOf(int failure) {
     if (errno == EAGAIN || errno == EWOULDBLOCK || failure == SSL_ERROR_WANT_READ) return WireEnd::StillOpen;
     return errno == ECONNRESET ? WireEnd::Reset : WireEnd::InOrder;
@@ -80,12 +89,9 @@ WireAnswer exchange(const std::string& address, const std::filesystem::path& caF
         answer.handshakeFault = X509_verify_cert_error_string(SSL_get_verify_result(tls.get()));
         return answer;
     }
-    std::string text =
-        request.method + " " + request.target + " HTTP/1.1\r\nHost: localhost\r\nConnection: close\r\n";
-    for (const std::string& header : request.headers)
-        text.append(header).append("\r\n");
-    text.append("Content-Length: ").append(std::to_string(request.body.size())).append("\r\n\r\n");
-    text.append(request.body);
+    std::string text;
+    for (int left = request.repeats; left > 0; --left)
+        text += requestText(request, left == 1);
     SSL_write(tls.get(), text.data(), static_cast<int>(text.size()));
 
     const auto sent = Clock::now();

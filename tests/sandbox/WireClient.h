@@ -23,9 +23,10 @@ struct WireAnswer {
 
 struct WireRequest {
     std::string method = "GET";
-    std::string target;
-    std::vector<std::string> headers;
-    std::string body;
+    std::string target{};
+    std::vector<std::string> headers{};
+    std::string body{};
+    int repeats = 1; ///< how often it is sent on the one connection
 };
 
 /// Connects to "https://localhost:PORT", checks the certificate against the file and the name, sends the
