@@ -106,16 +106,25 @@ TEST_F(Itinerary, IsPricedAnewForEverySeventhOffer) {
 }
 
 TEST_F(Itinerary, AnswersARoundTripWithBothDirections) {
-    const Json offer = client_.post("/search-flights", roundBody("KTM", "LHR")).at("data").at(0);
-    const Json data = availability(offer, "round").at("data");
-    const Json& flights = data["flightsSummary"];
-    EXPECT_EQ(flights.size(), 34U);
-    EXPECT_EQ(flights["return_depart_country"], "United Kingdom");
-    EXPECT_EQ(flights["flight_segments_outbound"].size(),
-              offer["flight_departure_summary"]["segments"].size());
-    EXPECT_EQ(flights["flight_segments_return"].size(), offer["flight_return_summary"]["segments"].size());
-    EXPECT_EQ(flights["flight_segments_outbound"][0].size(), 18U);
-    EXPECT_EQ(data["baggageDetails"]["return"].size(), 2U);
+    for (const Json& offer : client_.post("/search-flights", roundBody("KTM", "LHR")).at("data")) {
+        const Json data = availability(offer, "round").at("data");
+        const Json& flights = data["flightsSummary"];
+        EXPECT_EQ(flights.size(), 34U);
+        EXPECT_EQ(flights["return_depart_country"], "United Kingdom");
+        EXPECT_EQ(data["baggageDetails"]["return"].size(), 2U);
+        for (const auto& [searched, answered] :
+             {std::pair{"flight_departure_summary", "flight_segments_outbound"},
+              std::pair{"flight_return_summary", "flight_segments_return"}}) {
+            const Json& before = offer[searched]["segments"];
+            const Json& now = flights[answered];
+            ASSERT_EQ(now.size(), before.size());
+            EXPECT_EQ(now[0].size(), 18U);
+            EXPECT_EQ(now[0]["seg_connection_time"], false);
+            // A search tells the connection behind a leg, an availability the one before it.
+            for (std::size_t i = 1; i < now.size(); ++i)
+                EXPECT_EQ(now[i]["seg_connection_time"], before[i - 1]["connection_time"]);
+        }
+    }
 }
 
 class Documents : public testing::TestWithParam<std::tuple<DocumentsRule, std::string, bool, std::string>> {};

@@ -1,8 +1,9 @@
 #include "tests/sandbox/ServiceClient.h"
 
-#include "sandbox/OfferTree.h"
+#include "sandbox/Logos.h"
 
 #include <gtest/gtest.h>
+#include <png.h>
 
 #include <map>
 #include <sstream>
@@ -203,8 +204,30 @@ TEST_F(OfferTreeTest, LogosArePicturesOfTheSandboxItself) {
     ASSERT_EQ(link.substr(0, address.size()), address);
     const WireAnswer logo = client_.send({"GET", link.substr(address.size()), {}, ""});
     EXPECT_EQ(logo.header("Content-Type"), "image/png");
-    EXPECT_EQ(logo.body().substr(0, 8), "\x89PNG\r\n\x1a\n");
     EXPECT_EQ(logo.body().substr(16, 8), std::string("\0\0\0\x60\0\0\0\x60", 8)) << "96 by 96 points";
+}
+
+TEST(Logo, IsAMarkOnAColouredTileWithRoundCorners) {
+    for (const Airline& airline : airlines()) {
+        SCOPED_TRACE(airline.name);
+        const std::string bytes = logoPng(airline);
+        png_image image{};
+        image.version = PNG_IMAGE_VERSION;
+        ASSERT_NE(png_image_begin_read_from_memory(&image, bytes.data(), bytes.size()), 0);
+        image.format = PNG_FORMAT_RGBA;
+        std::vector<std::uint8_t> points(PNG_IMAGE_SIZE(image));
+        ASSERT_NE(png_image_finish_read(&image, nullptr, points.data(), 0, nullptr), 0);
+        int tile = 0;
+        int mark = 0;
+        for (std::size_t i = 0; i < points.size(); i += 4) {
+            const unsigned colour = unsigned{points[i]} << 16 | unsigned{points[i + 1]} << 8 | points[i + 2];
+            tile += points[i + 3] == 255 && colour == airline.colour ? 1 : 0;
+            mark += points[i + 3] == 255 && colour == 0xFFFFFF ? 1 : 0;
+        }
+        EXPECT_EQ(points[3], 0) << "the corner is clear";
+        EXPECT_GT(tile, 3'000);
+        EXPECT_GT(mark, 700);
+    }
 }
 
 } // namespace

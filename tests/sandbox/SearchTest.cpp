@@ -2,12 +2,14 @@
 
 #include "sandbox/Airports.h"
 #include "sandbox/Countries.h"
+#include "sandbox/ServiceClock.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
 #include <set>
+#include <thread>
 
 namespace ombrivane::sandbox {
 
@@ -178,6 +180,50 @@ TEST(Search, GivesPlausiblePricesAndTimes) {
             }
         }
     }
+}
+
+TEST(Search, GivesLocalTimesThatFitTheTimeInTheAir) {
+    const auto instant = [](const Json& zoned) {
+        std::string text = zoned.get<std::string>();
+        return parseInstant(text.erase(text.find(".000"), 4)).value();
+    };
+    ServiceClient client(frozenOptions());
+    const Json offers = client.post("/search-flights", searchBody("KTM", "LAX"))["data"];
+    int legs = 0;
+    for (const Json& offer : offers)
+        for (const Json& leg : offer["flight_summary"]["segments"]) {
+            if (!leg.contains("segment_details")) continue;
+            const auto time = instant(leg["timeOfArrivalSystem"]) - instant(leg["timeOfDepartureSystem"]);
+            EXPECT_EQ(std::to_string(time / std::chrono::minutes(1)),
+                      leg["segment_details"]["attributes"]["FlightTime"].get<std::string>());
+            ++legs;
+        }
+    EXPECT_GT(legs, 20);
+}
+
+TEST(Search, OffersNoWayBackBeforeTheWayOutArrives) {
+    ServiceClient client(frozenOptions());
+    Json body = roundBody("KTM", "AKL");
+    body["return_date"] = body["depart_date"];
+    EXPECT_EQ(ServiceClient::error(client.post("/search-flights", body)),
+              "Sorry! No flight recommendations found.");
+    body["dest_city"] = "DEL";
+    for (const Json& offer : client.post("/search-flights", body)["data"]) {
+        EXPECT_EQ(offer["flight_departure_summary"]["dateOfArrival"], "2026-03-10");
+        EXPECT_LT(offer["flight_departure_summary"]["timeOfArrival"],
+                  offer["flight_return_summary"]["timeOfDeparture"]);
+    }
+}
+
+TEST(Clock, RunsOrStandsAndIsTurnedByHand) {
+    const Instant start = parseInstant("2026-03-01T12:00:00Z").value();
+    ServiceClock running(start, false);
+    ServiceClock standing(start, true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+    running.advance(std::chrono::seconds(60));
+    standing.advance(std::chrono::seconds(60));
+    EXPECT_GT(running.now(), start + std::chrono::seconds(60));
+    EXPECT_EQ(standing.now(), start + std::chrono::seconds(60));
 }
 
 TEST(Search, HonoursCabinTravellersAndTheNumberOfOffers) {
