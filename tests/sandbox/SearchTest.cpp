@@ -208,7 +208,9 @@ TEST(Search, OffersNoWayBackBeforeTheWayOutArrives) {
     EXPECT_EQ(ServiceClient::error(client.post("/search-flights", body)),
               "Sorry! No flight recommendations found.");
     body["dest_city"] = "DEL";
-    for (const Json& offer : client.post("/search-flights", body)["data"]) {
+    const Json offers = client.post("/search-flights", body)["data"];
+    EXPECT_FALSE(offers.empty());
+    for (const Json& offer : offers) {
         EXPECT_EQ(offer["flight_departure_summary"]["dateOfArrival"], "2026-03-10");
         EXPECT_LT(offer["flight_departure_summary"]["timeOfArrival"],
                   offer["flight_return_summary"]["timeOfDeparture"]);
