@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/ImageCodec.h"
+
+namespace ombrivane {
+
+/// Pictures by libjpeg-turbo and libpng. Colour profiles and metadata are left aside, but for the orientation
+/// of a JPEG. Neither library prints. Holds no state.
+class JpegPngCodec final : public ImageCodec {
+public:
+    std::optional<Image> decode(const std::string& bytes, const PictureLimits& limits) override;
+    std::optional<std::string> jpeg(const Image& image, double quality) override;
+    std::optional<std::string> png(const Image& image) override;
+};
+
+} // namespace ombrivane

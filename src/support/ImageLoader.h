@@ -1,0 +1,37 @@
+#pragma once
+
+#include "support/Field.h"
+#include "support/ImageCache.h"
+#include "support/KeyedImage.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ombrivane {
+
+/// Brings the picture at one address. Made by `std::make_shared`. Main thread only.
+class ImageLoader : public std::enable_shared_from_this<ImageLoader> {
+public:
+    /// @param cache where pictures are looked up and kept; may be absent.
+    ImageLoader(std::string url, std::shared_ptr<ImageCache> cache);
+
+    Fields fields;
+    /// What the view shows; none at first and after a failure.
+    Published<std::optional<Image>> image{fields, "image"};
+    Published<bool> isLoading{fields, "isLoading", false};
+
+    /// Takes the picture from the cache or fetches it. Does nothing during a load, and for an address that is
+    /// neither http nor https. A load that has started goes on and fills the cache when its loader is gone.
+    void load();
+
+    const std::string& url() const { return url_; }
+
+private:
+    void receive(const std::optional<Image>& fetched);
+
+    std::string url_;
+    std::shared_ptr<ImageCache> cache_;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,33 @@
+#include "support/PhotoPicker.h"
+
+#include "platform/Platform.h"
+
+#include <memory>
+
+namespace ombrivane {
+
+PhotoPicker::PhotoPicker(const Field<std::optional<Image>>& source) :
+    Screen("PhotoPicker"), image(fields, "image", source) {}
+
+void PhotoPicker::appear() {
+    platform().photos->present([weak = weak_from_this()](const PhotoLibrary::Picked& picked) {
+        const auto screen = weak.lock();
+        if (screen) static_cast<PhotoPicker&>(*screen).didFinishPicking(picked);
+    });
+}
+
+void PhotoPicker::disappear() { platform().photos->dismiss(); }
+
+void PhotoPicker::didFinishPicking(const PhotoLibrary::Picked& picked) {
+    if (!picked.cancelled && picked.editedImage) {
+        // A picture that cannot be compressed is none; the customer may pick another.
+        const auto compressed = platform().images->jpeg(*picked.editedImage, compressionQuality);
+        if (!compressed) return;
+        const auto decoded = platform().images->decode(*compressed, documentLimits());
+        if (!decoded) return;
+        image = decoded;
+    }
+    dismiss();
+}
+
+} // namespace ombrivane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/PhotoLibrary.h"
+#include "support/Field.h"
+#include "support/KeyedImage.h"
+#include "support/Screen.h"
+
+#include <optional>
+
+namespace ombrivane {
+
+/// The device's photo library as a sheet: hands back one picture, that of a travel document.
+class PhotoPicker final : public Screen {
+public:
+    /// Every document picture passes through a JPEG of this quality, which bounds what an upload of it takes.
+    static constexpr double compressionQuality = 0.5;
+
+    /// @param source is written with the picture.
+    explicit PhotoPicker(const Field<std::optional<Image>>& source);
+
+    Binding<std::optional<Image>> image;
+
+    void appear() override;
+    void disappear() override;
+
+private:
+    void didFinishPicking(const PhotoLibrary::Picked& picked);
+};
+
+} // namespace ombrivane

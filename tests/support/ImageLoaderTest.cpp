@@ -1,0 +1,127 @@
+#include "support/ImageLoader.h"
+
+#include "fakes/World.h"
+#include "support/CustomAsyncImageView.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* address = "https://logos.example/a.png";
+
+class ImageLoaderTest : public testing::Test {
+protected:
+    std::shared_ptr<ImageLoader> loader(const std::string& url = address) const {
+        return std::make_shared<ImageLoader>(url, cache);
+    }
+
+    /// Lets the decoding thread and the main queue finish.
+    bool settle(const std::function<bool()>& done) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (!done() && std::chrono::steady_clock::now() < end) {
+            world.queue->drain();
+            std::this_thread::yield();
+        }
+        return done();
+    }
+
+    static std::string logo() {
+        const auto points = std::make_shared<std::vector<std::uint8_t>>(2 * 3 * 4, std::uint8_t{200});
+        return *platform().images->png({2, 3, points});
+    }
+
+    fakes::World world;
+    std::shared_ptr<ImageCache> cache = ImageCacheKey::defaultValue();
+};
+
+TEST_F(ImageLoaderTest, FetchesAPictureOnceAndThenTakesItFromTheCache) {
+    const auto first = loader();
+    int told = 0;
+    const auto count = first->image.observe([&] { ++told; });
+    first->load();
+    first->load();
+    EXPECT_TRUE(first->isLoading.get());
+    EXPECT_EQ(world.network->last().url, address);
+    world.network->answer(logo());
+    EXPECT_FALSE(first->image.get()) << "it changes on the main queue only";
+    ASSERT_TRUE(settle([&] { return !first->isLoading.get(); }));
+    EXPECT_EQ(told, 1) << "a second start during a load is dropped";
+    EXPECT_EQ(first->image.read().dump(), R"({"width":2,"height":3})");
+
+    const auto second = loader();
+    bool wasLoading = false;
+    const auto watch = second->isLoading.observe([&] { wasLoading = true; });
+    second->load();
+    EXPECT_EQ(second->image.get(), first->image.get());
+    EXPECT_FALSE(wasLoading);
+    EXPECT_EQ(world.network->sent().size(), 1U);
+}
+
+TEST_F(ImageLoaderTest, ManyLoadersOfOneAddressShareAFetchThatOutlivesThem) {
+    auto gone = loader();
+    const auto waiting = loader();
+    const auto other = loader("https://logos.example/b.png");
+    for (const auto& each : {gone, waiting, other})
+        each->load();
+    EXPECT_EQ(world.network->sent().size(), 2U);
+    const std::weak_ptr<ImageLoader> weak = gone;
+    gone.reset();
+    EXPECT_TRUE(weak.expired()) << "a load keeps no loader alive";
+    world.network->answer(logo());
+    ASSERT_TRUE(settle([&] { return !waiting->isLoading.get(); }));
+    EXPECT_TRUE(waiting->image.get());
+    EXPECT_TRUE(other->isLoading.get());
+
+    auto left = loader("https://logos.example/c.png");
+    left->load();
+    left.reset();
+    world.network->answer(logo(), 1);
+    EXPECT_TRUE(settle([&] { return cache->image("https://logos.example/c.png").has_value(); }));
+}
+
+TEST_F(ImageLoaderTest, AFailureLeavesNoPictureAndTheNextLoadTriesAgain) {
+    const auto each = loader();
+    const std::vector<HttpAnswer> failures = {{std::nullopt, Error{"Fake", 1, "offline"}},
+                                              {"", std::nullopt},
+                                              {"<svg/>", std::nullopt},
+                                              {std::nullopt, std::nullopt}};
+    for (const auto& failure : failures) {
+        each->load();
+        ASSERT_TRUE(each->isLoading.get());
+        world.network->complete(failure);
+        ASSERT_TRUE(settle([&] { return !each->isLoading.get(); }));
+        EXPECT_FALSE(each->image.get());
+        EXPECT_FALSE(cache->image(address));
+    }
+    EXPECT_EQ(world.network->sent().size(), failures.size());
+}
+
+TEST_F(ImageLoaderTest, FetchesFromTheWebOnly) {
+    for (const char* url :
+         {"", "dummyurl", "file:///etc/passwd", "ftp://x/a.png", " https://x/a.png", "http:/x", "data:,a"}) {
+        const auto each = loader(url);
+        each->load();
+        EXPECT_FALSE(each->isLoading.get()) << url;
+    }
+    EXPECT_TRUE(world.network->sent().empty());
+    loader("HTTP://x/a.png")->load();
+    EXPECT_EQ(world.network->sent().size(), 1U);
+}
+
+TEST_F(ImageLoaderTest, AViewShowsItsPlaceholderUntilThePictureHasArrived) {
+    const auto view = std::make_shared<CustomAsyncImageView>(address, "Loading ...");
+    view->appear();
+    EXPECT_EQ(readAll(view->fields).dump(),
+              R"({"loader":{"image":null,"isLoading":true},"placeholder":"Loading ...","image":null})");
+    EXPECT_THROW(view->loader.model()->find("image")->write(Json{{"width", 1}}), KeyedError);
+    world.network->answer(logo());
+    ASSERT_TRUE(settle([&] { return view->image.get().has_value(); }));
+    EXPECT_EQ(view->placeholder.get(), "");
+}
+
+} // namespace
+} // namespace ombrivane

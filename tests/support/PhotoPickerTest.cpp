@@ -1,0 +1,85 @@
+#include "support/PhotoPicker.h"
+
+#include "fakes/World.h"
+#include "support/Link.h"
+#include "support/Navigator.h"
+
+#include <gtest/gtest.h>
+
+namespace ombrivane {
+namespace {
+
+class Form final : public Screen {
+public:
+    Form() : Screen("Form") {}
+    Published<std::optional<Image>> documentImage{fields, "documentImage"};
+    Published<bool> isShowingPhotoPicker{fields, "isShowingPhotoPicker", false};
+    Link picker{*this, Presentation::sheet, isShowingPhotoPicker, [this] {
+                    return std::make_shared<PhotoPicker>(documentImage);
+                }};
+};
+
+Image photo(std::uint8_t shade, int width = 4, int height = 2) {
+    return {width,
+            height,
+            std::make_shared<std::vector<std::uint8_t>>(static_cast<std::size_t>(width * height * 4), shade)};
+}
+
+class PhotoPickerTest : public testing::Test {
+protected:
+    PhotoPickerTest() {
+        navigator.start();
+        open();
+    }
+    void open() { form->isShowingPhotoPicker = true; }
+    bool isClosed() { return !form->isShowingPhotoPicker.get() && !world.photos->isOpen(); }
+
+    fakes::World world;
+    std::shared_ptr<Form> form = std::make_shared<Form>();
+    Navigator navigator{form};
+};
+
+TEST_F(PhotoPickerTest, WritesThePickedPictureThroughJpegAndReplacesTheOneBefore) {
+    ASSERT_TRUE(world.photos->isOpen());
+    world.photos->pick({false, photo(200)});
+    ASSERT_TRUE(isClosed());
+    const Image first = form->documentImage.get().value();
+    EXPECT_EQ(first.width, 4);
+    EXPECT_EQ(first.points->at(3), 255) << "a JPEG has no opacity";
+
+    open();
+    world.photos->pick({false, photo(255, 2, 2)});
+    ASSERT_TRUE(isClosed());
+    EXPECT_EQ(form->documentImage.get()->width, 2);
+}
+
+TEST_F(PhotoPickerTest, ClosesWithoutWritingWhenNoPictureWasPicked) {
+    const Image before = photo(9);
+    form->documentImage = before;
+    for (const auto& picked : {PhotoLibrary::Picked{true, std::nullopt},
+                               PhotoLibrary::Picked{false, std::nullopt},
+                               PhotoLibrary::Picked{true, photo(1)}}) {
+        open();
+        world.photos->pick(picked);
+        EXPECT_TRUE(isClosed());
+        EXPECT_EQ(form->documentImage.get(), before);
+    }
+}
+
+TEST_F(PhotoPickerTest, StaysOpenWhenThePictureCannotBeCompressed) {
+    world.photos->pick({false, Image{70'000, 1, photo(1, 70'000, 1).points}});
+    EXPECT_TRUE(form->isShowingPhotoPicker.get());
+    EXPECT_TRUE(world.photos->isOpen());
+    EXPECT_FALSE(form->documentImage.get());
+    world.photos->pick({false, photo(1)});
+    EXPECT_TRUE(isClosed());
+    EXPECT_TRUE(form->documentImage.get());
+}
+
+TEST_F(PhotoPickerTest, ClosesTheLibraryWithTheScreen) {
+    navigator.back();
+    EXPECT_TRUE(isClosed());
+}
+
+} // namespace
+} // namespace ombrivane
