@@ -5,8 +5,8 @@
 namespace ombrivane {
 namespace {
 
-/// On a photo this is as small as the library's default, which tries every filter and packs harder, and takes an
-/// eighth of its time: 0.27 s for 12 megapixels.
+/// On a photo this is as small as the library's default, which tries every filter and packs harder, and takes
+/// an eighth of its time: 0.27 s for 12 megapixels.
 constexpr int compressionLevel = 2;
 constexpr int rowFilter = PNG_FILTER_UP;
 

@@ -22,8 +22,9 @@ public:
     void beginItem();
     void endItem();
 
-    /// The paragraphs of a table's row are joined to one, unless the row holds a list or a table. A row ends with
-    /// the next one and with its table. Outside of a table a row and a cell are paragraphs like any other.
+    /// The paragraphs of a table's row are joined to one, unless the row holds a list or a table. A row ends
+    /// with the next one and with its table. Outside of a table a row and a cell are paragraphs like any
+    /// other.
     void beginTable();
     void endTable();
     void beginRow();

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "support/Date.h"
+
+namespace ombrivane {
+
+/// What time it is.
+class Clock {
+public:
+    Clock() = default;
+    Clock(const Clock&) = delete;
+    Clock& operator=(const Clock&) = delete;
+    virtual ~Clock() = default;
+
+    virtual Date now() = 0;
+};
+
+} // namespace ombrivane

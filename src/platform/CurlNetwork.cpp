@@ -1,0 +1,116 @@
+#include "platform/CurlNetwork.h"
+
+#include "platform/CurlTransfer.h"
+
+#include <map>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace ombrivane {
+namespace {
+
+struct FreeMulti {
+    void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
+};
+
+} // namespace
+
+/// The network's thread. New transfers are handed over under a lock; all else is the thread's own.
+class CurlNetwork::Worker {
+public:
+    explicit Worker(CurlSettings settings) : settings_(std::move(settings)) {
+        thread_ = std::thread([this] { run(); });
+    }
+
+    ~Worker() {
+        {
+            const std::lock_guard lock(mutex_);
+            stopping_ = true;
+        }
+        curl_multi_wakeup(multi_.get());
+        thread_.join();
+    }
+
+    const CurlSettings& settings() const { return settings_; }
+
+    void add(std::unique_ptr<CurlTransfer> transfer) {
+        if (!settings_.caFile.empty()) transfer->trust(settings_.caFile);
+        {
+            const std::lock_guard lock(mutex_);
+            arrived_.push_back(std::move(transfer));
+        }
+        curl_multi_wakeup(multi_.get());
+    }
+
+private:
+    bool takeArrived() {
+        const std::lock_guard lock(mutex_);
+        for (auto& transfer : arrived_) {
+            CURL* handle = transfer->handle();
+            curl_multi_add_handle(multi_.get(), handle);
+            running_.emplace(handle, std::move(transfer));
+        }
+        arrived_.clear();
+        return !stopping_;
+    }
+
+    void finishDone() {
+        int left = 0;
+        while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
+            if (message->msg != CURLMSG_DONE) continue;
+            const CURLcode result = message->data.result;
+            auto finished = running_.extract(message->easy_handle);
+            curl_multi_remove_handle(multi_.get(), finished.key());
+            finished.mapped()->complete(result);
+        }
+    }
+
+    void run() {
+        while (takeArrived()) {
+            int active = 0;
+            curl_multi_perform(multi_.get(), &active);
+            finishDone();
+            curl_multi_poll(multi_.get(), nullptr, 0, 1000, nullptr);
+        }
+        for (auto& [handle, transfer] : running_) {
+            curl_multi_remove_handle(multi_.get(), handle);
+            transfer->abandon();
+        }
+        running_.clear();
+        // A completion may have asked for more; nothing is left without an answer.
+        for (auto& transfer : std::exchange(arrived_, {}))
+            transfer->abandon();
+    }
+
+    CurlSettings settings_;
+    std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<CurlTransfer>> arrived_;
+    std::map<CURL*, std::unique_ptr<CurlTransfer>> running_;
+    bool stopping_ = false;
+    std::thread thread_;
+};
+
+CurlNetwork::CurlNetwork(CurlSettings settings) : worker_(std::make_unique<Worker>(std::move(settings))) {}
+
+CurlNetwork::~CurlNetwork() = default;
+
+void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
+    auto transfer = std::make_unique<CurlTransfer>(
+        std::move(request), std::move(completion), worker_->settings().answerBytes);
+    transfer->isolate();
+    worker_->add(std::move(transfer));
+}
+
+void CurlNetwork::fetchPicture(const std::string& url, HttpCompletion completion) {
+    HttpRequest request;
+    request.url = url;
+    auto transfer = std::make_unique<CurlTransfer>(
+        std::move(request), std::move(completion), worker_->settings().pictureBytes);
+    transfer->shareConnections();
+    worker_->add(std::move(transfer));
+}
+
+} // namespace ombrivane

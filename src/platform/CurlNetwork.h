@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Limits.h"
+#include "platform/Network.h"
+
+#include <memory>
+#include <string>
+
+namespace ombrivane {
+
+struct CurlSettings {
+    std::string caFile; ///< PEM; empty for the platform's trust store
+    std::size_t answerBytes = limits::answerBytes;
+    std::size_t pictureBytes = limits::logoBytes;
+};
+
+/// The network by libcurl: one thread, one handle per request.
+///
+/// A request of the service gets a connection of its own that is closed after it, so nothing is ever sent
+/// twice. The platform's trust store decides over certificates, or the file that a developer names.
+class CurlNetwork final : public Network {
+public:
+    explicit CurlNetwork(CurlSettings settings = {});
+    ~CurlNetwork() override;
+
+    void send(HttpRequest request, HttpCompletion completion) override;
+    void fetchPicture(const std::string& url, HttpCompletion completion) override;
+
+private:
+    class Worker;
+    std::unique_ptr<Worker> worker_;
+};
+
+} // namespace ombrivane

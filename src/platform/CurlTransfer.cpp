@@ -1,0 +1,91 @@
+#include "platform/CurlTransfer.h"
+
+#include "support/Fault.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* domain = "Network";
+constexpr const char* tooLargeText = "The answer is too large.";
+constexpr const char* abandonedText = "The request was cancelled.";
+
+template <class Value> void set(CURL* handle, CURLoption option, Value value) {
+    curl_easy_setopt(handle, option, value);
+}
+
+} // namespace
+
+CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::size_t limit) :
+    request_(std::move(request)),
+    completion_(std::move(completion)),
+    limit_(limit),
+    handle_(curl_easy_init()) {
+    CURL* curl = handle();
+    for (const auto& [name, value] : request_.headers) {
+        headers_.reset(curl_slist_append(headers_.release(), (name + ": " + value).c_str()));
+    }
+    // Without this line a larger body would wait for the server's "100 Continue".
+    headers_.reset(curl_slist_append(headers_.release(), "Expect:"));
+
+    set(curl, CURLOPT_URL, request_.url.c_str());
+    set(curl, CURLOPT_HTTPHEADER, headers_.get());
+    if (request_.method == "POST") {
+        const std::string empty;
+        const std::string& body = request_.body ? *request_.body : empty;
+        set(curl, CURLOPT_POST, 1L);
+        set(curl, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
+        set(curl, request_.body ? CURLOPT_POSTFIELDS : CURLOPT_COPYPOSTFIELDS, body.c_str());
+    }
+    set(curl, CURLOPT_NOSIGNAL, 1L);
+    set(curl, CURLOPT_ACCEPT_ENCODING, "");
+    set(curl, CURLOPT_CONNECTTIMEOUT, static_cast<long>(request_.timeoutInterval.count()));
+    set(curl, CURLOPT_LOW_SPEED_LIMIT, 1L);
+    set(curl, CURLOPT_LOW_SPEED_TIME, static_cast<long>(request_.timeoutInterval.count()));
+    set(curl, CURLOPT_TIMEOUT, static_cast<long>(request_.wholeInterval.count()));
+    set(curl, CURLOPT_WRITEFUNCTION, &CurlTransfer::receive);
+    set(curl, CURLOPT_WRITEDATA, this);
+}
+
+void CurlTransfer::trust(const std::string& file) {
+    set(handle(), CURLOPT_CAINFO, file.c_str());
+    set(handle(), CURLOPT_CAPATH, nullptr);
+}
+
+void CurlTransfer::isolate() {
+    set(handle(), CURLOPT_PROTOCOLS_STR, "https");
+    set(handle(), CURLOPT_FRESH_CONNECT, 1L);
+    set(handle(), CURLOPT_FORBID_REUSE, 1L);
+    set(handle(), CURLOPT_FOLLOWLOCATION, 0L);
+}
+
+void CurlTransfer::shareConnections() {
+    set(handle(), CURLOPT_PROTOCOLS_STR, "https,http");
+    set(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https,http");
+    set(handle(), CURLOPT_FOLLOWLOCATION, 1L);
+    set(handle(), CURLOPT_MAXREDIRS, 5L);
+}
+
+std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t count, void* self) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    const std::size_t length = size * count;
+    if (length > transfer.limit_ - transfer.received_.size()) {
+        transfer.tooLarge_ = true;
+        return 0;
+    }
+    transfer.received_.append(bytes, length);
+    return length;
+}
+
+void CurlTransfer::fail(int code, const std::string& text) {
+    guarded([&] { completion_({std::nullopt, Error{domain, code, text}}); });
+}
+
+void CurlTransfer::complete(CURLcode result) {
+    if (tooLarge_) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText);
+    if (result != CURLE_OK) return fail(result, curl_easy_strerror(result));
+    guarded([&] { completion_({std::move(received_), std::nullopt}); });
+}
+
+void CurlTransfer::abandon() { fail(CURLE_ABORTED_BY_CALLBACK, abandonedText); }
+
+} // namespace ombrivane

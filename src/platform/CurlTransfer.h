@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/HttpRequest.h"
+
+#include <curl/curl.h>
+
+#include <memory>
+#include <string>
+
+namespace ombrivane {
+
+/// One request on its way: libcurl's handle with everything that it points to.
+class CurlTransfer {
+public:
+    CurlTransfer(HttpRequest request, HttpCompletion completion, std::size_t limit);
+    CurlTransfer(const CurlTransfer&) = delete;
+    CurlTransfer& operator=(const CurlTransfer&) = delete;
+
+    CURL* handle() const { return handle_.get(); }
+
+    /// Trusts the certificates of `file` in place of the platform's.
+    void trust(const std::string& file);
+    /// A connection of its own, closed afterwards; no redirect; HTTPS only.
+    void isolate();
+    /// Connections are shared; a redirect is followed a few times.
+    void shareConnections();
+
+    /// Completes with the answer, or with an error when `result` is one.
+    void complete(CURLcode result);
+    /// Completes with the error of a request that was given up.
+    void abandon();
+
+private:
+    struct Free {
+        void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+    };
+
+    static std::size_t receive(char* bytes, std::size_t size, std::size_t count, void* self);
+    void fail(int code, const std::string& text);
+
+    HttpRequest request_;
+    HttpCompletion completion_;
+    std::size_t limit_;
+    std::unique_ptr<CURL, Free> handle_;
+    std::unique_ptr<curl_slist, Free> headers_;
+    std::string received_;
+    bool tooLarge_ = false;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/ResourceBundles.h"
+
+#include <string>
+
+namespace ombrivane {
+
+/// One bundle that is a folder of files.
+class DirectoryBundles final : public ResourceBundles {
+public:
+    DirectoryBundles(std::string identifier, std::string folder) :
+        identifier_(std::move(identifier)), folder_(std::move(folder)) {}
+
+    bool contains(const std::string& identifier) override;
+    std::optional<std::vector<std::string>> urls(const std::string& identifier,
+                                                 const std::string& extension) override;
+
+private:
+    std::string identifier_;
+    std::string folder_;
+};
+
+/// For a program that draws nothing.
+class NoFonts final : public FontRegistry {
+public:
+    void registerFont(const std::string& /*url*/) override {}
+};
+
+} // namespace ombrivane

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Image.h"
+
+#include <optional>
+#include <string>
+
+namespace ombrivane {
+
+/// How large a picture may be, judged by its header before anything is decoded.
+struct PictureLimits {
+    std::size_t bytes;
+    long long side;
+    long long points;
+
+    bool allow(long long width, long long height) const {
+        return width > 0 && height > 0 && width <= side && height <= side && width <= points / height;
+    }
+};
+
+/// Reads and writes PNG and JPEG, told apart by their first bytes; everything else is no picture. Any thread.
+class ImageCodec {
+public:
+    ImageCodec() = default;
+    ImageCodec(const ImageCodec&) = delete;
+    ImageCodec& operator=(const ImageCodec&) = delete;
+    virtual ~ImageCodec() = default;
+
+    /// The picture with its orientation applied, or nothing when the bytes are none or beyond the limits.
+    virtual std::optional<Image> decode(const std::string& bytes, const PictureLimits& limits) = 0;
+
+    /// JPEG at `quality` from 0 to 1, without metadata; nothing when it cannot be made.
+    virtual std::optional<std::string> jpeg(const Image& image, double quality) = 0;
+
+    /// Lossless PNG, without metadata; nothing when it cannot be made.
+    virtual std::optional<std::string> png(const Image& image) = 0;
+};
+
+/// Of a picture from an address.
+PictureLimits logoLimits();
+/// Of a picture that the customer chose.
+PictureLimits documentLimits();
+
+} // namespace ombrivane

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/HttpRequest.h"
+
+namespace ombrivane {
+
+/// The way to the outside. Every completion is called exactly once, on a thread of the network and never from
+/// inside of the call that started it; destruction ends what is under way with an error, delivered before the
+/// destructor returns.
+class Network {
+public:
+    Network() = default;
+    Network(const Network&) = delete;
+    Network& operator=(const Network&) = delete;
+    virtual ~Network() = default;
+
+    /// Sends `request` once, on a fresh connection that is not used again. No redirect is followed; the
+    /// server's certificate must be trusted and name the host. Any thread.
+    virtual void send(HttpRequest request, HttpCompletion completion) = 0;
+
+    /// Fetches a picture at `url` over the shared session: neither token nor cookie goes out. An answer
+    /// larger than the limit for pictures is an error. Any thread.
+    virtual void fetchPicture(const std::string& url, HttpCompletion completion) = 0;
+};
+
+} // namespace ombrivane

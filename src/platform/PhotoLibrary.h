@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Image.h"
+
+#include <functional>
+#include <optional>
+
+namespace ombrivane {
+
+/// The device's picker of one picture, with its editing step.
+class PhotoLibrary {
+public:
+    /// What the customer did: the edited picture when one was picked and is a picture.
+    struct Picked {
+        bool cancelled = false;
+        std::optional<Image> editedImage;
+    };
+    /// Called on the main thread for each answer, until `dismiss`.
+    using Handler = std::function<void(Picked)>;
+
+    PhotoLibrary() = default;
+    PhotoLibrary(const PhotoLibrary&) = delete;
+    PhotoLibrary& operator=(const PhotoLibrary&) = delete;
+    virtual ~PhotoLibrary() = default;
+
+    /// Opens the picker with editing allowed. Main thread.
+    virtual void present(Handler handler) = 0;
+    /// Closes it; the handler is let go and not called again. Main thread.
+    virtual void dismiss() = 0;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,29 @@
+#include "platform/Platform.h"
+
+#include "support/Fault.h"
+
+#include <optional>
+
+namespace ombrivane {
+namespace {
+
+std::optional<Platform>& installed() {
+    static std::optional<Platform> instance;
+    return instance;
+}
+
+} // namespace
+
+void Platform::install(Platform platform) { installed() = std::move(platform); }
+
+const Platform& platform() {
+    if (!installed()) fatalFault("no platform is installed");
+    return *installed();
+}
+
+MainQueue& mainQueue() {
+    if (!platform().mainQueue) fatalFault("the platform has no main queue");
+    return *platform().mainQueue;
+}
+
+} // namespace ombrivane

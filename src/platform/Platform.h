@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/Diagnostics.h"
+#include "platform/ImageCodec.h"
+#include "platform/Localization.h"
+#include "platform/MainQueue.h"
+#include "platform/Network.h"
+#include "platform/PhotoLibrary.h"
+#include "platform/ReachabilityMeasure.h"
+#include "platform/ResourceBundles.h"
+#include "platform/Sharing.h"
+#include "platform/SystemVersion.h"
+
+#include <memory>
+
+namespace ombrivane {
+
+/// All that the component asks of a device. Set once, before the first use; lives until the process ends or
+/// another one is installed.
+struct Platform {
+    std::shared_ptr<MainQueue> mainQueue;
+    std::shared_ptr<Network> network;
+    std::shared_ptr<ReachabilityMeasure> reachability;
+    std::shared_ptr<Clock> clock;
+    std::shared_ptr<ResourceBundles> bundles;
+    std::shared_ptr<FontRegistry> fonts;
+    std::shared_ptr<Localization> localization;
+    std::shared_ptr<ImageCodec> images;
+    std::shared_ptr<PhotoLibrary> photos;
+    std::shared_ptr<UrlOpener> urls;
+    std::shared_ptr<ShareSheet> sharing;
+    std::shared_ptr<Diagnostics> diagnostics = std::make_shared<SilentDiagnostics>();
+    SystemVersion system;
+
+    static void install(Platform platform);
+};
+
+/// The installed platform. A port that was left empty, or no platform at all, is a fault when it is used.
+/// Any thread, after `Platform::install`.
+const Platform& platform();
+
+MainQueue& mainQueue();
+
+} // namespace ombrivane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace ombrivane {
+
+/// Bits of a reachability flag word that decide something.
+inline constexpr std::uint32_t reachableFlag = 2;
+inline constexpr std::uint32_t connectionRequiredFlag = 4;
+
+/// Asks the device whether there is a route; sends no packet.
+class ReachabilityMeasure {
+public:
+    ReachabilityMeasure() = default;
+    ReachabilityMeasure(const ReachabilityMeasure&) = delete;
+    ReachabilityMeasure& operator=(const ReachabilityMeasure&) = delete;
+    virtual ~ReachabilityMeasure() = default;
+
+    /// The flag word, measured afresh; nothing when the device gives none. Any thread; may block.
+    virtual std::optional<std::uint32_t> flags() = 0;
+};
+
+} // namespace ombrivane

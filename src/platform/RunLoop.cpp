@@ -1,0 +1,70 @@
+#include "platform/RunLoop.h"
+
+#include "support/Fault.h"
+
+#include <algorithm>
+
+namespace ombrivane {
+
+using std::chrono::duration_cast;
+using std::chrono::steady_clock;
+
+void RunLoop::async(Step step) {
+    {
+        const std::lock_guard lock(mutex_);
+        steps_.push_back(std::move(step));
+    }
+    arrived_.notify_one();
+}
+
+WorkItem RunLoop::after(Duration delay, Step step) {
+    return timers_.add(now() + delay, std::nullopt, std::move(step));
+}
+
+WorkItem RunLoop::every(Duration interval, Step step) {
+    return timers_.add(now() + interval, interval, std::move(step));
+}
+
+TimerSchedule::Time RunLoop::now() const {
+    return duration_cast<TimerSchedule::Time>(steady_clock::now() - start_) + skipped_;
+}
+
+bool RunLoop::runOne() {
+    Step step;
+    {
+        const std::lock_guard lock(mutex_);
+        if (!steps_.empty()) {
+            step = std::move(steps_.front());
+            steps_.pop_front();
+        }
+    }
+    if (!step) return timers_.runOneDue(now());
+    guarded(step);
+    return true;
+}
+
+bool RunLoop::runUntil(const std::function<bool()>& done, Duration limit) {
+    const auto end = steady_clock::now() + limit;
+    while (!done()) {
+        if (runOne()) continue;
+        if (steady_clock::now() >= end) return false;
+        auto wake = end;
+        if (const auto due = timers_.nextDue()) wake = std::min(wake, start_ + (*due - skipped_));
+        std::unique_lock lock(mutex_);
+        arrived_.wait_until(lock, wake, [this] { return !steps_.empty(); });
+    }
+    return true;
+}
+
+void RunLoop::advance(Duration duration) {
+    const auto target = now() + duration;
+    for (auto due = timers_.nextDue(); due && *due <= target; due = timers_.nextDue()) {
+        skipped_ += std::max(*due - now(), Duration(0));
+        runOne();
+    }
+    skipped_ += std::max(target - now(), Duration(0));
+    while (runOne()) {
+    }
+}
+
+} // namespace ombrivane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/MainQueue.h"
+#include "platform/TimerSchedule.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+
+namespace ombrivane {
+
+/// The main queue of a program without a window: its thread turns the loop.
+class RunLoop final : public MainQueue {
+public:
+    void async(Step step) override;
+    WorkItem after(Duration delay, Step step) override;
+    WorkItem every(Duration interval, Step step) override;
+
+    /// Runs what is queued and due until `done` holds or `limit` of real time has passed.
+    /// @return whether `done` held. Main thread.
+    bool runUntil(const std::function<bool()>& done, Duration limit);
+
+    /// Moves the timers on by `duration` beyond real time and runs what falls due, in its order.
+    void advance(Duration duration);
+
+private:
+    TimerSchedule::Time now() const;
+    bool runOne();
+
+    std::mutex mutex_;
+    std::condition_variable arrived_;
+    std::deque<Step> steps_;
+    TimerSchedule timers_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    Duration skipped_{0};
+};
+
+} // namespace ombrivane

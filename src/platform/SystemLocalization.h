@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Localization.h"
+
+#include <string>
+
+namespace ombrivane {
+
+/// The process's own locale and time zone, unless a developer names others; no translations.
+class SystemLocalization final : public Localization {
+public:
+    SystemLocalization();
+
+    std::string localized(const std::string& key, const std::string& comment) override;
+    std::string locale() override { return locale_; }
+    std::string timeZone() override { return timeZone_; }
+
+    void useLocale(std::string locale) { locale_ = std::move(locale); }
+    void useTimeZone(std::string timeZone) { timeZone_ = std::move(timeZone); }
+
+private:
+    std::string locale_;
+    std::string timeZone_;
+};
+
+} // namespace ombrivane

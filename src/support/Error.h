@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace ombrivane {
+
+/// A failure that is part of life: it travels through completions and, at the boundary, to the host.
+struct Error {
+    std::string domain;
+    int code = 0;
+    /// What a customer may read. Never holds a secret, a token or personal data.
+    std::string localizedDescription;
+    /// What a developer wants to know besides, for instance the key that an answer lacked. Not shown.
+    std::string developerDescription = {};
+
+    bool operator==(const Error&) const = default;
+};
+
+} // namespace ombrivane

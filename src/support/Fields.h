@@ -1,0 +1,89 @@
+#pragma once
+
+#include "support/Json.h"
+#include "support/Observable.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ombrivane {
+
+class Fields;
+
+/// A key that does not exist, a value of the wrong form, a member that cannot do what was asked: the mistake
+/// of whoever works a screen by its keys, never of a customer.
+class KeyedError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class MemberKind { field, derived, action, model, rows };
+
+/// One keyed member of a model or a screen: a field, a derived value, an action, a model, a list of rows.
+class Member {
+public:
+    Member(Fields& owner, std::string_view key, MemberKind kind);
+    Member(const Member&) = delete;
+    Member& operator=(const Member&) = delete;
+
+    std::string_view key() const { return key_; }
+    MemberKind kind() const { return kind_; }
+
+    /// The value as JSON; for an action its `{"enabled": …}`.
+    /// @throws KeyedError where the member has no value.
+    virtual Json read() const;
+    /// Assigns a field from JSON. @throws KeyedError for another kind or a value of the wrong form.
+    virtual void write(const Json& value);
+    /// Does what a tap does. @throws KeyedError for another kind or wrong arguments.
+    virtual void trigger(const std::vector<Json>& arguments);
+    /// Tells of later changes of the value. @throws KeyedError where the member has none.
+    virtual Subscription observe(Observer observer);
+    /// The members below a model; nullptr for every other kind.
+    virtual const Fields* model() const { return nullptr; }
+
+protected:
+    ~Member() = default;
+    [[noreturn]] void refuse(const std::string& why) const;
+
+private:
+    std::string_view key_;
+    MemberKind kind_;
+};
+
+/// The members of one model or screen in declared order. Must be declared before them, so that it outlives
+/// them.
+class Fields {
+public:
+    Fields() = default;
+    Fields(const Fields&) = delete;
+    Fields& operator=(const Fields&) = delete;
+
+    const std::vector<Member*>& members() const { return members_; }
+
+    /// The member with `key`, or nullptr.
+    Member* find(std::string_view key) const;
+
+private:
+    friend class Member;
+    std::vector<Member*> members_;
+};
+
+/// Makes the fields of a model reachable below a key of its screen.
+class Model final : public Member {
+public:
+    Model(Fields& owner, std::string_view key, const Fields& fields) :
+        Member(owner, key, MemberKind::model), fields_(fields) {}
+
+    Json read() const override;
+    const Fields* model() const override { return &fields_; }
+
+private:
+    const Fields& fields_;
+};
+
+/// The readable members of `fields` as one object, actions left out.
+Json readAll(const Fields& fields);
+
+} // namespace ombrivane

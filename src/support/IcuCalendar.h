@@ -1,0 +1,23 @@
+#pragma once
+
+#include "support/Date.h"
+
+#include <unicode/calendar.h>
+#include <unicode/locid.h>
+#include <unicode/timezone.h>
+
+#include <memory>
+
+/// ICU's types for the device's locale and time zone. Included where dates are computed and nowhere else.
+namespace ombrivane {
+
+icu::Locale deviceLocale();
+std::unique_ptr<icu::TimeZone> deviceTimeZone();
+
+/// The device's own calendar, set to `date`.
+std::unique_ptr<icu::Calendar> calendarAt(Date date);
+
+UDate icuTime(Date date);
+Date dateOf(UDate time);
+
+} // namespace ombrivane

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "support/Fields.h"
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace ombrivane {
+
+class Link;
+class Part;
+
+/// One screen: what it holds, shows and decides. It owns fields, derived texts, actions, links and parts.
+///
+/// Screens are made by `std::make_shared` and never copied; a completion that is still out holds its screen.
+class Screen : public std::enable_shared_from_this<Screen> {
+public:
+    explicit Screen(std::string_view name) : name_(name) {}
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+    virtual ~Screen() = default;
+
+    std::string_view name() const { return name_; }
+
+    /// Called each time the screen comes into view: when it is pushed, and when what covered it is taken
+    /// away.
+    virtual void appear() {}
+    /// Called each time the screen goes out of view: when another is pushed over it, and when it leaves.
+    virtual void disappear() {}
+
+    /// Takes this screen away with everything above it, by writing false into the flag that shows it. Nothing
+    /// happens when the screen is not shown by a link.
+    void dismiss();
+
+    /// Whether a tap reaches this screen: nothing lies over it and it is part of what is shown.
+    bool takesInput() const;
+
+    const std::vector<Link*>& links() const { return links_; }
+    const std::vector<Part*>& parts() const { return parts_; }
+
+    /// For what is shown inside of another screen: a tap reaches it while one reaches `host`.
+    void setHost(const std::weak_ptr<Screen>& host) {
+        host_ = host;
+        hosted_ = true;
+    }
+
+    Fields fields;
+
+private:
+    friend class Link;
+    friend class Part;
+    friend class Navigator;
+
+    std::string_view name_;
+    std::vector<Link*> links_;
+    std::vector<Part*> parts_;
+    std::function<void()> dismissal_;
+    std::weak_ptr<Screen> host_;
+    bool hosted_ = false;
+    bool covered_ = false;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <mutex>
+
+namespace ombrivane {
+
+/// Forgets every shared instance, the last made first. For tests and for a host that ends the component's use
+/// for good: nothing may hold a reference into one of them.
+void dropSharedInstances();
+
+namespace detail {
+void onDropSharedInstances(std::function<void()> drop);
+std::recursive_mutex& sharedInstanceMutex();
+} // namespace detail
+
+/// One object for the life of the process, made on first use. Any thread.
+template <class T> class SharedInstance {
+public:
+    static T& get() {
+        const std::lock_guard lock(detail::sharedInstanceMutex());
+        auto& instance = slot();
+        if (!instance) {
+            instance = std::make_shared<T>();
+            detail::onDropSharedInstances([] { slot().reset(); });
+        }
+        return *instance;
+    }
+
+private:
+    static std::shared_ptr<T>& slot() {
+        static std::shared_ptr<T> instance;
+        return instance;
+    }
+};
+
+} // namespace ombrivane
