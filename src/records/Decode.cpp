@@ -1,0 +1,53 @@
+#include "records/Decode.h"
+
+#include "records/Airport.h"
+#include "records/Authentication.h"
+#include "records/Country.h"
+#include "records/Decoder.h"
+#include "records/EmergencyContact.h"
+#include "records/FlightAvailability.h"
+#include "records/FlightBooking.h"
+#include "records/FlightSearchOneWay.h"
+#include "records/FlightSearchRoundTrip.h"
+#include "records/FlightTicketing.h"
+#include "records/Passenger.h"
+#include "records/PaymentSummary.h"
+
+namespace ombrivane {
+
+template <class Record> Record decode(const simdjson::dom::element& element) {
+    Record record;
+    Decoder<Record>::decode(element, record);
+    return record;
+}
+
+template <class Record> Record decodeText(std::string_view json) {
+    simdjson::dom::parser parser;
+    simdjson::dom::element root;
+    if (const auto failure = parser.parse(json.data(), json.size()).get(root)) {
+        throw DecodeError(notUnderstood, simdjson::error_message(failure));
+    }
+    return decode<Record>(root);
+}
+
+#define OMBRIVANE_DECODES(Record)                                                                            \
+    template Record decode<Record>(const simdjson::dom::element&);                                           \
+    template Record decodeText<Record>(std::string_view);
+
+OMBRIVANE_DECODES(Airport)
+OMBRIVANE_DECODES(Authentication)
+OMBRIVANE_DECODES(BookingSummary)
+OMBRIVANE_DECODES(Country)
+OMBRIVANE_DECODES(EmergencyContact)
+OMBRIVANE_DECODES(FlightBooking)
+OMBRIVANE_DECODES(FlightSearchOneWay)
+OMBRIVANE_DECODES(FlightSearchRoundTrip)
+OMBRIVANE_DECODES(FlightTicketing)
+OMBRIVANE_DECODES(OWFlightAvailability)
+OMBRIVANE_DECODES(Passenger)
+OMBRIVANE_DECODES(PaymentSummary)
+OMBRIVANE_DECODES(RTFlightAvailability)
+
+#undef OMBRIVANE_DECODES
+
+} // namespace ombrivane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "support/Error.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace ombrivane {
+
+/// What a customer reads when an answer has another form than it should have.
+inline constexpr const char* notUnderstood = "The service's answer could not be understood.";
+
+/// A record that did not decode: where it failed and why. Thrown inside of one decode and turned into an
+/// `Error` before a completion hears of it.
+class DecodeError : public std::exception {
+public:
+    /// @param description what the customer may read
+    /// @param reason what was wrong, for the developer
+    DecodeError(std::string description, std::string reason) :
+        description_(std::move(description)), reason_(std::move(reason)) {}
+
+    /// Called while the failure climbs out of the key that holds what failed.
+    void within(std::string_view key);
+    /// The same for a position of an array.
+    void within(std::size_t index);
+
+    const std::string& path() const { return path_; }
+    const char* what() const noexcept override { return reason_.c_str(); }
+
+    /// With "path: reason" for the developer.
+    Error error() const;
+
+private:
+    std::string path_;
+    std::string description_;
+    std::string reason_;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,164 @@
+#pragma once
+
+#include "records/DecodeError.h"
+#include "records/Wire.h"
+#include "support/Uuid.h"
+
+#include <simdjson.h>
+
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+/// How each type is read from a parsed JSON value. Included where records are decoded and nowhere else.
+namespace ombrivane {
+
+using JsonElement = simdjson::dom::element;
+
+template <class T> struct Decoder;
+
+[[noreturn]] inline void wants(const char* what) {
+    throw DecodeError(notUnderstood, std::string("wants ") + what);
+}
+
+template <> struct Decoder<std::string> {
+    static void decode(const JsonElement& json, std::string& value) {
+        std::string_view text;
+        if (json.get(text) != simdjson::SUCCESS) wants("a text");
+        value.assign(text);
+    }
+};
+
+template <> struct Decoder<bool> {
+    static void decode(const JsonElement& json, bool& value) {
+        if (json.get(value) != simdjson::SUCCESS) wants("true or false");
+    }
+};
+
+template <> struct Decoder<std::int64_t> {
+    /// A number without a fraction, as 7 or 7.0, within 64 bits.
+    static bool read(const JsonElement& json, std::int64_t& value) {
+        if (json.get(value) == simdjson::SUCCESS) return true;
+        double number = 0;
+        if (!json.is_double() || json.get(number) != simdjson::SUCCESS) return false;
+        constexpr double bound = 9007199254740992.0; // 2^53: beyond it a double is no exact count
+        if (std::trunc(number) != number || std::abs(number) > bound) return false;
+        value = static_cast<std::int64_t>(number);
+        return true;
+    }
+    static void decode(const JsonElement& json, std::int64_t& value) {
+        if (!read(json, value)) wants("a whole number");
+    }
+};
+
+template <> struct Decoder<double> {
+    static void decode(const JsonElement& json, double& value) {
+        if (json.get(value) != simdjson::SUCCESS) wants("a number");
+    }
+};
+
+template <> struct Decoder<Uuid> {
+    static void decode(const JsonElement& json, Uuid& value) {
+        std::string_view text;
+        const auto uuid = json.get(text) == simdjson::SUCCESS ? Uuid::parse(text) : std::nullopt;
+        if (!uuid) wants("the text of a UUID");
+        value = *uuid;
+    }
+};
+
+template <TaggedScalar T> struct Decoder<T> {
+    static void decode(const JsonElement& json, T& value) {
+        using First = std::variant_alternative_t<0, typename T::Payload>;
+        First first{};
+        std::string_view text;
+        if (readFirst(json, first)) {
+            value.payload = first;
+        } else if (json.get(text) == simdjson::SUCCESS) {
+            value.payload = std::string(text);
+        } else {
+            throw DecodeError(std::string(T::wrongType), std::string(T::wrongType));
+        }
+    }
+
+private:
+    static bool readFirst(const JsonElement& json, std::int64_t& value) {
+        return Decoder<std::int64_t>::read(json, value);
+    }
+    static bool readFirst(const JsonElement& json, bool& value) {
+        return json.get(value) == simdjson::SUCCESS;
+    }
+};
+
+template <class T> struct Decoder<std::optional<T>> {
+    static void decode(const JsonElement& json, std::optional<T>& value) {
+        if (json.is_null()) return value.reset();
+        Decoder<T>::decode(json, value.emplace());
+    }
+};
+
+template <class T> struct Decoder<std::vector<T>> {
+    static void decode(const JsonElement& json, std::vector<T>& values) {
+        simdjson::dom::array array;
+        if (json.get(array) != simdjson::SUCCESS) wants("an array");
+        values.reserve(array.size());
+        for (const JsonElement element : array) {
+            try {
+                Decoder<T>::decode(element, values.emplace_back());
+            } catch (DecodeError& error) {
+                error.within(values.size() - 1);
+                throw;
+            }
+        }
+    }
+};
+
+template <class T> constexpr bool isOptional = false;
+template <class T> constexpr bool isOptional<std::optional<T>> = true;
+
+template <WireRecord T> struct Decoder<T> {
+    static void decode(const JsonElement& json, T& record) {
+        simdjson::dom::object object;
+        if (json.get(object) != simdjson::SUCCESS) wants("an object");
+        auto next = object.begin();
+        forEachField(record, [&](std::string_view key, auto& value) { take(object, next, key, value); });
+    }
+
+private:
+    using Iterator = simdjson::dom::object::iterator;
+
+    /// Keys usually arrive in the order of the table, so the one that follows is looked at first.
+    template <class Value>
+    static void take(const simdjson::dom::object& object, Iterator& next, std::string_view key,
+                     Value& value) {
+        if (!(next != object.end() && next.key() == key)) {
+            const Iterator found = find(object, key);
+            if (!(found != object.end())) {
+                if constexpr (isOptional<Value>) return;
+                DecodeError error(notUnderstood, "is missing");
+                error.within(key);
+                throw error;
+            }
+            next = found;
+        }
+        try {
+            Decoder<Value>::decode(next.value(), value);
+        } catch (DecodeError& error) {
+            error.within(key);
+            throw;
+        }
+        ++next;
+    }
+
+    static Iterator find(const simdjson::dom::object& object, std::string_view key) {
+        auto at = object.begin();
+        while (at != object.end() && at.key() != key)
+            ++at;
+        return at;
+    }
+};
+
+} // namespace ombrivane

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "records/Wire.h"
+#include "support/Json.h"
+#include "support/Uuid.h"
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace ombrivane {
+
+template <class T> struct Encoder {
+    static Json encode(const T& value) { return value; }
+};
+
+template <> struct Encoder<Uuid> {
+    static Json encode(const Uuid& value) { return value.text(); }
+};
+
+template <TaggedScalar T> struct Encoder<T> {
+    static Json encode(const T& value) {
+        return std::visit([](const auto& payload) { return Json(payload); }, value.payload);
+    }
+};
+
+template <class T> struct Encoder<std::vector<T>> {
+    static Json encode(const std::vector<T>& values) {
+        Json array = Json::array();
+        for (const auto& value : values)
+            array.push_back(Encoder<T>::encode(value));
+        return array;
+    }
+};
+
+template <WireRecord T> struct Encoder<T> {
+    static Json encode(const T& record) {
+        Json object = Json::object();
+        forEachField(record, [&object]<class Value>(std::string_view key, const Value& value) {
+            add(object, key, value);
+        });
+        return object;
+    }
+
+private:
+    template <class Value> static void add(Json& object, std::string_view key, const Value& value) {
+        object[std::string(key)] = Encoder<Value>::encode(value);
+    }
+    template <class Value>
+    static void add(Json& object, std::string_view key, const std::optional<Value>& value) {
+        if (value) add(object, key, *value);
+    }
+};
+
+/// The record as a JSON object, its keys in the order of the table, absent fields left out.
+template <WireRecord Record> Json encode(const Record& record) { return Encoder<Record>::encode(record); }
+
+} // namespace ombrivane

@@ -1,0 +1,36 @@
+#include "services/Body.h"
+
+namespace ombrivane {
+namespace {
+
+std::optional<std::string> written(const Json& value) {
+    try {
+        return value.dump();
+    } catch (const Json::exception&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+Body& Body::add(std::string key, Json value) {
+    members_.emplace_back(std::move(key), written(value));
+    return *this;
+}
+
+Body& Body::addRaw(std::string key, std::string_view json) {
+    members_.emplace_back(std::move(key), std::string(json));
+    return *this;
+}
+
+std::optional<std::string> Body::serialised() const {
+    std::string text = "{";
+    for (const auto& [key, value] : members_) {
+        if (!value) return std::nullopt;
+        if (text.size() > 1) text += ',';
+        text += Json(key).dump() + ":" + *value;
+    }
+    return text + "}";
+}
+
+} // namespace ombrivane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "records/Country.h"
+#include "support/Completion.h"
+
+#include <vector>
+
+namespace ombrivane {
+
+/// Fetches the countries of the nationality choice.
+class CountryProvider {
+public:
+    /// Completes with the countries, Nepal, India and China first, and each `shortName` once.
+    void fetchCountries(const Completion<std::vector<Country>>& completion) const;
+};
+
+} // namespace ombrivane

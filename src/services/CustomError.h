@@ -1,0 +1,28 @@
+#pragma once
+
+#include "support/Error.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace ombrivane {
+
+/// The failures that the component raises by itself.
+enum class CustomError : std::uint8_t {
+    invalidUrl,
+    noInternetConnection,
+    requiredIOSVersion,
+    sourceDestinationSame,
+};
+
+/// The localized description; never absent.
+std::optional<std::string> errorDescription(CustomError error);
+
+/// The failure as it travels through completions.
+Error makeError(CustomError error);
+
+/// Whether `error` is the one made from `custom`.
+bool is(const std::optional<Error>& error, CustomError custom);
+
+} // namespace ombrivane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "records/JsonDocument.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ombrivane {
+
+/// The form that every answer has: an object with `success` and, beside it, `data`. A key that the service
+/// promises and that is missing or of another type is a `DecodeError` that names it; such an answer is never
+/// a success. The templates are instantiated for the records that answers hold.
+class Envelope {
+public:
+    /// @throws DecodeError for bytes that are no JSON
+    explicit Envelope(const std::string& bytes) : document_(bytes) {}
+
+    bool success() const;
+    /// The service's own message of a failure: `data.error`.
+    std::string failureMessage() const;
+
+    /// The record that `data` is.
+    template <class Record> Record record() const;
+    /// The record at `key` of `data`.
+    template <class Record> Record record(std::string_view key) const;
+    /// The records of the array at `key` of `data`. One that fails, fails all.
+    template <class Record> std::vector<Record> records(std::string_view key) const;
+    /// The text at `key` of `data`.
+    std::string text(std::string_view key) const;
+
+    /// The offers of the array that `data` is, each with its own JSON in `rawData`.
+    template <class Offer> std::vector<std::shared_ptr<const Offer>> offers() const;
+    /// The offers of the array at `index` of the array that `data` is, without `rawData`.
+    template <class Offer> std::vector<std::shared_ptr<const Offer>> offersAt(std::size_t index) const;
+
+    /// A value beside `success`.
+    bool topLevelFlag(std::string_view key) const;
+    std::string topLevelText(std::string_view key) const;
+
+private:
+    JsonDocument document_;
+};
+
+} // namespace ombrivane

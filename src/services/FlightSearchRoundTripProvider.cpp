@@ -1,0 +1,24 @@
+#include "services/FlightSearchRoundTripProvider.h"
+
+namespace ombrivane {
+
+void FlightSearchRoundTripProvider::searchFlights(const FlightQuery& query,
+                                                  const Completion<RoundTripOffers>& completion) const {
+    send<RoundTripOffers>(
+        searchCall(query),
+        [](const Envelope& envelope) { return envelope.offers<FlightSearchRoundTrip>(); },
+        completion);
+}
+
+void FlightSearchRoundTripProvider::searchSpecialRoundFlights(
+    const FlightQuery& query, const Completion<SpecialRoundFlights>& completion) const {
+    send<SpecialRoundFlights>(
+        searchCall(query),
+        [](const Envelope& envelope) {
+            return SpecialRoundFlights{envelope.offersAt<FlightSearchOneWay>(0),
+                                       envelope.offersAt<FlightSearchOneWay>(1)};
+        },
+        completion);
+}
+
+} // namespace ombrivane

@@ -1,0 +1,33 @@
+#include "services/OWFlightAvailabilityProvider.h"
+
+#include "services/Endpoints.h"
+#include "services/FlightsSummarySlots.h"
+#include "services/Frame.h"
+#include "services/ItineraryBody.h"
+#include "state/AppState.h"
+
+namespace ombrivane {
+
+void OWFlightAvailabilityProvider::fetchAvailability(
+    const std::string& itineraryType, const AnyFlight& flight,
+    const Completion<std::optional<OWFlightAvailability>>& completion) const {
+    const auto& offer = flight.oneWay();
+    ServiceCall call;
+    call.url = [] { return Endpoints::shared().availability; };
+    call.body = [&] {
+        Body body;
+        body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
+        addRawItinerary(body, offer.rawData);
+        return body.serialised();
+    };
+    send<std::optional<OWFlightAvailability>>(
+        call,
+        [](const Envelope& envelope) {
+            auto availability = envelope.record<OWFlightAvailability>();
+            storeFlightsSummary(availability.flightsSummary);
+            return availability;
+        },
+        completion);
+}
+
+} // namespace ombrivane

@@ -1,0 +1,55 @@
+#include "services/RTFlightAvailabilityProvider.h"
+
+#include "platform/Platform.h"
+#include "records/Encode.h"
+#include "services/Endpoints.h"
+#include "services/FlightsSummarySlots.h"
+#include "services/Frame.h"
+#include "services/ItineraryBody.h"
+#include "state/AppState.h"
+
+namespace ombrivane {
+
+void RTFlightAvailabilityProvider::fetchAvailability(
+    const std::string& itineraryType, const AnyFlight& flight,
+    const Completion<std::optional<RTFlightAvailability>>& completion) const {
+    const auto& offer = flight.roundTrip();
+    ServiceCall call;
+    call.url = [] { return Endpoints::shared().availability; };
+    call.body = [&] {
+        Body body;
+        body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
+        addRawItinerary(body, offer.rawData);
+        return body.serialised();
+    };
+    send<std::optional<RTFlightAvailability>>(
+        call,
+        [](const Envelope& envelope) {
+            auto availability = envelope.record<RTFlightAvailability>();
+            platform().diagnostics->print(encode(availability).dump());
+            storeFlightsSummary(availability.flightsSummary);
+            return availability;
+        },
+        completion);
+}
+
+void RTFlightAvailabilityProvider::fetchAvailability(
+    const std::string& itineraryType, const AnyFlight& flight, const AnyFlight& returnFlight,
+    const Completion<std::optional<RTFlightAvailability>>& completion) const {
+    const auto& departing = flight.oneWay();
+    const auto& returning = returnFlight.oneWay();
+    ServiceCall call;
+    call.url = [] { return Endpoints::shared().availability; };
+    call.body = [&] {
+        return Body()
+            .add("user_type", AppState::shared().userType.get())
+            .add("itinerary_type", itineraryType)
+            .add("itinerary", encode(departing))
+            .add("itinerary_return", encode(returning))
+            .serialised();
+    };
+    send<std::optional<RTFlightAvailability>>(
+        call, [](const Envelope& envelope) { return envelope.record<RTFlightAvailability>(); }, completion);
+}
+
+} // namespace ombrivane

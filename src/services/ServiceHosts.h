@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace ombrivane {
+
+/// Where the booking service stands: scheme and host without a trailing slash. Configured when the component
+/// is built; a developer may name others before the first request of the process.
+struct ServiceHosts {
+    std::string production;
+    std::string test;
+
+    /// The hosts that the endpoints will be built from.
+    static ServiceHosts current();
+    /// Has no effect on endpoints that were already built.
+    static void use(ServiceHosts hosts);
+};
+
+} // namespace ombrivane
