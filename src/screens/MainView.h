@@ -1,0 +1,42 @@
+#pragma once
+
+#include "screens/CustomTabBarView.h"
+#include "screens/FooterView.h"
+#include "screens/OneWayView.h"
+#include "screens/RoundTripView.h"
+#include "state/CompletionCallback.h"
+#include "support/Action.h"
+#include "support/Field.h"
+#include "support/Link.h"
+#include "support/Screen.h"
+
+#include <memory>
+#include <string>
+
+namespace ombrivane {
+
+/// The first screen: title bar, tab bar and the form of the chosen tab.
+class MainView final : public Screen {
+public:
+    explicit MainView(CompletionCallback completionCallback);
+
+    Published<TabBarItem> tabSelection{fields, "tabSelection", TabBarItem::oneWay};
+    Derived<std::string> title{fields, "title", [] { return std::string("Flight Search"); }};
+    /// Closes the component without a word to the host.
+    Action<> back;
+
+    const std::shared_ptr<CustomTabBarView> tabBar;
+    const std::shared_ptr<OneWayView> oneWay;
+    const std::shared_ptr<RoundTripView> roundTrip;
+    const std::shared_ptr<FooterView> footer;
+
+private:
+    Part tabBarPart_{*this, "tabBar", [this] { return tabBar; }};
+    Part form_{*this, "form", [this]() -> std::shared_ptr<Screen> {
+                   if (tabSelection.get() == TabBarItem::roundTrip) return roundTrip;
+                   return oneWay;
+               }};
+    Part footerPart_{*this, "footer", [this] { return footer; }};
+};
+
+} // namespace ombrivane

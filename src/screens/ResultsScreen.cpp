@@ -1,0 +1,182 @@
+#include "screens/ResultsScreen.h"
+
+#include "booking/RulesAndRegulationView.h"
+#include "search/CustomRoundTripDatePickerView.h"
+#include "search/OfferFormat.h"
+#include "search/WholeNumber.h"
+#include "services/CustomError.h"
+#include "services/ItineraryType.h"
+#include "support/Calendar.h"
+#include "support/DateFormatter.h"
+
+namespace ombrivane {
+namespace {
+
+/// The service's words for a search that found nothing, by which it is recognised.
+constexpr const char* noFlightsFound = "Sorry! No flight recommendations found.";
+
+/// About half of the header: a shorter scroll is a finger that rests.
+constexpr double headerLeavesAt = 32.0;
+
+std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
+
+} // namespace
+
+ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view modelKey, SearchRequest request,
+                             std::shared_ptr<ResultsModel> model, std::string message,
+                             CompletionCallback completionCallback) :
+    Screen(screenName),
+    departCityCode(fields, "departCityCode", request.departCityCode),
+    departCity(fields, "departCity", request.departCity),
+    destCityCode(fields, "destCityCode", request.destCityCode),
+    destCity(fields, "destCity", request.destCity),
+    nationality(fields, "nationality", request.nationality),
+    adults(fields, "adults", request.adults),
+    children(fields, "children", request.children),
+    infants(fields, "infants", request.infants),
+    flightClass(fields, "flightClass", request.flightClass),
+    errorMessage(fields, "errorMessage", std::move(message)),
+    routeImage(fields, "routeImage",
+               [this] { return std::string(model_->hasReturnDate ? "exchangeIcon" : "toIcon"); }),
+    headerSubtitle(fields, "headerSubtitle",
+                   [this] {
+                       return model_->formatHeaderSubtitle(
+                           model_->departDate.get(), model_->returnDate.get(), adults, children, infants);
+                   }),
+    departDateText(fields, "departDateText",
+                   [this] { return formatDate(model_->departDate, datePattern::calendar); }),
+    returnDateText(fields, "returnDateText",
+                   [this] { return formatDate(model_->returnDate, datePattern::calendar); }),
+    addReturnDateText(fields, "addReturnDateText", constant("Add Return Date")),
+    showsReturnDate(fields, "showsReturnDate", [this] { return model_->hasReturnDate.get(); }),
+    showsFloatingBar(fields, "showsFloatingBar",
+                     [this] { return !model_->isLoading && !model_->noInternetConnection; }),
+    showsScrollUp(fields, "showsScrollUp",
+                  [this] { return showsFloatingBar.get() && !model_->showActionBar; }),
+    filterIsOn(fields, "filterIsOn",
+               [this] { return model_->selectedId.get() != "All Airlines" || !model_->time->empty(); }),
+    totalLabel(fields, "totalLabel", constant("Total Fare")),
+    total(fields, "total",
+          [this] {
+              const auto cost = totalCost();
+              return cost ? OfferFormat::price(totalCurrency().value_or(""), *cost) : std::string();
+          }),
+    continueText(fields, "continueText", constant("Continue")),
+    previousReturn(
+        *this, "previousReturn", [this] { stepReturn(-1); }, [this] { return model_->hasReturnDate.get(); }),
+    nextReturn(
+        *this, "nextReturn", [this] { stepReturn(1); }, [this] { return model_->hasReturnDate.get(); }),
+    addReturnDate(
+        *this, "addReturnDate",
+        [this] {
+            model_->returnDate = model_->departDate.get();
+            model_->showCustomRoundtripDatePickerBottomSheet = true;
+        },
+        [this] { return !model_->hasReturnDate; }),
+    openFilter(
+        *this, "openFilter", [this] { model_->showFilterBottomSheet = true; },
+        [this] { return showsFloatingBar.get(); }),
+    scrollUp(
+        *this, "scrollUp", [this] { model_->scrollToTop = true; }, [this] { return showsScrollUp.get(); }),
+    continue_(
+        *this, "continue", [this] { proceed(); }, [this] { return model_->showContinueButton.get(); }),
+    request_(std::move(request)),
+    model_(std::move(model)),
+    completionCallback_(std::move(completionCallback)),
+    modelModel_(fields, modelKey, model_->fields),
+    snackBar_(model_->showSnackBar),
+    noInternet_(std::make_shared<NoInternetConnectionView>()),
+    noFlights_(
+        std::make_shared<NoFlightRecommendationsView>(false, [] { AppState::shared().resetNavigation(); })),
+    nothingLeft_(std::make_shared<NoFlightRecommendationsView>(
+        true, [shared = model_] { shared->showFilterBottomSheet = true; })),
+    filterSheet_(*this, Presentation::sheet, model_->showFilterBottomSheet, [this] { return makeFilter(); }),
+    returnDateSheet_(*this, Presentation::sheet, model_->showCustomRoundtripDatePickerBottomSheet,
+                     [this] {
+                         return std::make_shared<CustomRoundTripDatePickerView>(departDateText_,
+                                                                                model_->departDate,
+                                                                                model_->returnDateText,
+                                                                                model_->returnDate,
+                                                                                [this] { search(true); });
+                     }),
+    rules_(*this, Presentation::push, model_->rulesAndRegulationViewIsActive, [this] {
+        return std::make_shared<RulesAndRegulationView>(
+            RulesAndRegulationView::Given{model_->rulesAndRegulationViewIsActive,
+                                          flightClass,
+                                          departCity,
+                                          destCity,
+                                          model_->tripType,
+                                          model_->flight,
+                                          returningFlight(),
+                                          completionCallback_});
+    }) {
+    model_->tripType = request_.tripType;
+    model_->departDate = request_.departDate;
+    model_->hasReturnDate = request_.returnDate.has_value();
+    if (request_.returnDate) model_->returnDate = *request_.returnDate;
+}
+
+void ResultsScreen::appear() { search(request_.returnDate.has_value()); }
+
+void ResultsScreen::search(bool roundTrip) {
+    clearForSearch();
+    model_->startSearch(roundTrip);
+    FlightQuery query;
+    query.tripType = roundTrip ? model_->tripType.get() : request_.tripType;
+    query.departCity = departCityCode;
+    query.destCity = destCityCode;
+    query.departDate = model_->departDate;
+    if (roundTrip) query.returnDate = model_->returnDate.get();
+    query.nationality = nationality;
+    query.adults = adults;
+    query.children = children;
+    query.infants = infants;
+    query.flightClass = flightClass;
+    sendSearch(query, roundTrip);
+}
+
+bool ResultsScreen::takeIn(const std::optional<Error>& error) {
+    if (!error) return true;
+    if (is(error, CustomError::noInternetConnection)) {
+        model_->noInternetConnection = true;
+        model_->isLoading = false;
+    } else if (error->localizedDescription == noFlightsFound) {
+        // Loading goes on; the empty state takes precedence on the screen.
+        model_->flightsListIsEmpty = true;
+    }
+    // Any other failure leaves the screen loading: it has no words for one.
+    return false;
+}
+
+bool ResultsScreen::affordable(std::int64_t cost) {
+    if (!exceedsBalance(cost, AppState::shared().walletBalance)) return true;
+    model_->showSnackBar = true;
+    return false;
+}
+
+void ResultsScreen::stepDeparture(int days) {
+    model_->departDate = calendar::addDays(model_->departDate, days);
+    search(model_->hasReturnDate);
+}
+
+void ResultsScreen::stepReturn(int days) {
+    model_->returnDate = calendar::addDays(model_->returnDate, days);
+    search(true);
+}
+
+void ResultsScreen::follow(double points) {
+    offset = points;
+    const bool atStart = points < headerLeavesAt;
+    if (model_->showActionBar != atStart) model_->showActionBar = atStart;
+}
+
+std::shared_ptr<Screen> ResultsScreen::content() const {
+    if (model_->noInternetConnection) return noInternet_;
+    if (model_->flightsListIsEmpty) return noFlights_;
+    if (!model_->isLoading && listIsEmpty()) return nothingLeft_;
+    return list();
+}
+
+} // namespace ombrivane

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "screens/EmptyStates.h"
+#include "screens/OfferListView.h"
+#include "search/ResultsModel.h"
+#include "search/SearchRequest.h"
+#include "services/FlightQuery.h"
+#include "state/AppState.h"
+#include "state/CompletionCallback.h"
+#include "support/Action.h"
+#include "support/CustomSnackBarView.h"
+#include "support/Field.h"
+#include "support/Link.h"
+#include "support/Screen.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ombrivane {
+
+/// What both result lists share: the search when the screen appears and when a date is stepped, the header,
+/// the total, the wallet's limit, the filter, the empty states and the way on to the fare rules.
+///
+/// Two overlapping searches are not guarded against: the last answer wins.
+class ResultsScreen : public Screen {
+public:
+    void appear() override;
+
+    Published<std::string> departCityCode;
+    Published<std::string> departCity;
+    Published<std::string> destCityCode;
+    Published<std::string> destCity;
+    Published<std::string> nationality;
+    Published<std::string> adults;
+    Published<std::string> children;
+    Published<std::string> infants;
+    Published<std::string> flightClass;
+    /// How far the list is scrolled from its start, in points.
+    Published<double> offset{fields, "offset", 0.0};
+    Published<bool> showSegmant{fields, "showSegmant"};
+    Published<std::string> errorMessage;
+
+    Derived<std::string> routeImage;
+    Derived<std::string> headerSubtitle;
+    Derived<std::string> departDateText;
+    Derived<std::string> returnDateText;
+    Derived<std::string> addReturnDateText;
+    Derived<bool> showsReturnDate;
+    Derived<bool> showsFloatingBar;
+    Derived<bool> showsScrollUp;
+    Derived<bool> filterIsOn;
+    Derived<std::string> totalLabel;
+    Derived<std::string> total;
+    Derived<std::string> continueText;
+
+    Action<> back{*this, "back", [this] { dismiss(); }};
+    Action<> edit{*this, "edit", [this] { dismiss(); }};
+    Action<> previousDeparture{*this, "previousDeparture", [this] { stepDeparture(-1); }};
+    Action<> nextDeparture{*this, "nextDeparture", [this] { stepDeparture(1); }};
+    Action<> previousReturn;
+    Action<> nextReturn;
+    Action<> addReturnDate;
+    Action<> openFilter;
+    Action<> scrollUp;
+    /// The customer scrolled the list: the header goes when it leaves its start.
+    Action<double> scrolled{*this, "scrolled", [this](double points) { follow(points); }};
+    Action<> continue_;
+
+protected:
+    ResultsScreen(std::string_view name, std::string_view modelKey, SearchRequest request,
+                  std::shared_ptr<ResultsModel> model, std::string message,
+                  CompletionCallback completionCallback);
+
+    virtual void sendSearch(const FlightQuery& query, bool roundTrip) = 0;
+    /// Before a search starts, what the kind of list clears besides.
+    virtual void clearForSearch() {}
+    virtual std::shared_ptr<Screen> list() const = 0;
+    virtual bool listIsEmpty() const = 0;
+    virtual std::shared_ptr<Screen> makeFilter() = 0;
+    virtual std::optional<std::int64_t> totalCost() const = 0;
+    virtual std::optional<std::string> totalCurrency() const = 0;
+    virtual std::optional<AnyFlight> returningFlight() const { return std::nullopt; }
+    virtual void proceed() = 0;
+
+    /// Takes the three kinds of errors in; false when there was one.
+    bool takeIn(const std::optional<Error>& error);
+    /// Continues when the wallet holds enough for `cost`, else says that it does not.
+    bool affordable(std::int64_t cost);
+    void showRules() { model_->rulesAndRegulationViewIsActive = true; }
+    std::shared_ptr<ResultsModel> model() const { return model_; }
+    const SearchRequest& request() const { return request_; }
+
+private:
+    void search(bool roundTrip);
+    void stepDeparture(int days);
+    void stepReturn(int days);
+    void follow(double points);
+    std::shared_ptr<Screen> content() const;
+
+    SearchRequest request_;
+    std::shared_ptr<ResultsModel> model_;
+    CompletionCallback completionCallback_;
+    Model modelModel_;
+    CustomSnackBarView snackBar_;
+    /// What the calendar writes for the departure; the header shows the date itself.
+    Fields unkeyed_;
+    Published<std::string> departDateText_{unkeyed_, "departDateText"};
+    std::shared_ptr<NoInternetConnectionView> noInternet_;
+    std::shared_ptr<NoFlightRecommendationsView> noFlights_;
+    std::shared_ptr<NoFlightRecommendationsView> nothingLeft_;
+    Part content_{*this, "content", [this] { return content(); }};
+    Link filterSheet_;
+    Link returnDateSheet_;
+    Link rules_;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,83 @@
+#include "search/FilterBottomSheetViewModel.h"
+
+#include "platform/Platform.h"
+#include "search/OfferJourney.h"
+#include "search/TimeBucket.h"
+#include "search/WholeNumber.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+
+namespace ombrivane {
+namespace {
+
+constexpr std::int64_t dearest = 10'000'000;
+constexpr const char* allAirlines = "All Airlines";
+
+} // namespace
+
+template <class Visit> void FilterBottomSheetViewModel::visitOffers(Visit visit) const {
+    if (!roundtripFlights->empty()) {
+        for (const auto& offer : roundtripFlights.get())
+            visit(*offer);
+    } else {
+        for (const auto& offer : onewayFlights.get())
+            visit(*offer);
+    }
+}
+
+void FilterBottomSheetViewModel::calculateMaxPrice() {
+    std::int64_t most = 0;
+    visitOffers([&most](const auto& offer) { most = std::max(most, offer.fareInformation.totalCost); });
+    maxPrice = static_cast<double>(most);
+}
+
+void FilterBottomSheetViewModel::calculateMinPrice() {
+    std::int64_t least = dearest;
+    visitOffers([&least](const auto& offer) { least = std::min(least, offer.fareInformation.totalCost); });
+    minPrice = static_cast<double>(least);
+}
+
+void FilterBottomSheetViewModel::collectAirlines() {
+    std::vector<std::string> names;
+    std::unordered_set<std::string_view> taken;
+    visitOffers([&](const auto& offer) {
+        const std::string& name = outbound(offer).carrierName;
+        if (taken.insert(name).second) names.push_back(name);
+    });
+    airLines = std::move(names);
+}
+
+void FilterBottomSheetViewModel::readCurrency() {
+    const std::string* last = nullptr;
+    visitOffers([&last](const auto& offer) { last = &offer.searchSummary.currency; });
+    currency = last == nullptr ? std::string() : *last;
+}
+
+void FilterBottomSheetViewModel::applyFilter(double price, const std::string& selectedId,
+                                             const std::string& time) {
+    const std::int64_t ceiling = wholeNumber(price, "the filter's price");
+    const TimeBucket* bucket = timeBucket(time);
+    const auto passes = [&](const auto& offer) {
+        const auto& journey = outbound(*offer);
+        if (selectedId != allAirlines && journey.carrierName != selectedId) return false;
+        if (offer->fareInformation.totalCost > ceiling) return false;
+        if (bucket == nullptr) return true;
+        const std::int64_t hour = departureHour(journey.timeOfDeparture);
+        return hour >= bucket->firstHour && hour <= bucket->lastHour;
+    };
+    const auto filter = [&passes](const auto& offers) {
+        std::decay_t<decltype(offers)> kept;
+        std::copy_if(offers.begin(), offers.end(), std::back_inserter(kept), passes);
+        return kept;
+    };
+    if (bucket == nullptr) platform().diagnostics->print("No time selected to filter");
+    if (!roundtripFlights->empty()) {
+        filteredRoundtripFlights = filter(roundtripFlights.get());
+    } else {
+        filteredOnewayFlights = filter(onewayFlights.get());
+    }
+}
+
+} // namespace ombrivane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace ombrivane {
+
+/// A choice of the filter's departure time. The hours overlap at their edges by design: a departure at 06:40
+/// is both early morning and morning.
+struct TimeBucket {
+    const char* key;
+    const char* title;
+    const char* label;
+    const char* icon;
+    std::int64_t firstHour;
+    std::int64_t lastHour; ///< included
+};
+
+inline constexpr std::array<TimeBucket, 4> timeBuckets{{
+    {"earlyMorning", "Early Morning", "00:00 - 06:00", "sunriseIcon", 0, 6},
+    {"morning", "Morning", "06:00 - 12:00", "sunIcon", 6, 12},
+    {"afternoon", "Afternoon", "12:00 - 18:00", "sunsetIcon", 12, 18},
+    {"evening", "Evening", "18:00 - 00:00", "starIcon", 18, INT64_MAX},
+}};
+
+/// The bucket with `key`, or nullptr.
+const TimeBucket* timeBucket(const std::string& key);
+
+/// The whole number before the first ":" of a departure time, 0 where there is none. Nothing before the ":"
+/// is a fault.
+std::int64_t departureHour(const std::string& time);
+
+} // namespace ombrivane
