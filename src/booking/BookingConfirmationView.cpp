@@ -1,0 +1,171 @@
+#include "booking/BookingConfirmationView.h"
+
+#include "platform/OnMain.h"
+#include "records/Encode.h"
+#include "search/OfferFormat.h"
+#include "services/Url.h"
+#include "state/AppState.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* waiting = "Loading ...";
+
+std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
+
+std::vector<TicketFlightBlock> blocksOf(const std::optional<OWFlightAvailability>& availability) {
+    if (!availability)
+        return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
+    const auto& flights = availability->flightsSummary;
+    const auto& baggage = availability->baggageDetails;
+    return {{"Departing Flight",
+             flights.departCityName,
+             flights.deptTime,
+             flights.destCityName,
+             flights.destTime,
+             OfferFormat::formatDate(flights.deptDate),
+             baggage.cabin,
+             baggage.baggage}};
+}
+
+std::vector<TicketFlightBlock> blocksOf(const std::optional<RTFlightAvailability>& availability) {
+    if (!availability) {
+        return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting},
+                {"Returning Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
+    }
+    const auto& flights = availability->flightsSummary;
+    const auto& going = availability->baggageDetails.outbound;
+    const auto& coming = availability->baggageDetails.baggageDetailsReturn;
+    return {{"Departing Flight",
+             flights.departCityName,
+             flights.deptTime,
+             flights.destCityName,
+             flights.destTime,
+             OfferFormat::formatDate(flights.deptDate),
+             going.cabin,
+             going.baggage},
+            {"Returning Flight",
+             flights.returnDepartCityName,
+             flights.returnDeptTime,
+             flights.returnDestCityName,
+             flights.returnDestTime,
+             OfferFormat::formatDate(flights.returnDeptDate),
+             coming.cabin,
+             coming.baggage}};
+}
+
+} // namespace
+
+BookingConfirmationView::BookingConfirmationView(std::string_view screenName,
+                                                 std::vector<TicketFlightBlock> flights,
+                                                 std::optional<BookingSummary> summary, std::string cabinName,
+                                                 std::vector<Passenger> localPassengers,
+                                                 CompletionCallback completionCallback) :
+    Screen(screenName),
+    bookingSummary(fields, "bookingSummary", std::move(summary)),
+    passengers(fields, "passengers", std::move(localPassengers)),
+    flightClass(fields, "flightClass", std::move(cabinName)),
+    title(fields, "title", constant("Booking Confirmed")),
+    text(fields, "text", constant("You will receive eTicket and itinerary on your email address.")),
+    downloadText(fields, "downloadText", constant("Download Ticket")),
+    flightBlocks(fields, "flightBlocks", [this] { return flights_; }),
+    passengerBlocks(fields, "passengerBlocks", [this] { return makePassengerBlocks(); }),
+    back(
+        *this, "back",
+        [this] {
+            const auto callback = completionCallback_;
+            AppState::shared().resetNavigation();
+            callback(std::nullopt, std::nullopt);
+        },
+        [this] { return !isLoading; }),
+    downloadTicket(
+        *this, "downloadTicket", [this] { fetchDocument(); }, [this] { return !showProgressView; }),
+    share(
+        *this, "share", [this] { fetchDocument(); }, [this] { return !showProgressView; }),
+    flights_(std::move(flights)),
+    completionCallback_(std::move(completionCallback)) {}
+
+void BookingConfirmationView::issueTicket() {
+    using Answer = std::optional<FlightTicketing>;
+    flightTicketingProvider_.issueTicket(
+        bookingSummary,
+        onMain<Answer>([hold = shared_from_this(), this](Answer ticket, std::optional<Error> error) {
+            ticketIssued(std::move(ticket), error);
+        }));
+}
+
+void BookingConfirmationView::ticketIssued(std::optional<FlightTicketing> ticket,
+                                           const std::optional<Error>& error) {
+    if (error || !ticket) {
+        task_ = mainQueue().after(messageDuration, [] { AppState::shared().resetNavigation(); });
+        // The bar says what `errorMessage` holds, which nothing has written.
+        showSnackBar = true;
+        return;
+    }
+    isLoading = false;
+    reportBooking();
+    flightTicketingPassengers = ticket->passengers;
+    flightTicketing = std::move(ticket);
+}
+
+void BookingConfirmationView::reportBooking() {
+    const auto& summary = bookingSummary.get();
+    if (!summary) {
+        completionCallback_(
+            std::nullopt,
+            Error{"Encoding", 0, "The booking could not be reported.", "bookingSummary: is absent"});
+        return;
+    }
+    completionCallback_(Dictionary{{"exit", false}, {"bookingSummary", encode(*summary)}}, std::nullopt);
+}
+
+void BookingConfirmationView::fetchDocument() {
+    showProgressView = true;
+    const auto& ticket = flightTicketing.get();
+    downloadTicketProvider_.download(
+        ticket ? ticket->ticketSummary.ticketReferenceID : "",
+        onMain<std::string>([hold = shared_from_this(), this](std::string link, std::optional<Error> error) {
+            showProgressView = false;
+            if (error) {
+                errorMessage = error->localizedDescription;
+                showSnackBar = true;
+            } else if (isUrl(link)) {
+                platform().sharing->share(link);
+            }
+        }));
+}
+
+std::vector<TicketPassengerBlock> BookingConfirmationView::makePassengerBlocks() const {
+    std::vector<TicketPassengerBlock> blocks;
+    for (const auto& passenger : flightTicketingPassengers.get()) {
+        TicketPassengerBlock& block = blocks.emplace_back();
+        block.title = "Passenger " + std::to_string(blocks.size());
+        block.name = passenger.passengerName;
+        block.lines = {{"Type", passenger.passengerType, "Reservation No.", passenger.pnr},
+                       {"eTicketNumber", passenger.eticketNumber, "Class", flightClass},
+                       {"Status", "Confirmed", "", ""}};
+    }
+    return blocks;
+}
+
+OWBookingConfirmationView::OWBookingConfirmationView(std::optional<OWFlightAvailability> availability,
+                                                     std::optional<BookingSummary> summary,
+                                                     std::string cabinName,
+                                                     std::vector<Passenger> localPassengers,
+                                                     CompletionCallback completionCallback) :
+    BookingConfirmationView("OWBookingConfirmationView", blocksOf(availability), std::move(summary),
+                            std::move(cabinName), std::move(localPassengers), std::move(completionCallback)),
+    owFlightAvailability(fields, "owFlightAvailability", std::move(availability)) {}
+
+RTBookingConfirmationView::RTBookingConfirmationView(std::optional<RTFlightAvailability> availability,
+                                                     std::optional<BookingSummary> summary,
+                                                     std::string cabinName,
+                                                     std::vector<Passenger> localPassengers,
+                                                     CompletionCallback completionCallback) :
+    BookingConfirmationView("RTBookingConfirmationView", blocksOf(availability), std::move(summary),
+                            std::move(cabinName), std::move(localPassengers), std::move(completionCallback)),
+    rtFlightAvailability(fields, "rtFlightAvailability", std::move(availability)) {}
+
+} // namespace ombrivane

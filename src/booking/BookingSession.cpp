@@ -1,0 +1,179 @@
+#include "booking/BookingSession.h"
+
+#include "platform/OnMain.h"
+#include "records/Encode.h"
+#include "support/DateFormatter.h"
+
+#include <fmt/core.h>
+
+#include <algorithm>
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* contactMissing = "Please fill the details for emergency contact.";
+constexpr const char* passengersMissing = "Please fill the details for all passengers.";
+constexpr std::chrono::milliseconds second{1000};
+constexpr int minute = 60;
+
+std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
+
+} // namespace
+
+BookingSession::BookingSession(std::string_view screenName, BookingGiven given) :
+    Screen(screenName),
+    itineraryType(fields, "itineraryType", std::move(given.itineraryType)),
+    flight(fields, "flight", std::move(given.flight)),
+    returnFlight(fields, "returnFlight", std::move(given.returnFlight)),
+    bookingClass(fields, "bookingClass", std::move(given.bookingClass)),
+    departLocation(fields, "departLocation", std::move(given.departLocation)),
+    destLocation(fields, "destLocation", std::move(given.destLocation)),
+    phaseName(fields, "phase", [this] { return std::string(nameOf(phase())); }),
+    clockText(fields, "clockText",
+              [this] { return fmt::format("{:02}:{:02}", timeRemaining / minute, timeRemaining % minute); }),
+    clockLabel(fields, "clockLabel", constant("left for confirmation")),
+    isLastMinute(fields, "isLastMinute", [this] { return timeRemaining <= minute; }),
+    totalLabel(fields, "totalLabel", constant("Total Fare")),
+    total(fields, "total", [this] { return "NPR " + formatNumber(totalCost().value_or(1)); }),
+    showsFoot(fields, "showsFoot", [this] { return !isLoading && !showPaymentView; }),
+    continueText(fields, "continueText", constant("Continue")),
+    expiredTitle(fields, "expiredTitle", constant("Session Expired")),
+    expiredButtonText(fields, "expiredButtonText", constant("Check Latest Fares")),
+    back(
+        *this, "back", [this] { dismiss(); }, [this] { return allowsNow(SessionControl::back); }),
+    continue_(
+        *this, "continue", [this] { proceed(); }, [this] { return allowsNow(SessionControl::proceed); }),
+    checkLatestFares(
+        *this, "checkLatestFares", [this] { dismiss(); },
+        [this] { return allowsNow(SessionControl::checkLatestFares); }),
+    completionCallback_(std::move(given.completionCallback)),
+    timer_(mainQueue().every(second, [this] { tick(); })) {
+    contact_ =
+        std::make_shared<OWPessangerContactDetailView>(ContactGiven{[this] { return documentsRequired(); },
+                                                                    [this] { return allowedDocuments(); },
+                                                                    [this] { return travelDates(); },
+                                                                    isLoading,
+                                                                    emergencyContact,
+                                                                    documentList,
+                                                                    passengersList,
+                                                                    uniquePassangerList});
+    payment_ = std::make_shared<PaymentView>(PaymentGiven{paymentSummary,
+                                                          bookingSummary,
+                                                          bookingDetailsViewRouteIsActive,
+                                                          errorMessage,
+                                                          showSnackBar,
+                                                          "Verify OTP"});
+}
+
+SessionPhase BookingSession::phase() const {
+    return phaseOf({showSessionExpiredAlert, showProgressView, showPaymentView, isLoading});
+}
+
+void BookingSession::appear() {
+    if (!hasAvailability()) requestAvailability();
+}
+
+void BookingSession::tick() {
+    if (timeRemaining >= 1) {
+        timeRemaining = timeRemaining - 1;
+    } else {
+        showSessionExpiredAlert = true;
+    }
+}
+
+void BookingSession::failAvailability(const std::optional<Error>& error) {
+    task_ = mainQueue().after(messageDuration, [this] { dismiss(); });
+    refuse(error ? error->localizedDescription : "");
+}
+
+void BookingSession::refuse(std::string message) {
+    errorMessage = std::move(message);
+    showSnackBar = true;
+}
+
+void BookingSession::proceed() {
+    if (!emergencyContact.get()) return refuse(contactMissing);
+    if (passengersList->size() != uniquePassangerList->size()) return refuse(passengersMissing);
+    if (passengersList->empty()) fatalFault("a booking without passengers was continued");
+    if (passengersList->front().dob.empty()) return refuse(passengersMissing);
+    showProgressView = true;
+    reserve();
+}
+
+void BookingSession::reserve() {
+    flightBookingProvider_.reserve(
+        passengersList,
+        availabilitySummary(),
+        *emergencyContact.get(),
+        Completion<std::optional<FlightBooking>>::twice(
+            [hold = shared_from_this(),
+             this](std::optional<FlightBooking> booking, std::optional<Error> error) {
+                mainQueue().async(
+                    [hold, this, booking = std::move(booking), error = std::move(error)]() mutable {
+                        reservationAnswered(std::move(booking), error);
+                    });
+            }));
+}
+
+void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
+                                         const std::optional<Error>& error) {
+    if (error) return failReservation(*error);
+    if (!booking) return failReservation({"Ombrivane", 2, "The reservation was not answered."});
+    if (!documentsRequired()) return handOver(*booking);
+    willUpload();
+    upload(*booking);
+}
+
+void BookingSession::upload(const FlightBooking& booking) {
+    // A passenger written by the contact form has no entry among the documents yet.
+    auto documents = documentList.get();
+    documents.resize(std::max(documents.size(), passengersList->size()));
+    passengerDocumentsProvider_.upload(
+        passengersList,
+        documents,
+        booking.passengers,
+        booking.bookingReferenceID,
+        onMain<std::optional<FlightBooking>>([hold = shared_from_this(), this, booking](
+                                                 std::optional<FlightBooking>, std::optional<Error> error) {
+            if (error) return failReservation(*error);
+            handOver(booking);
+        }));
+}
+
+void BookingSession::failReservation(const Error& error) {
+    errorMessage = error.localizedDescription;
+    showProgressView = false;
+    showSnackBar = true;
+}
+
+void BookingSession::handOver(const FlightBooking& booking) {
+    const auto hold = shared_from_this();
+    showProgressView = false;
+    AppState::shared().resetNavigation();
+    completionCallback_(handOverDictionary(booking), std::nullopt);
+}
+
+Dictionary BookingSession::handOverDictionary(const FlightBooking& booking) const {
+    const auto contact = emergencyContact->value_or(EmergencyContact());
+    const auto cost = totalCost();
+    return Dictionary{
+        {"exit", true},
+        {"flightSummary", flightSummary()},
+        {"emergencyContact",
+         Dictionary{{"contact", contact.contact}, {"email", contact.email}, {"name", contact.name}}},
+        {"bookingSummary", encode(booking)},
+        {"bearerToken", AppState::shared().accessToken.get()},
+        {"totalCost", cost ? Dictionary(*cost) : Dictionary("")}};
+}
+
+std::shared_ptr<PaymentView> BookingSession::paymentInPlace() const {
+    return showPaymentView ? payment_ : nullptr;
+}
+
+std::shared_ptr<OWPessangerContactDetailView> BookingSession::contactInPlace() const {
+    return showPaymentView ? nullptr : contact_;
+}
+
+} // namespace ombrivane

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "booking/OWPessangerContactDetailView.h"
+#include "booking/PaymentView.h"
+#include "booking/SessionPhase.h"
+#include "booking/TravelDates.h"
+#include "platform/Platform.h"
+#include "records/KeyedRecords.h"
+#include "records/UniquePassanger.h"
+#include "services/FlightBookingProvider.h"
+#include "services/PassengerDocumentsProvider.h"
+#include "state/AppState.h"
+#include "state/CompletionCallback.h"
+#include "support/Action.h"
+#include "support/CustomSnackBarView.h"
+#include "support/Field.h"
+#include "support/KeyedImage.h"
+#include "support/Link.h"
+#include "support/Screen.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ombrivane {
+
+/// What the fare rules gate hands to a session.
+struct BookingGiven {
+    std::string itineraryType;
+    std::optional<AnyFlight> flight;
+    std::optional<AnyFlight> returnFlight; ///< of a domestic special round
+    std::string bookingClass;              ///< cabin name
+    std::string departLocation;
+    std::string destLocation;
+    CompletionCallback completionCallback;
+};
+
+/// One booking attempt, one way or round trip: the availability, ten minutes on the clock, the travellers and
+/// the contact, the reservation, the upload of documents where they are demanded, and the hand-over to the
+/// host. `SessionPhase` tells what may happen when.
+class BookingSession : public Screen {
+public:
+    void appear() override;
+    void disappear() override { task_.cancel(); }
+
+    Published<std::string> itineraryType;
+    Published<std::optional<AnyFlight>> flight;
+    Published<std::optional<AnyFlight>> returnFlight;
+    Published<std::string> bookingClass;
+    Published<std::string> departLocation;
+    Published<std::string> destLocation;
+    Published<int> timeRemaining{fields, "timeRemaining", 600};
+    Published<bool> isLoading{fields, "isLoading", true};
+    Published<std::string> appBarTitle{fields, "appBarTitle", "Payment Confirmation"};
+    Published<std::vector<Passenger>> passengersList{fields, "passengersList"};
+    Published<std::vector<std::optional<Image>>> documentList{fields, "documentList"};
+    Published<std::optional<BookingSummary>> bookingSummary{fields, "bookingSummary"};
+    Published<std::optional<PaymentSummary>> paymentSummary{fields, "paymentSummary"};
+    Published<std::optional<EmergencyContact>> emergencyContact{fields, "emergencyContact"};
+    Published<std::vector<UniquePassanger>> uniquePassangerList{fields, "uniquePassangerList"};
+    Published<bool> showSessionExpiredAlert{fields, "showSessionExpiredAlert"};
+    Published<bool> showSnackBar{fields, "showSnackBar"};
+    Published<bool> showProgressView{fields, "showProgressView"};
+    Published<bool> showPaymentView{fields, "showPaymentView"};
+    Published<std::string> errorMessage{fields, "errorMessage"};
+    Published<std::string> progressMessage{fields, "progressMessage", "Please wait ..."};
+    Published<bool> bookingDetailsViewRouteIsActive{fields, "bookingDetailsViewRouteIsActive"};
+
+    Derived<std::string> phaseName;
+    Derived<std::string> clockText;
+    Derived<std::string> clockLabel;
+    Derived<bool> isLastMinute;
+    Derived<std::string> totalLabel;
+    Derived<std::string> total;
+    Derived<bool> showsFoot;
+    Derived<std::string> continueText;
+    Derived<std::string> expiredTitle;
+    Derived<std::string> expiredButtonText;
+
+    Action<> back;
+    Action<> continue_;
+    Action<> checkLatestFares;
+
+protected:
+    BookingSession(std::string_view name, BookingGiven given);
+
+    /// Asks for the availability; called when the screen appears and none is held.
+    virtual void requestAvailability() = 0;
+    virtual bool hasAvailability() const = 0;
+    virtual std::optional<AvailabilitySummary> availabilitySummary() const = 0;
+    virtual bool documentsRequired() const = 0;
+    virtual std::vector<std::string> allowedDocuments() const = 0;
+    virtual std::optional<std::int64_t> totalCost() const = 0;
+    virtual std::optional<TravelDates> travelDates() const = 0;
+    /// The journeys as the host receives them.
+    virtual Dictionary flightSummary() const = 0;
+    /// Called before the documents of a reservation are uploaded.
+    virtual void willUpload() const {}
+
+    /// Takes an availability in: `store` keeps the record.
+    template <class Availability>
+    void takeAvailability(std::optional<Availability> record, const std::optional<Error>& error,
+                          Field<std::optional<Availability>>& held) {
+        if (error || !record) return failAvailability(error);
+        isLoading = false;
+        held.set(std::move(record));
+        if (uniquePassangerList->empty()) uniquePassangerList = passengerSlots(availabilitySummary());
+    }
+
+    CompletionCallback completionCallback() const { return completionCallback_; }
+
+private:
+    SessionPhase phase() const;
+    bool allowsNow(SessionControl control) const { return allows(phase(), control); }
+    void tick();
+    void failAvailability(const std::optional<Error>& error);
+    void refuse(std::string message);
+    void proceed();
+    void reserve();
+    void reservationAnswered(std::optional<FlightBooking> booking, const std::optional<Error>& error);
+    void upload(const FlightBooking& booking);
+    void failReservation(const Error& error);
+    void handOver(const FlightBooking& booking);
+    Dictionary handOverDictionary(const FlightBooking& booking) const;
+
+    CompletionCallback completionCallback_;
+    FlightBookingProvider flightBookingProvider_;
+    PassengerDocumentsProvider passengerDocumentsProvider_;
+    WorkItem task_;
+    WorkItem timer_;
+    CustomSnackBarView snackBar_{showSnackBar};
+    std::shared_ptr<OWPessangerContactDetailView> contact_;
+    std::shared_ptr<PaymentView> payment_;
+
+protected:
+    /// The payment in place of the content, while its flag is raised.
+    std::shared_ptr<PaymentView> paymentInPlace() const;
+    std::shared_ptr<OWPessangerContactDetailView> contactInPlace() const;
+};
+
+} // namespace ombrivane

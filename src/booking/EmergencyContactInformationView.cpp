@@ -1,0 +1,103 @@
+#include "booking/EmergencyContactInformationView.h"
+
+#include "state/AppState.h"
+#include "support/Fault.h"
+
+namespace ombrivane {
+namespace {
+
+std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
+
+/// The pieces between single blanks, empty ones included.
+std::vector<std::string> pieces(const std::string& text) {
+    std::vector<std::string> result;
+    std::size_t start = 0;
+    for (auto blank = text.find(' '); blank != std::string::npos; blank = text.find(' ', start)) {
+        result.push_back(text.substr(start, blank - start));
+        start = blank + 1;
+    }
+    result.push_back(text.substr(start));
+    return result;
+}
+
+} // namespace
+
+EmergencyContactInformationView::EmergencyContactInformationView(
+    const Uuid& slot, std::string typeCode, std::vector<std::string> documents,
+    const Field<std::optional<EmergencyContact>>& contact, const Field<std::vector<Passenger>>& passengers) :
+    Screen("EmergencyContactInformationView"),
+    uuid(fields, "uuid", slot),
+    type(fields, "type", std::move(typeCode)),
+    allowedDocuments(fields, "allowedDocuments", std::move(documents)),
+    emergencyContact(fields, "emergencyContact", contact),
+    passengersList(fields, "passengersList", passengers),
+    title(fields, "title", constant("Emergency Contact Information")),
+    boxText(fields, "boxText", constant("I'm a passenger.")),
+    saveText(fields, "saveText", constant("Save Details")),
+    nameColor(fields, "nameColor", [this] { return ECIVM.nameColor(); }),
+    surnameColor(fields, "surnameColor", [this] { return ECIVM.surnameColor(); }),
+    emailColor(fields, "emailColor", [this] { return ECIVM.emailColor(); }),
+    phoneNumberColor(fields, "phoneNumberColor", [this] { return ECIVM.phoneNumberColor(); }),
+    typeName(*this, "typeName", [this](const std::string& text) { ECIVM.name = text; }),
+    typeSurname(*this, "typeSurname", [this](const std::string& text) { ECIVM.surname = text; }),
+    typeEmail(*this, "typeEmail", [this](const std::string& text) { ECIVM.email = text; }),
+    typePhoneNumber(*this, "typePhoneNumber", [this](const std::string& text) { ECIVM.phoneNumber = text; }),
+    tapBox(*this, "tapBox", [this] { ECIVM.isPassanger = !ECIVM.isPassanger.get(); }),
+    close(*this, "close", [this] { dismiss(); }),
+    save(*this, "save", [this] { saveDetails(); }),
+    model_(fields, "ECIVM", ECIVM.fields) {}
+
+void EmergencyContactInformationView::load() {
+    const auto& contact = emergencyContact.get();
+    // Without a contact, blanks enough for two empty pieces.
+    const auto words = pieces(contact ? contact->name : "   ");
+    if (words.size() < 2) fatalFault("the contact's name has no blank");
+    ECIVM.name = words[0];
+    ECIVM.surname = words[1];
+    ECIVM.email = contact ? contact->email : "";
+    ECIVM.phoneNumber = contact ? contact->contact : "";
+    ECIVM.isPassanger = contact && contact->isPassenger;
+}
+
+void EmergencyContactInformationView::refuse(const char* text) {
+    message = text;
+    ECIVM.showSnackBar = true;
+}
+
+void EmergencyContactInformationView::saveDetails() {
+    if (ECIVM.validate()) return refuse("Please fill the marked fields.");
+    if (ECIVM.numberIsShort()) return refuse("Please enter valid number.");
+    EmergencyContact contact;
+    contact.contact = ECIVM.phoneNumber;
+    contact.email = ECIVM.email;
+    contact.name = ECIVM.name.get() + " " + ECIVM.surname.get();
+    contact.isPassenger = ECIVM.isPassanger;
+    emergencyContact = contact;
+    if (ECIVM.isPassanger) writePassenger();
+    dismiss();
+}
+
+/// The person becomes the first passenger: a new one without a date of birth, or in place of the old one,
+/// whose date of birth and document stay.
+void EmergencyContactInformationView::writePassenger() {
+    auto passengers = passengersList.get();
+    if (passengers.empty()) {
+        Passenger& stub = passengers.emplace_back();
+        stub.documentIssuedDateSerialNo = "";
+        stub.documentNumber = "";
+        stub.documentType = allowedDocuments->empty() ? std::string() : allowedDocuments->front();
+        stub.gender = "Male";
+    }
+    Passenger& first = passengers.front();
+    first.id = uuid;
+    first.firstName = ECIVM.name;
+    first.lastName = ECIVM.surname;
+    first.email = ECIVM.email;
+    first.nationality = AppState::shared().nationality;
+    first.type = type;
+    passengersList = std::move(passengers);
+}
+
+} // namespace ombrivane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "booking/JourneyCard.h"
+#include "support/Action.h"
+#include "support/Derived.h"
+#include "support/Screen.h"
+
+#include <string>
+#include <vector>
+
+namespace ombrivane {
+
+/// The journeys of an availability leg by leg: `OWFlightDetailsView` and `RTFlightDetailsView`.
+class FlightDetailsView : public Screen {
+public:
+    Derived<std::string> title;
+    Derived<std::string> originCity;
+    Derived<std::string> destinationCity;
+    Derived<std::string> routeImage;
+    Derived<std::vector<JourneyCard>> journeys;
+    Action<> close{*this, "close", [this] { dismiss(); }};
+
+protected:
+    FlightDetailsView(std::string_view name, const char* image, std::vector<JourneyCard> cards);
+
+private:
+    std::vector<JourneyCard> cards_;
+};
+
+class OWFlightDetailsView final : public FlightDetailsView {
+public:
+    explicit OWFlightDetailsView(const std::optional<FlightsSummary>& summary) :
+        FlightDetailsView("OWFlightDetailsView", "toIcon", journeyCards(summary)) {}
+};
+
+class RTFlightDetailsView final : public FlightDetailsView {
+public:
+    explicit RTFlightDetailsView(const std::optional<RTFlightsSummary>& summary) :
+        FlightDetailsView("RTFlightDetailsView", "exchangeIcon", journeyCards(summary)) {}
+};
+
+} // namespace ombrivane

@@ -1,0 +1,104 @@
+#include "booking/PaymentView.h"
+
+#include "platform/OnMain.h"
+#include "search/OfferFormat.h"
+#include "state/AppState.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* partner = "kolmiWallet";
+/// Shown while there is no order.
+constexpr const char* sampleReference = "OMB26SAMPLE014";
+
+std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
+
+} // namespace
+
+PaymentView::PaymentView(PaymentGiven given) :
+    Screen("PaymentView"),
+    paymentSummary(fields, "paymentSummary", given.paymentSummary),
+    bookingSummary(fields, "bookingSummary", given.bookingSummary),
+    bookingDetailsViewRouteIsActive(fields, "bookingDetailsViewRouteIsActive",
+                                    given.bookingDetailsViewRouteIsActive),
+    errorMessage(fields, "errorMessage", given.errorMessage),
+    showSnackBar(fields, "showSnackBar", given.showSnackBar),
+    buttonText(fields, "buttonText", std::move(given.buttonText)),
+    title(fields, "title", constant("Payment Confirmation")),
+    route(fields, "route",
+          [this] {
+              const auto& order = paymentSummary.get();
+              return order ? order->departureAirport + " - " + order->arrivalAirport
+                           : std::string("Kathmandu (KTM) - New York (JFK)");
+          }),
+    date(fields, "date",
+         [this] {
+             const auto& order = paymentSummary.get();
+             if (!order) return std::string("Thu, Jun 23, 2022 10:15");
+             return order->departureDate + (order->returnDate ? " - " + *order->returnDate : "");
+         }),
+    referenceLabel(fields, "referenceLabel", constant("Refrence ID")),
+    reference(fields, "reference",
+              [this] {
+                  const auto& order = paymentSummary.get();
+                  return order ? order->bookingReferenceID : std::string(sampleReference);
+              }),
+    amountLabel(fields, "amountLabel", constant("Amount")),
+    amount(fields, "amount",
+           [this] {
+               const auto& order = paymentSummary.get();
+               return order ? OfferFormat::price(order->currency, order->amount) : std::string("NPR 80,000");
+           }),
+    otpPlaceholder(fields, "otpPlaceholder", constant("Enter OTP")),
+    typeOtp(*this, "typeOtp", [this](const std::string& text) { otpText = text; }),
+    button(
+        *this, "button", [this] { confirmOrder(); }, [this] { return !showProgressView; }) {}
+
+std::string PaymentView::bookingReferenceID() const {
+    const auto& order = paymentSummary.get();
+    return order ? order->bookingReferenceID : "";
+}
+
+std::string PaymentView::transactionID() const {
+    const auto& order = paymentSummary.get();
+    return order ? order->transactionID : "";
+}
+
+void PaymentView::fail(const std::optional<Error>& error) {
+    errorMessage = error ? error->localizedDescription : "";
+    showProgressView = false;
+    showSnackBar = true;
+}
+
+void PaymentView::generateOrder() {
+    showProgressView = true;
+    using Answer = std::optional<PaymentSummary>;
+    paymentProvider_.generateOrder(
+        bookingReferenceID(),
+        partner,
+        transactionID(),
+        AppState::shared().phone->value_or(""),
+        onMain<Answer>([hold = shared_from_this(), this](Answer, std::optional<Error> error) {
+            if (error) return fail(error);
+            showProgressView = false;
+        }));
+}
+
+void PaymentView::confirmOrder() {
+    showProgressView = true;
+    using Answer = std::optional<BookingSummary>;
+    paymentProvider_.confirmOrder(
+        bookingReferenceID(),
+        transactionID(),
+        otpText,
+        onMain<Answer>([hold = shared_from_this(), this](Answer summary, std::optional<Error> error) {
+            if (error) return fail(error);
+            bookingSummary = std::move(summary);
+            showProgressView = false;
+            bookingDetailsViewRouteIsActive = true;
+        }));
+}
+
+} // namespace ombrivane

@@ -1,0 +1,96 @@
+#include "booking/RulesAndRegulationView.h"
+
+#include "booking/OWBookingDetailsView.h"
+#include "booking/RTBookingDetailsView.h"
+#include "platform/OnMain.h"
+#include "search/CabinClass.h"
+#include "services/ItineraryType.h"
+#include "support/FareRules.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* noRestrictions = "No restrictions are applied for the flight.";
+
+} // namespace
+
+RulesAndRegulationView::RulesAndRegulationView(Given given) :
+    Screen("RulesAndRegulationView"),
+    rulesAndRegulationViewIsActive(fields, "rulesAndRegulationViewIsActive", given.isActive),
+    bookingClass(fields, "bookingClass", std::move(given.bookingClass)),
+    departLocation(fields, "departLocation", std::move(given.departLocation)),
+    destLocation(fields, "destLocation", std::move(given.destLocation)),
+    itineraryType(fields, "itineraryType", std::move(given.itineraryType)),
+    flight(fields, "flight", std::move(given.flight)),
+    returnFlight(fields, "returnFlight", std::move(given.returnFlight)),
+    paragraphs(fields, "paragraphs", [this] { return fareRules(htmlText.get()); }),
+    cancel(
+        *this, "cancel", [this] { rulesAndRegulationViewIsActive = false; },
+        [this] { return !showProgressView; }),
+    continue_(
+        *this, "continue",
+        [this] {
+            const bool oneWay = itineraryType.get() == itineraryType::oneway;
+            (oneWay ? oneWayBookingDetailScreenIsActive : roundTripBookingDetailScreenIsActive) = true;
+        },
+        [this] { return !showProgressView; }),
+    completionCallback_(std::move(given.completionCallback)),
+    oneWaySession_(*this, Presentation::push, oneWayBookingDetailScreenIsActive,
+                   [this] {
+                       return std::make_shared<OWBookingDetailsView>(BookingGiven{itineraryType,
+                                                                                  flight,
+                                                                                  std::nullopt,
+                                                                                  cabinName(),
+                                                                                  departLocation,
+                                                                                  destLocation,
+                                                                                  completionCallback_});
+                   }),
+    roundTripSession_(*this, Presentation::push, roundTripBookingDetailScreenIsActive, [this] {
+        return std::make_shared<RTBookingDetailsView>(BookingGiven{itineraryType,
+                                                                   flight,
+                                                                   returnFlight,
+                                                                   cabinName(),
+                                                                   departLocation,
+                                                                   destLocation,
+                                                                   completionCallback_});
+    }) {}
+
+/// An unknown letter, an empty one included, is economy.
+std::string RulesAndRegulationView::cabinName() const {
+    const std::string name = cabinNameOfCode(bookingClass);
+    return name.empty() ? "Economy" : name;
+}
+
+void RulesAndRegulationView::fetch() {
+    const auto& going = flight.get();
+    const auto& coming = returnFlight.get();
+    const auto completion = [this] {
+        return onMain<std::optional<std::string>>(
+            [hold = shared_from_this(),
+             this](std::optional<std::string> message, std::optional<Error> error) {
+                take(std::move(message), error);
+            });
+    };
+    if (itineraryType.get() == itineraryType::oneway) {
+        if (going) restrictionsOneWayProvider_.fetchRestrictions(itineraryType, *going, completion());
+    } else if (going && !coming) {
+        restrictionsRoundTripProvider_.fetchRestrictions(itineraryType, *going, completion());
+    } else if (going && coming) {
+        restrictionsRoundTripProvider_.fetchRestrictions(
+            itineraryType::roundSpecial, *going, *coming, completion());
+    }
+}
+
+void RulesAndRegulationView::take(std::optional<std::string> message, const std::optional<Error>& error) {
+    if (!error) {
+        showProgressView = false;
+        htmlText = message.value_or(noRestrictions);
+        return;
+    }
+    task_ = mainQueue().after(messageDuration, [this] { showSnackBar = false; });
+    showProgressView = false;
+    errorMessage = error->localizedDescription;
+    showSnackBar = true;
+}
+
+} // namespace ombrivane

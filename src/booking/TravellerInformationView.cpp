@@ -1,0 +1,213 @@
+#include "booking/TravellerInformationView.h"
+
+#include "booking/DocumentType.h"
+#include "platform/Platform.h"
+#include "search/CustomDateHelper.h"
+#include "services/FlightsSummarySlots.h"
+#include "state/AppState.h"
+#include "support/Calendar.h"
+#include "support/DateFormatter.h"
+#include "support/PhotoPicker.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace ombrivane {
+namespace {
+
+constexpr int passportMonths = 6;
+
+/// The greatest age on the last day of travel.
+int oldest(const std::string& type) {
+    if (type == "Infant") return 2;
+    return type == "Child" ? 12 : 100;
+}
+
+/// Of the session's own availability, else of the last one that the process has seen.
+TravelDates heldDates(const std::optional<TravelDates>& session) {
+    if (session) return *session;
+    if (const auto oneWay = owFlightsSummary()) return {oneWay->deptDate, oneWay->deptDate};
+    if (const auto roundTrip = rtFlightsSummary()) return {roundTrip->deptDate, roundTrip->returnDeptDate};
+    fatalFault("a traveller form was opened without an availability");
+}
+
+std::optional<Date> dateOf(const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    return CustomDateHelper::parse(text, datePattern::wire);
+}
+
+std::string capitalised(std::string text) {
+    if (!text.empty())
+        text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
+    return text;
+}
+
+std::string shownDate(const std::optional<Date>& date) {
+    return date ? formatDate(*date, datePattern::form) : "";
+}
+
+std::optional<Date> pickedDate(const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    const auto date = parseDate(text, datePattern::wire);
+    if (!date) throw KeyedError("wants a day such as \"2026-11-21\"");
+    return date;
+}
+
+std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
+
+} // namespace
+
+DocumentTypeTile::DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen) :
+    Screen("DocumentTypeTile"),
+    label(fields, "label", [wireCode] { return documentLabel(wireCode); }),
+    isSelected(fields, "isSelected", [this, wireCode] { return documentType.get() == wireCode; }),
+    tap(*this, "tap", [this, wireCode] { documentType = wireCode; }),
+    documentType(fields, "documentType", chosen) {}
+
+TravellerInformationView::TravellerInformationView(TravellerGiven given) :
+    Screen("TravellerInformationView"),
+    uuid(fields, "uuid", given.uuid),
+    type(fields, "type", given.type),
+    allowedDocuments(fields, "allowedDocuments", std::move(given.allowedDocuments)),
+    documentsRequired(fields, "documentsRequired", given.documentsRequired),
+    passengersList(fields, "passengersList", given.passengersList),
+    documentList(fields, "documentList", given.documentList),
+    minPpDate(fields, "minPpDate"),
+    minDOB(fields, "minDOB"),
+    title(fields, "title", constant("Traveller Information")),
+    message(fields, "message", constant("Please fill the marked fields.")),
+    saveText(fields, "saveText", constant("Save Details")),
+    nationality(fields, "nationality", [this] { return TIVM.nationality.get(); }),
+    dateOfBirthText(fields, "dateOfBirthText", [this] { return shownDate(TIVM.dateOfBirth); }),
+    expiryDateText(fields, "expiryDateText", [this] { return shownDate(TIVM.expiryDate); }),
+    showsDocuments(fields, "showsDocuments", [this] { return documentsRequired.get(); }),
+    showsExpiryDate(fields, "showsExpiryDate",
+                    [this] { return documentsRequired && TIVM.documentType.get() == passportType; }),
+    latestDateOfBirth(fields, "latestDateOfBirth", [] { return platform().clock->now(); }),
+    nameColor(fields, "nameColor", [this] { return TIVM.nameColor(); }),
+    surnameColor(fields, "surnameColor", [this] { return TIVM.surnameColor(); }),
+    emailColor(fields, "emailColor", [this] { return TIVM.emailColor(); }),
+    dateOfBirthColor(fields, "dateOfBirthColor", [this] { return TIVM.dateOfBirthColor(); }),
+    documentNumberColor(fields, "documentNumberColor", [this] { return TIVM.documentNumberColor(); }),
+    expiryDateColor(fields, "expiryDateColor", [this] { return TIVM.expiryDateColor(); }),
+    documentImageColor(fields, "documentImageColor", [this] { return TIVM.documentImageColor(); }),
+    documentTypes(
+        *this, "documentTypes", [this] { return allowedDocuments->size(); },
+        [this](std::size_t index) {
+            return std::make_shared<DocumentTypeTile>(allowedDocuments->at(index), TIVM.documentType);
+        }),
+    typeName(*this, "typeName", [this](const std::string& text) { TIVM.name = text; }),
+    typeSurname(*this, "typeSurname", [this](const std::string& text) { TIVM.surname = text; }),
+    typeEmail(*this, "typeEmail", [this](const std::string& text) { TIVM.email = text; }),
+    typeDocumentNumber(*this, "typeDocumentNumber",
+                       [this](const std::string& text) { TIVM.documentNumber = text; }),
+    chooseGender(*this, "chooseGender",
+                 [this](const std::string& choice) {
+                     if (choice == "Male" || choice == "Female") TIVM.gender = choice;
+                 }),
+    pickDateOfBirth(*this, "pickDateOfBirth",
+                    [this](const std::string& day) {
+                        const auto date = pickedDate(day);
+                        const bool within =
+                            date && *date >= calendar::startOfDay(minDOB) && *date <= platform().clock->now();
+                        if (within) TIVM.dateOfBirth = date;
+                    }),
+    pickExpiryDate(*this, "pickExpiryDate",
+                   [this](const std::string& day) {
+                       const auto date = pickedDate(day);
+                       if (date && *date >= calendar::startOfDay(minPpDate)) TIVM.expiryDate = date;
+                   }),
+    openPhotoPicker(*this, "openPhotoPicker", [this] { TIVM.isShowingPhotoPicker = true; }),
+    close(*this, "close", [this] { dismiss(); }),
+    save(*this, "save", [this] { saveDetails(); }),
+    model_(fields, "TIVM", TIVM.fields),
+    photoPicker_(*this, Presentation::sheet, TIVM.isShowingPhotoPicker,
+                 [this] { return std::make_shared<PhotoPicker>(TIVM.documentImage); }) {
+    setLimits(given.travelDates);
+    TIVM.documentType = allowedDocuments->empty() ? std::string() : allowedDocuments->front();
+    TIVM.type = given.type;
+    TIVM.documentsRequired = given.documentsRequired;
+    TIVM.nationality = AppState::shared().nationalityText.get();
+}
+
+void TravellerInformationView::setLimits(const std::optional<TravelDates>& dates) {
+    const TravelDates held = heldDates(dates);
+    const Date first = CustomDateHelper::parse(held.first, datePattern::wire);
+    const Date last = CustomDateHelper::parse(held.last, datePattern::wire);
+    minDOB = calendar::addYears(last, -oldest(type));
+    minPpDate = calendar::addMonths(first, passportMonths);
+}
+
+std::optional<std::size_t> TravellerInformationView::position() const {
+    const auto& list = passengersList.get();
+    const auto found = std::find_if(
+        list.begin(), list.end(), [this](const Passenger& passenger) { return passenger.id == uuid.get(); });
+    if (found == list.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - list.begin());
+}
+
+void TravellerInformationView::load() {
+    const auto saved = position();
+    if (!saved) return;
+    const Passenger& passenger = passengersList->at(*saved);
+    const auto& documents = documentList.get();
+    TIVM.name = passenger.firstName;
+    TIVM.surname = passenger.lastName;
+    TIVM.email = passenger.email;
+    TIVM.gender = capitalised(passenger.gender);
+    TIVM.dateOfBirth = dateOf(passenger.dob);
+    TIVM.documentType = passenger.documentType;
+    TIVM.documentNumber = passenger.documentNumber.value_or("");
+    TIVM.expiryDate = dateOf(passenger.documentExpiryDate.value_or(""));
+    TIVM.documentImage = *saved < documents.size() ? documents.at(*saved) : std::nullopt;
+}
+
+Passenger TravellerInformationView::compose() const {
+    Passenger passenger;
+    passenger.id = uuid;
+    passenger.dob = formatDate(*TIVM.dateOfBirth.get(), datePattern::wire);
+    if (const auto& expiry = TIVM.expiryDate.get()) {
+        passenger.documentExpiryDate = formatDate(*expiry, datePattern::wire);
+    }
+    passenger.documentIssuedDateSerialNo = "";
+    if (!TIVM.documentNumber->empty()) passenger.documentNumber = TIVM.documentNumber.get();
+    passenger.documentType = TIVM.documentType;
+    passenger.firstName = TIVM.name;
+    passenger.gender = TIVM.gender;
+    passenger.lastName = TIVM.surname;
+    passenger.email = TIVM.email;
+    passenger.nationality = AppState::shared().nationality;
+    passenger.type = TIVM.passengerTypeCode();
+    return passenger;
+}
+
+void TravellerInformationView::saveDetails() {
+    if (TIVM.validate()) {
+        TIVM.showSnackBar = true;
+        return;
+    }
+    auto passengers = passengersList.get();
+    auto documents = documentList.get();
+    if (const auto saved = position()) {
+        passengers.at(*saved) = compose();
+        if (documents.empty()) {
+            documents.push_back(TIVM.documentImage);
+        } else {
+            documents.resize(std::max(documents.size(), *saved + 1));
+            documents.at(*saved) = TIVM.documentImage;
+        }
+    } else {
+        // A passenger written by the contact form has no entry among the documents: each position of one list
+        // belongs to the same position of the other.
+        documents.resize(std::max(documents.size(), passengers.size()));
+        passengers.push_back(compose());
+        documents.push_back(TIVM.documentImage);
+    }
+    passengersList = std::move(passengers);
+    documentList = std::move(documents);
+    dismiss();
+}
+
+} // namespace ombrivane

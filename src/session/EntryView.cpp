@@ -1,0 +1,63 @@
+#include "session/EntryView.h"
+
+#include "platform/Platform.h"
+#include "screens/MainView.h"
+#include "services/CustomError.h"
+#include "session/Fonts.h"
+#include "state/AppState.h"
+
+namespace ombrivane {
+namespace {
+
+/// Closing is always a step of the main queue of its own.
+std::function<void()> closing(Dismissal dismissal) {
+    return [dismissal = std::move(dismissal)] {
+        const bool frontmost = platform().system.isBelow("iOS", 15);
+        mainQueue().async([close = frontmost ? dismissal.dismissFrontmost : dismissal.dismiss, frontmost] {
+            if (close) return close();
+            if (frontmost) fatalFault("the application has no window to close the component in");
+        });
+    };
+}
+
+} // namespace
+
+EntryView::EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal) :
+    Screen("OmbrivaneView"),
+    arguments_(std::move(arguments)),
+    boundary_(std::make_shared<HostBoundary>(std::move(callback), closing(std::move(dismissal)))) {}
+
+EntryView::~EntryView() { boundary_->drop(); }
+
+void EntryView::appear() {
+    if (platform().system.isBelow("iOS", 14)) {
+        return boundary_->receive(std::nullopt, makeError(CustomError::requiredIOSVersion));
+    }
+    // Before any endpoint is read: the first one fixes the host for the life of the process.
+    AppState::shared().environment = arguments_.environment.value_or("test");
+
+    const std::weak_ptr<Screen> weak = weak_from_this();
+    const auto boundary = boundary_;
+    AuthenticationProvider().authenticate(
+        arguments_.clientId,
+        arguments_.clientSecret,
+        arguments_.userType,
+        [weak, boundary](std::optional<Authentication> authentication, std::optional<Error> error) {
+            if (error) return boundary->receive(std::nullopt, std::move(error));
+            mainQueue().async([weak, authentication = std::move(authentication)]() mutable {
+                const auto self = weak.lock();
+                if (self) static_cast<EntryView&>(*self).authenticated(std::move(authentication));
+            });
+        });
+}
+
+void EntryView::authenticated(std::optional<Authentication> authentication) {
+    AppState::shared().update(authentication ? authentication->accessToken : "",
+                              arguments_.userType.value_or("customer"),
+                              arguments_.walletBalance,
+                              arguments_.phone);
+    registerFonts();
+    view = std::make_shared<MainView>(boundary_->internalCallback());
+}
+
+} // namespace ombrivane

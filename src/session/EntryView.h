@@ -1,0 +1,58 @@
+#pragma once
+
+#include "services/AuthenticationProvider.h"
+#include "session/HostBoundary.h"
+#include "state/CompletionCallback.h"
+#include "support/Field.h"
+#include "support/KeyedScreen.h"
+#include "support/Link.h"
+#include "support/Screen.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ombrivane {
+
+/// What the host passes in.
+struct EntryArguments {
+    std::string clientId;
+    std::string clientSecret;
+    std::optional<std::string> userType;
+    std::optional<double> walletBalance;
+    std::optional<std::string> phone;
+    std::optional<std::string> environment;
+};
+
+/// How the host takes the component off its screen.
+struct Dismissal {
+    /// Ends the presentation of the view.
+    std::function<void()> dismiss;
+    /// Dismisses the frontmost view of the application's first window; used below iOS 15.
+    std::function<void()> dismissFrontmost;
+};
+
+/// The root of all screens: a placeholder until the bootstrap has finished, then a thin frame around
+/// `MainView`. The bootstrap runs each time the view comes on screen; a failure reaches the host and closes
+/// the component.
+class EntryView final : public Screen {
+public:
+    EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal);
+    /// The host drops the view: it is called no more, but for the hand-over of a reservation under way.
+    ~EntryView() override;
+
+    void appear() override;
+
+    /// The content, once the bootstrap has finished.
+    Published<std::shared_ptr<Screen>> view{fields, "view"};
+    Part content{*this, "view", [this] { return view.get(); }};
+
+private:
+    void authenticated(std::optional<Authentication> authentication);
+
+    EntryArguments arguments_;
+    std::shared_ptr<HostBoundary> boundary_;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,31 @@
+#include "session/Fonts.h"
+
+#include "platform/Platform.h"
+#include "support/Fault.h"
+#include "support/SharedInstance.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* bundleIdentifier = "com.framework.Ombrivane";
+
+struct FontsState {
+    bool registered = false;
+};
+
+} // namespace
+
+void registerFonts() {
+    auto& state = SharedInstance<FontsState>::get();
+    if (state.registered) return;
+    if (!platform().bundles->contains(bundleIdentifier)) {
+        fatalFault(std::string("there is no bundle ") + bundleIdentifier);
+    }
+    const auto urls = platform().bundles->urls(bundleIdentifier, "ttf");
+    if (!urls) return;
+    for (const auto& url : *urls)
+        platform().fonts->registerFont(url);
+    state.registered = true;
+}
+
+} // namespace ombrivane

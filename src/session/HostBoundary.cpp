@@ -1,0 +1,62 @@
+#include "session/HostBoundary.h"
+
+#include "support/Fault.h"
+
+namespace ombrivane {
+namespace {
+
+bool exitOf(const Dictionary& dictionary) {
+    const auto exit = dictionary.is_object() ? dictionary.find("exit") : dictionary.end();
+    if (exit == dictionary.end() || !exit->is_boolean()) {
+        fatalFault("a completion dictionary has no boolean \"exit\"");
+    }
+    return exit->get<bool>();
+}
+
+} // namespace
+
+CompletionCallback HostBoundary::internalCallback() {
+    return [self = shared_from_this()](std::optional<Dictionary> dictionary, std::optional<Error> error) {
+        self->receive(std::move(dictionary), std::move(error));
+    };
+}
+
+/// Whether the component was open until now; it is not any more.
+bool HostBoundary::endUse() {
+    const std::lock_guard lock(mutex_);
+    if (state_ != State::open) return false;
+    state_ = State::closed;
+    return true;
+}
+
+void HostBoundary::closeIf(bool open) {
+    if (open && close_) close_();
+}
+
+void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<Error> error) {
+    if (error) {
+        const bool open = endUse();
+        if (open && callback_) callback_(std::nullopt, std::move(error));
+        return closeIf(open);
+    }
+    if (!dictionary) return closeIf(endUse());
+
+    if (exitOf(*dictionary)) {
+        const bool open = endUse();
+        if (callback_) callback_(std::move(dictionary), std::nullopt);
+        return closeIf(open);
+    }
+    bool open = false;
+    {
+        const std::lock_guard lock(mutex_);
+        open = state_ == State::open;
+    }
+    if (open && callback_) callback_(std::move(dictionary), std::nullopt);
+}
+
+void HostBoundary::drop() {
+    const std::lock_guard lock(mutex_);
+    state_ = State::dropped;
+}
+
+} // namespace ombrivane

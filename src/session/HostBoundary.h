@@ -1,0 +1,48 @@
+#pragma once
+
+#include "state/CompletionCallback.h"
+
+#include <functional>
+#include <memory>
+#include <mutex>
+
+namespace ombrivane {
+
+/// The only place at which the component speaks to its host and closes.
+///
+/// | a screen passes                   | the host gets | the component |
+/// |-----------------------------------|---------------|---------------|
+/// | an error                          | the error     | closes        |
+/// | neither dictionary nor error      | nothing       | closes        |
+/// | a dictionary with "exit" true     | it, unchanged | closes        |
+/// | a dictionary with "exit" false    | it, unchanged | stays         |
+///
+/// Once the component has closed or its view was dropped nothing more is passed on, with one exception: a
+/// dictionary with "exit" true hands over a reservation that was made, and must reach the host whatever
+/// happened meanwhile. Any thread; no lock is held while the host is called.
+class HostBoundary : public std::enable_shared_from_this<HostBoundary> {
+public:
+    HostBoundary(CompletionCallback callback, std::function<void()> close) :
+        callback_(std::move(callback)), close_(std::move(close)) {}
+
+    /// What screens call as their completion callback. It keeps this boundary alive.
+    CompletionCallback internalCallback();
+
+    void receive(std::optional<Dictionary> dictionary, std::optional<Error> error);
+
+    /// The host has dropped the view: from here on nothing is closed.
+    void drop();
+
+private:
+    enum class State { open, closed, dropped };
+
+    bool endUse();
+    void closeIf(bool open);
+
+    std::mutex mutex_;
+    State state_ = State::open;
+    CompletionCallback callback_;
+    std::function<void()> close_;
+};
+
+} // namespace ombrivane

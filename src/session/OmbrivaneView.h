@@ -1,0 +1,49 @@
+#pragma once
+
+#include "state/CompletionCallback.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ombrivane {
+
+class Navigator;
+
+/// The component: a host creates it with its credentials and shows it. Dropping it takes every screen away;
+/// after that the callback hears of one thing only, the hand-over of a reservation that was under way.
+///
+/// The host passes all seven arguments; those that it does not have as `std::nullopt`. Main thread.
+class OmbrivaneView {
+public:
+    /// @param clientId who the wallet is to the booking service
+    /// @param clientSecret the secret to it; goes to the service and nowhere else
+    /// @param userType "customer" when absent
+    /// @param walletBalance whole units of the service's currency; absent means no limit
+    /// @param phone the customer's telephone number
+    /// @param environment exactly "test", which absent means too, or anything else for production
+    /// @param callback see `CompletionCallback`
+    OmbrivaneView(std::string clientId, std::string clientSecret, std::optional<std::string> userType,
+                  std::optional<double> walletBalance, std::optional<std::string> phone,
+                  std::optional<std::string> environment, CompletionCallback callback);
+    ~OmbrivaneView();
+    OmbrivaneView(const OmbrivaneView&) = delete;
+    OmbrivaneView& operator=(const OmbrivaneView&) = delete;
+
+    /// Called, as a step of the main queue, when the component wants to be taken off the screen. Below iOS 15
+    /// it is the frontmost view of the first window that has to go. Set it before the view is shown.
+    void onClose(std::function<void()> dismiss, std::function<void()> dismissFrontmost = nullptr);
+
+    /// The view comes on screen: the bootstrap starts. Shown again, it starts again.
+    void show();
+
+    /// The stack of screens; empty until the view is shown.
+    Navigator* navigator() const;
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace ombrivane
