@@ -1,0 +1,33 @@
+#pragma once
+
+#include "support/Json.h"
+
+#include <functional>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace ombrivane::journey {
+
+/// What the program prints: one JSON object a line. Events are kept until the script waits for them. Any
+/// thread.
+class EventLog {
+public:
+    /// @param wake called after each event, on its thread
+    explicit EventLog(std::function<void()> wake) : wake_(std::move(wake)) {}
+
+    void answer(const Json& line);
+    void event(Json line);
+
+    /// Takes the oldest event of that name that was not taken yet. False when there is none.
+    bool take(const std::string& name);
+
+private:
+    void print(const Json& line);
+
+    std::mutex mutex_;
+    std::vector<std::string> waiting_;
+    std::function<void()> wake_;
+};
+
+} // namespace ombrivane::journey

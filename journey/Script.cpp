@@ -1,0 +1,246 @@
+#include "Script.h"
+
+#include "ScreenPath.h"
+#include "platform/JpegPngCodec.h"
+#include "support/Fault.h"
+
+#include <fstream>
+#include <sstream>
+#include <utility>
+#include <vector>
+
+namespace ombrivane::journey {
+namespace {
+
+constexpr double defaultSeconds = 10;
+
+/// What a line wants is not so.
+class ExpectationFailed : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A line that cannot be carried out.
+class BadLine : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+std::string trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(" \t\r");
+    if (first == std::string::npos) return "";
+    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
+/// The first word, and what follows it.
+std::pair<std::string, std::string> split(const std::string& text) {
+    const auto blank = text.find_first_of(" \t");
+    if (blank == std::string::npos) return {text, ""};
+    return {text.substr(0, blank), trimmed(text.substr(blank))};
+}
+
+/// The JSON values that stand one behind the other.
+std::vector<Json> values(const std::string& text) {
+    std::vector<Json> read;
+    std::istringstream in(text);
+    try {
+        while (in >> std::ws && !in.eof())
+            in >> read.emplace_back();
+    } catch (const Json::exception&) {
+        throw BadLine("no JSON: " + text);
+    }
+    return read;
+}
+
+double seconds(const std::string& text, double otherwise) {
+    if (text.empty()) return otherwise;
+    const auto numbers = values(text);
+    if (numbers.size() != 1 || !numbers.front().is_number()) throw BadLine("no number of seconds: " + text);
+    return numbers.front().get<double>();
+}
+
+std::chrono::milliseconds milliseconds(double count) {
+    return std::chrono::milliseconds(static_cast<std::int64_t>(count * 1000));
+}
+
+} // namespace
+
+Script::Script(Stage stage) : stage_(std::move(stage)) {
+    commands_ = {
+        {"show", [this](const std::string&) { show(); }},
+        {"get", [this](const std::string& path) { get(path); }},
+        {"set", [this](const std::string& arguments) { set(arguments); }},
+        {"tap", [this](const std::string& arguments) { tap(arguments); }},
+        {"back", [this](const std::string&) { back(); }},
+        {"expect", [this](const std::string& arguments) { expect(arguments); }},
+        {"wait", [this](const std::string& arguments) { wait(arguments); }},
+        {"wait-screen", [this](const std::string& arguments) { waitScreen(arguments); }},
+        {"wait-event", [this](const std::string& arguments) { waitEvent(arguments); }},
+        {"advance", [this](const std::string& arguments) { advance(arguments); }},
+        {"pick", [this](const std::string& file) { pick(file); }},
+        {"pick-cancel",
+         [this](const std::string&) {
+             stage_.photos.pick({true, std::nullopt});
+         }},
+        {"reachability", [this](const std::string& arguments) { setReachability(arguments); }},
+        {"destroy", [this](const std::string&) { stage_.destroy(); }},
+        {"open", [this](const std::string&) { stage_.open(); }},
+    };
+}
+
+std::string Script::help() {
+    return "Commands of a script, one a line; a line that begins with # is a comment.\n"
+           "  show                          the stack of screens with all that each holds and shows\n"
+           "  get PATH                      one value\n"
+           "  set PATH JSON                 assigns a field\n"
+           "  tap PATH [JSON ...]           does what a tap on the control does\n"
+           "  back                          the system's back gesture\n"
+           "  expect PATH JSON              ends the script unless the value is this one\n"
+           "  wait PATH JSON [SECONDS]      waits until it is (10 s unless told)\n"
+           "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
+           "  wait-event NAME [SECONDS]     waits for an event: callback, closed, opened-url, shared\n"
+           "  advance SECONDS               moves the clock and the timers on, beyond real time\n"
+           "  pick FILE                     the photo library's next answer\n"
+           "  pick-cancel                   a cancelled one\n"
+           "  reachability FLAGS            the flag word of the network from here on\n"
+           "  destroy                       drops the view, as a host may at any time\n"
+           "  open                          shows it again\n"
+           "PATH is Screen.key, Screen.model.key or Screen.rows[3].key; without a screen's name it starts at "
+           "the\n"
+           "topmost screen.\n";
+}
+
+Ending Script::play(std::istream& lines) {
+    std::string text;
+    for (int number = 1; std::getline(lines, text); ++number) {
+        const std::string line = trimmed(text);
+        if (line.empty() || line.front() == '#') continue;
+        try {
+            run(line);
+        } catch (const ExpectationFailed& failed) {
+            Json report{{"failed", failed.what()}, {"line", number}};
+            if (const Navigator* navigator = stage_.navigator()) report["stack"] = describe(*navigator);
+            stage_.log.answer(report);
+            return stage_.faulted() ? Ending::fault : Ending::expectationFailed;
+        } catch (const std::exception& bad) {
+            if (stage_.faulted()) return Ending::fault;
+            stage_.log.answer(Json{{"bad-line", bad.what()}, {"line", number}});
+            return Ending::badLine;
+        }
+        if (stage_.faulted()) return Ending::fault;
+    }
+    // Whatever was queued by the last line has happened when the script ends.
+    stage_.runUntil([] { return false; }, std::chrono::milliseconds(0));
+    return stage_.faulted() ? Ending::fault : Ending::done;
+}
+
+void Script::run(const std::string& line) {
+    const auto [name, arguments] = split(line);
+    const auto command = commands_.find(name);
+    if (command == commands_.end()) throw BadLine("there is no command " + name);
+    command->second(arguments);
+}
+
+Navigator& Script::navigator() const {
+    Navigator* navigator = stage_.navigator();
+    if (navigator == nullptr) throw KeyedError("the view is not open");
+    return *navigator;
+}
+
+bool Script::holds(const std::string& path, const Json& value) const {
+    return follow(navigator(), path).member->read() == value;
+}
+
+void Script::show() { stage_.log.answer(Json{{"stack", describe(navigator())}}); }
+
+void Script::get(const std::string& path) {
+    stage_.log.answer(Json{{"path", path}, {"value", follow(navigator(), path).member->read()}});
+}
+
+void Script::set(const std::string& arguments) {
+    const auto [path, text] = split(arguments);
+    const auto value = values(text);
+    if (value.size() != 1) throw BadLine("set wants a path and one value");
+    const auto target = follow(navigator(), path);
+    guarded([&] { target.member->write(value.front()); });
+}
+
+void Script::tap(const std::string& arguments) {
+    const auto [path, text] = split(arguments);
+    const auto target = follow(navigator(), path);
+    target.member->trigger(values(text));
+}
+
+void Script::back() {
+    guarded([this] { navigator().back(); });
+}
+
+void Script::expect(const std::string& arguments) {
+    const auto [path, text] = split(arguments);
+    const auto value = values(text);
+    if (value.size() != 1) throw BadLine("expect wants a path and one value");
+    Json found;
+    try {
+        found = follow(navigator(), path).member->read();
+    } catch (const KeyedError& error) {
+        throw ExpectationFailed(path + ": " + error.what());
+    }
+    if (found != value.front()) throw ExpectationFailed(path + " is " + found.dump() + ", not " + text);
+}
+
+void Script::wait(const std::string& arguments) {
+    const auto [path, text] = split(arguments);
+    const auto value = values(text);
+    if (value.empty() || value.size() > 2) throw BadLine("wait wants a path, one value and the seconds");
+    const double limit = value.size() == 2 ? value.back().get<double>() : defaultSeconds;
+    const auto arrived = [&] {
+        try {
+            return stage_.faulted() || holds(path, value.front());
+        } catch (const KeyedError&) {
+            return false; // not yet there
+        }
+    };
+    if (!stage_.runUntil(arrived, milliseconds(limit)))
+        throw ExpectationFailed(path + " did not become " + text);
+}
+
+void Script::waitScreen(const std::string& arguments) {
+    const auto [name, text] = split(arguments);
+    const auto arrived = [&] {
+        const Navigator* navigator = stage_.navigator();
+        return stage_.faulted() || (navigator != nullptr && navigator->find(name) != nullptr);
+    };
+    if (!stage_.runUntil(arrived, milliseconds(seconds(text, defaultSeconds)))) {
+        throw ExpectationFailed("the screen " + name + " did not come");
+    }
+}
+
+void Script::waitEvent(const std::string& arguments) {
+    const auto [name, text] = split(arguments);
+    const auto arrived = [&] { return stage_.faulted() || stage_.log.take(name); };
+    if (!stage_.runUntil(arrived, milliseconds(seconds(text, defaultSeconds)))) {
+        throw ExpectationFailed("the event " + name + " did not come");
+    }
+}
+
+void Script::advance(const std::string& arguments) {
+    const auto duration = milliseconds(seconds(arguments, 0));
+    stage_.clock.advance(duration);
+    stage_.advance(duration);
+}
+
+void Script::pick(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) throw BadLine("there is no file " + file);
+    const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    stage_.photos.pick({false, JpegPngCodec().decode(bytes, documentLimits())});
+}
+
+void Script::setReachability(const std::string& arguments) {
+    const auto value = values(arguments);
+    if (value.size() != 1 || !value.front().is_number_unsigned())
+        throw BadLine("reachability wants a flag word");
+    stage_.reachability.say(value.front().get<std::uint32_t>());
+}
+
+} // namespace ombrivane::journey

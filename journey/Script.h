@@ -1,0 +1,77 @@
+#pragma once
+
+#include "EventLog.h"
+#include "ScriptedPorts.h"
+#include "platform/AdjustableClock.h"
+#include "session/OmbrivaneView.h"
+
+#include <functional>
+#include <istream>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace ombrivane::journey {
+
+/// What a script's program provides: time and the component's view.
+struct Stage {
+    /// Runs the main queue until `done` holds or the time in milliseconds has passed; tells whether it held.
+    std::function<bool(const std::function<bool()>& done, std::chrono::milliseconds limit)> runUntil;
+    /// Moves the main queue's timers on.
+    std::function<void(std::chrono::milliseconds)> advance;
+    /// Shows a fresh view, and drops it.
+    std::function<void()> open;
+    std::function<void()> destroy;
+    /// The stack of the view; nullptr while there is none.
+    std::function<Navigator*()> navigator;
+    /// Whether a fault has happened.
+    std::function<bool()> faulted;
+
+    EventLog& log;
+    AdjustableClock& clock;
+    ScriptedReachability& reachability;
+    ScriptedPhotos& photos;
+};
+
+/// How a script ended; the exit status of its program.
+enum class Ending { done = 0, expectationFailed = 1, badLine = 2, fault = 3 };
+
+/// Works the component's screens by their keys, one command a line.
+class Script {
+public:
+    /// A command that the program knows besides the script's own: its arguments as text.
+    using Command = std::function<void(const std::string& arguments)>;
+
+    explicit Script(Stage stage);
+
+    void addCommand(const std::string& name, Command command) { commands_[name] = std::move(command); }
+
+    /// Plays every line of `lines`, and says on the log why it stopped early.
+    Ending play(std::istream& lines);
+
+    /// The commands of a script, one a line, for the help of a program.
+    static std::string help();
+
+private:
+    void run(const std::string& line);
+    void show();
+    void get(const std::string& path);
+    void set(const std::string& arguments);
+    void tap(const std::string& arguments);
+    void back();
+    void expect(const std::string& arguments);
+    void wait(const std::string& arguments);
+    void waitScreen(const std::string& arguments);
+    void waitEvent(const std::string& arguments);
+    void advance(const std::string& arguments);
+    void pick(const std::string& file);
+    void setReachability(const std::string& arguments);
+    Navigator& navigator() const;
+    bool holds(const std::string& path, const Json& value) const;
+
+    Stage stage_;
+    std::map<std::string, Command> commands_;
+};
+
+} // namespace ombrivane::journey

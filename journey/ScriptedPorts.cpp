@@ -1,0 +1,26 @@
+#include "ScriptedPorts.h"
+
+namespace ombrivane::journey {
+
+std::optional<std::uint32_t> ScriptedReachability::flags() {
+    const std::int64_t word = said_;
+    return word == measured ? route_.flags() : static_cast<std::uint32_t>(word);
+}
+
+void ScriptedPhotos::present(Handler handler) {
+    open_ = std::move(handler);
+    answer();
+}
+
+void ScriptedPhotos::pick(Picked picked) {
+    answers_.push_back(std::move(picked));
+    answer();
+}
+
+void ScriptedPhotos::answer() {
+    if (!open_ || answers_.empty()) return;
+    mainQueue().async([handler = open_, picked = answers_.front()] { handler(picked); });
+    answers_.pop_front();
+}
+
+} // namespace ombrivane::journey

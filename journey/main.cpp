@@ -1,0 +1,161 @@
+#include "EventLog.h"
+#include "Options.h"
+#include "Script.h"
+#include "ScriptedPorts.h"
+#include "platform/CurlNetwork.h"
+#include "platform/DirectoryBundles.h"
+#include "platform/JpegPngCodec.h"
+#include "platform/RunLoop.h"
+#include "platform/SystemLocalization.h"
+#include "services/ServiceHosts.h"
+#include "session/OmbrivaneView.h"
+#include "support/Fault.h"
+#include "support/SharedInstance.h"
+
+#include <atomic>
+#include <fstream>
+#include <iostream>
+#include <thread>
+
+namespace {
+
+using namespace ombrivane;
+using namespace ombrivane::journey;
+
+/// A wallet that shows the component and nothing else.
+class Wallet {
+public:
+    explicit Wallet(const Options& options) : options_(options) {
+        setFaultHandler([this](const std::string& text) {
+            faulted_ = true;
+            log_.event(Json{{"event", "fault"}, {"text", text}});
+        });
+        installPlatform();
+        auto hosts = ServiceHosts::current();
+        if (options.testHost) hosts.test = *options.testHost;
+        if (options.productionHost) hosts.production = *options.productionHost;
+        ServiceHosts::use(hosts);
+    }
+
+    Wallet(const Wallet&) = delete;
+    Wallet& operator=(const Wallet&) = delete;
+
+    ~Wallet() {
+        view_.reset();
+        // The network first: what is under way is answered, and lets go of its screens, while all else still
+        // stands.
+        Platform ports = platform();
+        ports.network.reset();
+        Platform::install(std::move(ports));
+        loop_->runUntil([] { return false; }, std::chrono::milliseconds(0));
+        dropSharedInstances();
+        setFaultHandler(nullptr);
+    }
+
+    Ending play(std::istream& script) {
+        open();
+        return Script(stage()).play(script);
+    }
+
+private:
+    void installPlatform() {
+        Platform ports;
+        ports.mainQueue = loop_;
+        ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = options_.ca});
+        ports.reachability = reachability_;
+        ports.clock = clock_;
+        ports.bundles = std::make_shared<DirectoryBundles>("com.framework.Ombrivane", OMBRIVANE_FONTS);
+        ports.fonts = std::make_shared<NoFonts>();
+        const auto localization = std::make_shared<SystemLocalization>();
+        if (options_.locale) localization->useLocale(*options_.locale);
+        if (options_.timeZone) localization->useTimeZone(*options_.timeZone);
+        ports.localization = localization;
+        ports.images = std::make_shared<JpegPngCodec>();
+        ports.photos = photos_;
+        ports.urls = std::make_shared<ReportedUrls>(log_);
+        ports.sharing = std::make_shared<ReportedSharing>(log_);
+        if (options_.diagnostics) ports.diagnostics = std::make_shared<PrintedDiagnostics>();
+        ports.system = options_.system;
+        if (options_.now) clock_->startAt(*options_.now);
+        if (options_.reachability) reachability_->say(*options_.reachability);
+        Platform::install(std::move(ports));
+    }
+
+    Stage stage() {
+        return {
+            .runUntil = [this](const auto& done, auto limit) { return loop_->runUntil(done, limit); },
+            .advance = [this](auto duration) { loop_->advance(duration); },
+            .open = [this] { open(); },
+            .destroy = [this] { view_.reset(); },
+            .navigator = [this] { return view_ ? view_->navigator() : nullptr; },
+            .faulted = [this] { return faulted_.load(); },
+            .log = log_,
+            .clock = *clock_,
+            .reachability = *reachability_,
+            .photos = *photos_,
+        };
+    }
+
+    void open() {
+        view_ = std::make_unique<OmbrivaneView>(
+            options_.clientId,
+            options_.clientSecret,
+            options_.userType,
+            options_.walletBalance,
+            options_.phone,
+            options_.environment,
+            [this](auto dictionary, auto error) { receive(dictionary, error); });
+        const auto close = [this] {
+            log_.event(Json{{"event", "closed"}});
+            view_.reset();
+        };
+        view_->onClose(close, close);
+        guarded([this] { view_->show(); });
+    }
+
+    void receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
+        Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
+        if (dictionary) event["dictionary"] = *dictionary;
+        if (error) {
+            event["error"] = Json{{"domain", error->domain},
+                                  {"code", error->code},
+                                  {"localizedDescription", error->localizedDescription}};
+        }
+        event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
+        log_.event(std::move(event));
+    }
+
+    Options options_;
+    std::thread::id mainThread_ = std::this_thread::get_id();
+    std::shared_ptr<RunLoop> loop_ = std::make_shared<RunLoop>();
+    EventLog log_{[loop = loop_] { loop->async([] {}); }};
+    std::shared_ptr<AdjustableClock> clock_ = std::make_shared<AdjustableClock>();
+    std::shared_ptr<ScriptedReachability> reachability_ = std::make_shared<ScriptedReachability>("127.0.0.1");
+    std::shared_ptr<ScriptedPhotos> photos_ = std::make_shared<ScriptedPhotos>();
+    std::atomic<bool> faulted_ = false;
+    std::unique_ptr<OmbrivaneView> view_;
+};
+
+} // namespace
+
+int main(int count, char** values) {
+    Options options;
+    try {
+        options = Options::parse({values + 1, values + count});
+    } catch (const std::invalid_argument& bad) {
+        std::cerr << "ombrivane-journey: " << bad.what() << "\n";
+        return static_cast<int>(Ending::badLine);
+    }
+    if (options.help) {
+        std::cout << Options::usage() << Script::help();
+        return 0;
+    }
+    Wallet wallet(options);
+    if (options.script == "-") return static_cast<int>(wallet.play(std::cin));
+    std::ifstream script(options.script);
+    if (!script) {
+        std::cerr << "ombrivane-journey: there is no script " << options.script << "\n";
+        return static_cast<int>(Ending::badLine);
+    }
+    return static_cast<int>(wallet.play(script));
+}
