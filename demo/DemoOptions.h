@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ombrivane::demo {
+
+/// The command line of the demo wallet.
+struct DemoOptions {
+    std::string testHost; ///< empty: a sandbox inside of the program
+    std::string ca;
+    std::string clientId = "wallet";
+    std::string clientSecret = "wallet-secret";
+    double walletBalance = 250000;
+    std::string script;  ///< plays it against the pages; "-" for the standard input
+    std::string picture; ///< takes a picture of the first screen and ends
+    std::vector<std::string> faults;
+    std::string now;
+    bool dark = false;
+    double textScale = 1;
+    int width = 390;
+    int height = 844;
+    bool stillMotion = false;
+    bool help = false;
+
+    /// @throws std::invalid_argument that says what is wrong
+    static DemoOptions parse(const std::vector<std::string>& arguments);
+    static std::string usage();
+};
+
+} // namespace ombrivane::demo

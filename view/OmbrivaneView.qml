@@ -1,0 +1,33 @@
+import QtQuick
+import Ombrivane
+
+// The component as one item: give it its arguments, and `open` shows it.
+FocusScope {
+    id: view
+
+    property alias clientId: session.clientId
+    property alias clientSecret: session.clientSecret
+    property alias userType: session.userType
+    property alias walletBalance: session.walletBalance
+    property alias phone: session.phone
+    property alias environment: session.environment
+    property alias session: session
+    signal finished(dictionary: string)
+    signal failed(message: string)
+    signal closed
+
+    function open() { session.open() }
+    function drop() { session.drop() }
+
+    OmbrivaneSession {
+        id: session
+        onFinished: dictionary => view.finished(dictionary)
+        onFailed: message => view.failed(message)
+        onClosed: view.closed()
+    }
+    Stage {
+        anchors.fill: parent
+        focus: true
+        model: session.stage
+    }
+}

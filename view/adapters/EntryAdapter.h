@@ -1,0 +1,28 @@
+#pragma once
+
+#include "adapters/ScreenAdapter.h"
+#include "adapters/SearchAdapters.h"
+#include "session/EntryView.h"
+
+#include <memory>
+
+namespace ombrivane::view {
+
+/// The root of all pages: nothing until the bootstrap has finished, then the search.
+class EntryAdapter : public ScreenAdapter {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the component")
+    Q_PROPERTY(ombrivane::view::MainViewAdapter* content READ content NOTIFY contentChanged FINAL)
+    OMBRIVANE_SCREEN(EntryAdapter, EntryView)
+
+public:
+    MainViewAdapter* content();
+    Q_SIGNAL void contentChanged();
+
+private:
+    std::unique_ptr<MainViewAdapter> content_;
+    Subscription watch_ = core().view.observe([this] { emit contentChanged(); });
+};
+
+} // namespace ombrivane::view

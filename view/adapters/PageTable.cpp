@@ -1,0 +1,57 @@
+#include "adapters/PageTable.h"
+
+#include "adapters/EntryAdapter.h"
+#include "adapters/SearchAdapters.h"
+#include "support/Fault.h"
+
+#include <functional>
+#include <map>
+#include <string_view>
+
+namespace ombrivane::view {
+namespace {
+
+struct Row {
+    const char* page; ///< below the module's pages; nullptr for a row of a list
+    std::unique_ptr<ScreenAdapter> (*make)(std::shared_ptr<Screen>);
+};
+
+template <class Adapter> std::unique_ptr<ScreenAdapter> make(std::shared_ptr<Screen> screen) {
+    return std::make_unique<Adapter>(std::move(screen));
+}
+
+const std::map<std::string_view, Row>& table() {
+    static const std::map<std::string_view, Row> rows{
+        {"OmbrivaneView", {"EntryPage", make<EntryAdapter>}},
+        {"AlertView", {"AlertView", make<AlertAdapter>}},
+        {"SelectOriginFlightView", {"SelectAirportView", make<AirportSearchAdapter>}},
+        {"SelectDestinationFlightView", {"SelectAirportView", make<AirportSearchAdapter>}},
+        {"FlightListItemView", {nullptr, make<AirportRowAdapter>}},
+        {"TravellerBottomSheetView", {"TravellerBottomSheetView", make<TravellerSheetAdapter>}},
+        {"TravellerIncDecButtonView", {nullptr, make<StepperAdapter>}},
+        {"CustomRadioButtonFieldView", {nullptr, make<RadioRowAdapter>}},
+        {"NationalityBottomSheetView", {"NationalityBottomSheetView", make<NationalitySheetAdapter>}},
+        {"NationalityRow", {nullptr, make<NationalityRowAdapter>}},
+    };
+    return rows;
+}
+
+const Row& rowOf(const Screen& screen) {
+    const auto found = table().find(screen.name());
+    if (found == table().end()) fatalFault("no page shows the screen " + std::string(screen.name()));
+    return found->second;
+}
+
+} // namespace
+
+std::unique_ptr<ScreenAdapter> makeAdapter(const std::shared_ptr<Screen>& screen) {
+    return rowOf(*screen).make(screen);
+}
+
+QUrl pageOf(const Screen& screen) {
+    const char* page = rowOf(screen).page;
+    if (page == nullptr) return {};
+    return QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/pages/" + QString(page) + ".qml");
+}
+
+} // namespace ombrivane::view

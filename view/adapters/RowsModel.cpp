@@ -1,0 +1,98 @@
+#include "adapters/RowsModel.h"
+
+#include "adapters/PageTable.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace ombrivane::view {
+namespace {
+
+constexpr int rowRole = Qt::UserRole + 1;
+
+} // namespace
+
+RowsModel::RowsModel(std::shared_ptr<Screen> owner, Rows& rows) :
+    owner_(std::move(owner)),
+    rows_(rows),
+    identities_(currentIdentities()),
+    watch_(rows.observe([this] { follow(); })) {}
+
+std::vector<std::string> RowsModel::currentIdentities() const {
+    std::vector<std::string> identities(rows_.size());
+    for (std::size_t i = 0; i < identities.size(); ++i)
+        identities[i] = rows_.identity(i);
+    return identities;
+}
+
+QHash<int, QByteArray> RowsModel::roleNames() const { return {{rowRole, "row"}}; }
+
+QVariant RowsModel::data(const QModelIndex& index, int role) const {
+    const auto position = static_cast<std::size_t>(index.row());
+    if (role != rowRole || !index.isValid() || position >= rows_.size()) return {};
+    auto adapter = makeAdapter(rows_.row(position));
+    QObject* object = adapter.release();
+    // The delegate's engine owns the row from here, and lets it go with the delegate.
+    QQmlEngine::setObjectOwnership(object, QQmlEngine::JavaScriptOwnership);
+    return QVariant::fromValue(object);
+}
+
+int RowsModel::positionOf(const QString& identity) const {
+    const auto found = std::find(identities_.begin(), identities_.end(), identity.toStdString());
+    return found == identities_.end() ? -1 : static_cast<int>(found - identities_.begin());
+}
+
+void RowsModel::follow() {
+    const auto next = currentIdentities();
+    if (next == identities_) return;
+    removeMissing(next);
+    insertNew(next);
+    emit countChanged();
+}
+
+void RowsModel::removeMissing(const std::vector<std::string>& next) {
+    const std::unordered_set<std::string> kept(next.begin(), next.end());
+    for (std::size_t end = identities_.size(); end > 0;) {
+        if (kept.contains(identities_[end - 1])) {
+            --end;
+            continue;
+        }
+        std::size_t begin = end;
+        while (begin > 0 && !kept.contains(identities_[begin - 1]))
+            --begin;
+        beginRemoveRows({}, static_cast<int>(begin), static_cast<int>(end) - 1);
+        identities_.erase(identities_.begin() + static_cast<std::ptrdiff_t>(begin),
+                          identities_.begin() + static_cast<std::ptrdiff_t>(end));
+        endRemoveRows();
+        end = begin;
+    }
+}
+
+void RowsModel::insertNew(const std::vector<std::string>& next) {
+    for (std::size_t i = 0; i < next.size(); ++i) {
+        if (i < identities_.size() && identities_[i] == next[i]) continue;
+        const auto from =
+            std::find(identities_.begin() + static_cast<std::ptrdiff_t>(std::min(i, identities_.size())),
+                      identities_.end(),
+                      next[i]);
+        if (from != identities_.end()) {
+            const auto position = static_cast<int>(from - identities_.begin());
+            beginMoveRows({}, position, position, {}, static_cast<int>(i));
+            std::rotate(identities_.begin() + static_cast<std::ptrdiff_t>(i), from, from + 1);
+            endMoveRows();
+            continue;
+        }
+        std::size_t end = i + 1;
+        const std::unordered_set<std::string> present(identities_.begin(), identities_.end());
+        while (end < next.size() && !present.contains(next[end]))
+            ++end;
+        beginInsertRows({}, static_cast<int>(i), static_cast<int>(end) - 1);
+        identities_.insert(identities_.begin() + static_cast<std::ptrdiff_t>(i),
+                           next.begin() + static_cast<std::ptrdiff_t>(i),
+                           next.begin() + static_cast<std::ptrdiff_t>(end));
+        endInsertRows();
+        i = end - 1;
+    }
+}
+
+} // namespace ombrivane::view

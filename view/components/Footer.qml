@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The support strip under the search form.
+ColumnLayout {
+    id: footer
+
+    required property FooterAdapter screen
+
+    spacing: 4
+
+    Item { Layout.fillWidth: true }
+
+    RowLayout {
+        Layout.alignment: Qt.AlignHCenter
+        spacing: 8
+        TapHandler { onTapped: footer.screen.tapMark() }
+        PlainText {
+            text: footer.screen.poweredBy
+            color: Theme.placeHolderColor
+            font.pixelSize: Theme.captionSize
+        }
+        Icon {
+            implicitWidth: 28
+            implicitHeight: 28
+            name: "logo"
+            dark: Theme.dark
+        }
+    }
+    RowLayout {
+        Layout.alignment: Qt.AlignHCenter
+        spacing: 4
+        IconButton { iconName: "phoneIcon"; label: footer.screen.mobile; onClicked: footer.screen.callMobile() }
+        IconButton { iconName: "viberIcon"; label: qsTr("Viber"); onClicked: footer.screen.openViber() }
+        IconButton { iconName: "whatsappIcon"; label: qsTr("WhatsApp"); onClicked: footer.screen.openWhatsapp() }
+        IconButton { iconName: "rotarPhoneIcon"; label: footer.screen.landLine; onClicked: footer.screen.callLandLine() }
+    }
+    PlainText {
+        Layout.alignment: Qt.AlignHCenter
+        text: footer.screen.mobile + "  ·  " + footer.screen.landLine
+        color: Theme.placeHolderColor
+        font.pixelSize: Theme.smallSize
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick
+import Ombrivane
+
+// Something is under way; told to assistive technology as well.
+Item {
+    id: line
+
+    required property string label
+
+    implicitHeight: 4
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: label
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 2
+        color: Theme.hairlineColor
+        clip: true
+        Rectangle {
+            width: parent.width / 3
+            height: parent.height
+            radius: 2
+            color: Theme.secondaryColor
+            NumberAnimation on x {
+                running: line.visible && !Theme.reducedMotion
+                from: -line.width / 3
+                to: line.width
+                duration: 1200
+                loops: Animation.Infinite
+            }
+        }
+    }
+}

@@ -1,0 +1,51 @@
+import QtQuick
+import Ombrivane
+
+// One kind of travellers with its stepper.
+Item {
+    id: item
+
+    required property StepperAdapter row
+
+    implicitHeight: Math.max(56, texts.implicitHeight + 8)
+
+    Column {
+        id: texts
+        anchors { left: parent.left; right: minus.left; verticalCenter: parent.verticalCenter }
+        PlainText { width: parent.width; text: item.row.category; font.weight: Font.Medium }
+        PlainText {
+            width: parent.width
+            text: item.row.categoryDetail
+            color: Theme.placeHolderColor
+            font.pixelSize: Theme.captionSize
+        }
+    }
+    IconButton {
+        id: minus
+        objectName: "decrement"
+        anchors { right: number.left; verticalCenter: parent.verticalCenter }
+        iconName: "decrementIcon"
+        label: qsTr("One %1 less").arg(item.row.category)
+        tint: item.row.mayDecrement ? Theme.primaryColor : Theme.formBorderColor
+        onClicked: item.row.decrement()
+    }
+    PlainText {
+        id: number
+        objectName: "number"
+        anchors { right: plus.left; verticalCenter: parent.verticalCenter }
+        width: 28 * Theme.textScale
+        horizontalAlignment: Text.AlignHCenter
+        text: item.row.numberValue
+        font.pixelSize: Theme.sectionSize
+        font.weight: Font.Medium
+    }
+    IconButton {
+        id: plus
+        objectName: "increment"
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        iconName: "incrementIcon"
+        label: qsTr("One %1 more").arg(item.row.category)
+        tint: item.row.mayIncrement ? Theme.primaryColor : Theme.formBorderColor
+        onClicked: item.row.increment()
+    }
+}

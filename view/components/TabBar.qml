@@ -1,0 +1,68 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// The tabs of the search; the highlight slides to the chosen one.
+Rectangle {
+    id: bar
+
+    required property list<string> labels
+    required property int current
+    signal tapped(int index)
+
+    readonly property real cell: (width - 8) / Math.max(1, labels.length)
+
+    implicitHeight: 52 * Math.max(1, Theme.textScale * 0.75)
+    radius: height / 2
+    color: Theme.whiteColor
+    border.width: 1
+    border.color: Theme.hairlineColor
+
+    Rectangle {
+        x: 4 + bar.current * bar.cell
+        y: 4
+        width: bar.cell
+        height: parent.height - 8
+        radius: height / 2
+        color: Theme.secondaryColor
+        Behavior on x { NumberAnimation { duration: Theme.stateDuration; easing.type: Easing.InOutQuad } }
+    }
+    Row {
+        x: 4
+        y: 4
+        Repeater {
+            model: bar.labels
+            T.AbstractButton {
+                id: tab
+                required property string modelData
+                required property int index
+                objectName: "tab" + index
+                width: bar.cell
+                height: bar.height - 8
+                text: modelData
+                focusPolicy: Qt.StrongFocus
+                Accessible.role: Accessible.PageTab
+                Accessible.name: text
+                Accessible.checked: index === bar.current
+                onClicked: bar.tapped(index)
+                Keys.onReturnPressed: click()
+                background: Rectangle {
+                    radius: height / 2
+                    color: "transparent"
+                    border.width: tab.visualFocus ? 2 : 0
+                    border.color: Theme.blackColor
+                }
+                contentItem: PlainText {
+                    text: tab.text
+                    font.weight: Font.Medium
+                    font.pixelSize: Theme.captionSize
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    lineHeight: 1.1
+                    color: tab.index === bar.current ? Theme.secondaryTextColor : Theme.blackColor
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,59 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// A field of a form that opens something: its placeholder rises to a label once it has a value.
+T.AbstractButton {
+    id: field
+
+    required property string iconName
+    required property string placeholder
+    property string value: ""
+    property bool framed: true
+
+    implicitHeight: Math.max(Theme.fieldHeight, texts.implicitHeight + 16)
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.Button
+    Accessible.name: placeholder
+    Accessible.description: value
+
+    background: Rectangle {
+        radius: Theme.fieldRadius
+        color: field.down ? Theme.segmentColor : (field.framed ? Theme.formBackgroundColor : "transparent")
+        border.width: field.visualFocus ? 2 : (field.framed ? 1 : 0)
+        border.color: field.visualFocus ? Theme.secondaryColor : Theme.formBorderColor
+    }
+    contentItem: Item {
+        Icon {
+            id: icon
+            x: 14
+            width: 22
+            height: 22
+            anchors.verticalCenter: parent.verticalCenter
+            name: field.iconName
+            color: Theme.placeHolderColor
+        }
+        Column {
+            id: texts
+            anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+            PlainText {
+                visible: field.value !== ""
+                width: parent.width
+                text: field.placeholder
+                color: Theme.placeHolderColor
+                font.pixelSize: Theme.smallSize
+                lineHeight: 1.1
+                Accessible.ignored: true
+            }
+            PlainText {
+                width: parent.width
+                text: field.value !== "" ? field.value : field.placeholder
+                color: field.value !== "" ? Theme.blackColor : Theme.placeHolderColor
+                lineHeight: 1.2
+                Accessible.ignored: true
+            }
+        }
+    }
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// The one main action of a screen.
+T.AbstractButton {
+    id: button
+
+    property string iconName: ""
+    property bool quiet: false
+    readonly property color content: quiet ? Theme.primaryColor : Theme.primaryTextColor
+
+    implicitHeight: Math.max(Theme.fieldHeight, label.implicitHeight + 16)
+    implicitWidth: row.implicitWidth + 48
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: height / 2
+        color: button.quiet ? "transparent" : Theme.primaryColor
+        opacity: button.enabled ? (button.down ? 0.85 : 1) : 0.4
+        border.width: button.visualFocus ? 3 : (button.quiet ? 1 : 0)
+        border.color: button.visualFocus ? Theme.secondaryColor : Theme.primaryColor
+    }
+    contentItem: Item {
+        Row {
+            id: row
+            anchors.centerIn: parent
+            spacing: 8
+            Icon {
+                visible: button.iconName !== ""
+                width: visible ? 22 : 0
+                height: 22
+                anchors.verticalCenter: parent.verticalCenter
+                name: button.iconName
+                color: button.content
+            }
+            PlainText {
+                id: label
+                anchors.verticalCenter: parent.verticalCenter
+                text: button.text
+                color: button.content
+                font.pixelSize: Theme.sectionSize
+                font.weight: Font.Medium
+                Accessible.ignored: true
+            }
+        }
+    }
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+}

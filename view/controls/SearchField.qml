@@ -1,0 +1,46 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// A line in which the customer types what to look for.
+T.TextField {
+    id: field
+
+    required property string placeholder
+
+    implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 20)
+    leftPadding: 48
+    rightPadding: 14
+    verticalAlignment: TextInput.AlignVCenter
+    color: Theme.blackColor
+    selectionColor: Theme.secondaryColor
+    selectedTextColor: Theme.secondaryTextColor
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.bodySize
+    selectByMouse: true
+    inputMethodHints: Qt.ImhNoPredictiveText
+    Accessible.name: placeholder
+
+    background: Rectangle {
+        radius: Theme.fieldRadius
+        color: Theme.formBackgroundColor
+        border.width: field.activeFocus ? 2 : 1
+        border.color: field.activeFocus ? Theme.secondaryColor : Theme.formBorderColor
+        Icon {
+            x: 14
+            width: 22
+            height: 22
+            anchors.verticalCenter: parent.verticalCenter
+            name: "searchIcon"
+            color: Theme.placeHolderColor
+        }
+        PlainText {
+            x: 48
+            anchors.verticalCenter: parent.verticalCenter
+            visible: field.length === 0 && field.preeditText === ""
+            text: field.placeholder
+            color: Theme.placeHolderColor
+            Accessible.ignored: true
+        }
+    }
+}

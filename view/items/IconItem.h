@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QColor>
+#include <QQmlEngine>
+#include <QQuickPaintedItem>
+
+namespace ombrivane::view {
+
+/// A drawing of the component's own resources by its name: an icon in one colour, or a picture as it is.
+class IconItem : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(Icon)
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    /// Uses the drawing for dark surroundings, where there is one.
+    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
+
+public:
+    explicit IconItem(QQuickItem* parent = nullptr);
+
+    const QString& name() const { return name_; }
+    void setName(const QString& name);
+    const QColor& color() const { return color_; }
+    void setColor(const QColor& color);
+    bool dark() const { return dark_; }
+    void setDark(bool dark);
+
+    void paint(QPainter* painter) override;
+
+    Q_SIGNAL void nameChanged();
+    Q_SIGNAL void colorChanged();
+    Q_SIGNAL void darkChanged();
+
+private:
+    QByteArray drawing() const;
+
+    QString name_;
+    QColor color_ = Qt::transparent;
+    bool dark_ = false;
+};
+
+} // namespace ombrivane::view

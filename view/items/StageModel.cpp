@@ -1,0 +1,82 @@
+#include "items/StageModel.h"
+
+#include "adapters/PageTable.h"
+#include "support/Fault.h"
+
+#include <algorithm>
+
+namespace ombrivane::view {
+namespace {
+
+enum Role { screenRole = Qt::UserRole + 1, pageRole, presentationRole };
+
+/// A page may still be at work when its entry goes: its adapter leaves with the next turn of the event loop.
+std::shared_ptr<ScreenAdapter> deletedLater(std::unique_ptr<ScreenAdapter> adapter) {
+    return {adapter.release(), [](ScreenAdapter* object) { object->deleteLater(); }};
+}
+
+} // namespace
+
+void StageModel::follow(Navigator* navigator) {
+    navigator_ = navigator;
+    watch_ = navigator != nullptr ? navigator->observe([this] { update(); }) : Subscription();
+    update();
+}
+
+QHash<int, QByteArray> StageModel::roleNames() const {
+    return {{screenRole, "screen"}, {pageRole, "page"}, {presentationRole, "presentation"}};
+}
+
+QVariant StageModel::data(const QModelIndex& index, int role) const {
+    const Entry& entry = entries_.at(static_cast<std::size_t>(index.row()));
+    switch (role) {
+    case screenRole:
+        return QVariant::fromValue<QObject*>(entry.adapter.get());
+    case pageRole:
+        return pageOf(*entry.adapter->screen());
+    case presentationRole:
+        return static_cast<int>(entry.presentation);
+    default:
+        return {};
+    }
+}
+
+int StageModel::firstInView() const {
+    int first = count() - 1;
+    while (first > 0 && entries_[static_cast<std::size_t>(first)].presentation != Presentation::push)
+        --first;
+    return std::max(first, 0);
+}
+
+bool StageModel::back() {
+    bool went = false;
+    guarded([&] { went = navigator_ != nullptr && navigator_->back(); });
+    return went;
+}
+
+void StageModel::update() {
+    static const std::vector<Navigator::Entry> nothing;
+    const auto& stack = navigator_ != nullptr ? navigator_->stack() : nothing;
+    std::size_t same = 0;
+    while (same < stack.size() && same < entries_.size() &&
+           stack[same].screen == entries_[same].adapter->screen()) {
+        ++same;
+    }
+    if (same < entries_.size()) {
+        beginRemoveRows({}, static_cast<int>(same), count() - 1);
+        entries_.resize(same);
+        endRemoveRows();
+    }
+    if (same < stack.size()) {
+        beginInsertRows({}, static_cast<int>(same), static_cast<int>(stack.size()) - 1);
+        for (std::size_t i = same; i < stack.size(); ++i) {
+            auto adapter = deletedLater(makeAdapter(stack[i].screen));
+            QQmlEngine::setObjectOwnership(adapter.get(), QQmlEngine::CppOwnership);
+            entries_.push_back({std::move(adapter), stack[i].presentation});
+        }
+        endInsertRows();
+    }
+    emit changed();
+}
+
+} // namespace ombrivane::view
