@@ -9,7 +9,7 @@
 namespace ombrivane::view {
 
 /// The root of all pages: nothing until the bootstrap has finished, then the search.
-class EntryAdapter : public ScreenAdapter {
+class EntryAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")

@@ -2,8 +2,8 @@
 
 namespace ombrivane::view {
 
-QStringList MainViewAdapter::tabLabels() const {
-    QStringList labels;
+QList<QString> MainViewAdapter::tabLabels() const {
+    QList<QString> labels;
     for (const auto& label : core().tabBar->labels.get())
         labels.append(shown(label));
     return labels;

@@ -13,7 +13,7 @@
 
 namespace ombrivane::view {
 
-class AlertAdapter : public ScreenAdapter {
+class AlertAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -24,7 +24,7 @@ class AlertAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(dismiss, core().button)
 };
 
-class FooterAdapter : public ScreenAdapter {
+class FooterAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -39,7 +39,7 @@ class FooterAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(callLandLine, core().callLandLine)
 };
 
-class SearchFormAdapter : public ScreenAdapter {
+class SearchFormAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -66,14 +66,14 @@ class SearchFormAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(search, core().search)
 };
 
-class MainViewAdapter : public ScreenAdapter {
+class MainViewAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(ombrivane::view::SearchFormAdapter* oneWay READ oneWay CONSTANT FINAL)
     Q_PROPERTY(ombrivane::view::SearchFormAdapter* roundTrip READ roundTrip CONSTANT FINAL)
     Q_PROPERTY(ombrivane::view::FooterAdapter* footer READ footer CONSTANT FINAL)
-    Q_PROPERTY(QStringList tabLabels READ tabLabels CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> tabLabels READ tabLabels CONSTANT FINAL)
     Q_PROPERTY(int tab READ tab NOTIFY tabChanged FINAL)
     OMBRIVANE_SCREEN(MainViewAdapter, MainView)
     OMBRIVANE_TEXT(title, core().title)
@@ -83,7 +83,7 @@ public:
     SearchFormAdapter* oneWay() { return &oneWay_; }
     SearchFormAdapter* roundTrip() { return &roundTrip_; }
     FooterAdapter* footer() { return &footer_; }
-    QStringList tabLabels() const;
+    QList<QString> tabLabels() const;
     int tab() const { return static_cast<int>(core().tabBar->localSelection.get()); }
     Q_INVOKABLE void tapTab(int index) { core().tabBar->tap(static_cast<TabBarItem>(index)); }
     Q_SIGNAL void tabChanged();
@@ -95,7 +95,7 @@ private:
     Subscription tabWatch_ = core().tabBar->localSelection.observe([this] { emit tabChanged(); });
 };
 
-class AirportRowAdapter : public ScreenAdapter {
+class AirportRowAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -106,7 +106,7 @@ class AirportRowAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(tap, core().tap)
 };
 
-class AirportSearchAdapter : public ScreenAdapter {
+class AirportSearchAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -118,7 +118,7 @@ class AirportSearchAdapter : public ScreenAdapter {
     OMBRIVANE_ROWS(rows, core().rows)
 };
 
-class RadioRowAdapter : public ScreenAdapter {
+class RadioRowAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -128,7 +128,7 @@ class RadioRowAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(tap, core().tap)
 };
 
-class StepperAdapter : public ScreenAdapter {
+class StepperAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -142,7 +142,7 @@ class StepperAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(decrement, core().decrement)
 };
 
-class TravellerSheetAdapter : public ScreenAdapter {
+class TravellerSheetAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -156,7 +156,7 @@ class TravellerSheetAdapter : public ScreenAdapter {
     OMBRIVANE_ROWS(cabins, core().cabins)
 };
 
-class NationalityRowAdapter : public ScreenAdapter {
+class NationalityRowAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
@@ -165,7 +165,7 @@ class NationalityRowAdapter : public ScreenAdapter {
     OMBRIVANE_INTENT(tap, core().tap)
 };
 
-class NationalitySheetAdapter : public ScreenAdapter {
+class NationalitySheetAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")

@@ -14,7 +14,7 @@ T.AbstractButton {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.mainText + ", " + row.name + ", " + row.code
     onClicked: row.tap()
-    Keys.onReturnPressed: click()
+    Keys.onReturnPressed: item.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius

@@ -14,7 +14,7 @@ T.AbstractButton {
     Accessible.name: row.label
     Accessible.checked: row.isMarked
     onClicked: row.tap()
-    Keys.onReturnPressed: click()
+    Keys.onReturnPressed: item.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius

@@ -65,6 +65,7 @@ ColumnLayout {
         }
     }
     GridLayout {
+        id: dates
         Layout.fillWidth: true
         columns: form.width < 340 * Theme.textScale ? 1 : 2
         columnSpacing: Theme.gap
@@ -72,7 +73,7 @@ ColumnLayout {
         FieldButton {
             objectName: "departureDate"
             Layout.fillWidth: true
-            Layout.columnSpan: form.screen.showsReturnDate ? 1 : parent.columns
+            Layout.columnSpan: form.screen.showsReturnDate ? 1 : dates.columns
             Layout.preferredWidth: 1
             iconName: "calendarIcon"
             placeholder: form.screen.departureDatePlaceholder

@@ -45,7 +45,7 @@ Rectangle {
                 Accessible.name: text
                 Accessible.checked: index === bar.current
                 onClicked: bar.tapped(index)
-                Keys.onReturnPressed: click()
+                Keys.onReturnPressed: tab.clicked()
                 background: Rectangle {
                     radius: height / 2
                     color: "transparent"

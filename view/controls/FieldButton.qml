@@ -54,6 +54,6 @@ T.AbstractButton {
             }
         }
     }
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: field.clicked()
+    Keys.onEnterPressed: field.clicked()
 }

@@ -32,6 +32,6 @@ T.AbstractButton {
             opacity: button.enabled ? 1 : 0.4
         }
     }
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
 }

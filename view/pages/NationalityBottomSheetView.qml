@@ -33,7 +33,7 @@ Sheet {
             Accessible.role: Accessible.ListItem
             Accessible.name: row.nationality
             onClicked: row.tap()
-            Keys.onReturnPressed: click()
+            Keys.onReturnPressed: item.clicked()
             background: Rectangle {
                 color: item.down ? Theme.segmentColor : "transparent"
                 border.width: item.visualFocus ? 2 : 0
