@@ -1,5 +1,7 @@
 #include "records/DecodeError.h"
 
+#include <fmt/core.h>
+
 namespace ombrivane {
 
 void DecodeError::within(std::string_view key) {
@@ -9,7 +11,7 @@ void DecodeError::within(std::string_view key) {
 
 void DecodeError::within(std::size_t index) {
     const bool joined = !path_.empty() && path_.front() != '[';
-    path_ = "[" + std::to_string(index) + "]" + (joined ? "." : "") + path_;
+    path_ = fmt::format("[{}]{}{}", index, joined ? "." : "", path_);
 }
 
 Error DecodeError::error() const {

@@ -1,0 +1,95 @@
+#include "DoublePass.h"
+#include "Figure.h"
+#include "HeapMeter.h"
+#include "Pipeline.h"
+#include "SearchAnswer.h"
+#include "Stopwatch.h"
+
+#include <fmt/format.h>
+#include <simdjson.h>
+
+#include <array>
+#include <stdexcept>
+
+namespace ombrivane::bench {
+namespace {
+
+constexpr std::size_t rounds = 25;
+
+/// The same records in the same order; identities and the order of keys in the raw bytes differ by nature.
+void requireSameRecords(const OneWayOffers& offers, const OneWayOffers& others) {
+    bool same = offers.size() == others.size();
+    for (std::size_t i = 0; same && i < offers.size(); ++i) {
+        FlightSearchOneWay copy = *others[i];
+        copy.id = offers[i]->id;
+        copy.rawData = offers[i]->rawData;
+        same = copy == *offers[i] && copy.rawData;
+    }
+    if (!same) throw std::runtime_error("the baseline decodes other records");
+}
+
+/// A parse that keeps its memory from one answer to the next: the fastest there is.
+Timed bareParse(simdjson::dom::parser& parser, const simdjson::padded_string& json) {
+    return {[&parser, &json] {
+        if (parser.parse(json).error() != simdjson::SUCCESS) throw std::runtime_error("no JSON");
+    }};
+}
+
+Timed decoding(const std::string& answer, OneWayOffers& offers) {
+    return {[&answer, &offers] { offers = pipeline(answer); }, [] {}, [&offers] { offers.clear(); }};
+}
+
+void addComparisons(std::vector<Figure>& figures, const std::string& answer) {
+    simdjson::dom::parser parser;
+    const simdjson::padded_string padded(answer);
+    OneWayOffers offers;
+    OneWayOffers others;
+    const Timed baseline{[&] { others = doublePass(answer); }, [] {}, [&others] { others.clear(); }};
+    const auto medians =
+        interleavedMedians({bareParse(parser, padded), decoding(answer, offers), baseline}, rounds);
+    figures.push_back({"decode.parse_ms", medians[0] * 1e3});
+    figures.push_back({"decode.pipeline_ms", medians[1] * 1e3});
+    figures.push_back({"decode.double_pass_ms", medians[2] * 1e3});
+    figures.push_back({"decode.vs_parse", medians[1] / medians[0]});
+    figures.push_back({"decode.vs_double_pass", medians[2] / medians[1]});
+}
+
+void addMemory(std::vector<Figure>& figures, const std::string& answer) {
+    const HeapMeter meter;
+    const OneWayOffers offers = pipeline(answer);
+    const auto held = static_cast<double>(meter.held());
+    figures.push_back({"decode.bytes_per_json_byte", held / static_cast<double>(answer.size())});
+}
+
+/// The cost per offer may depend on the length of the list by no more than the processor's caches.
+void addGrowth(std::vector<Figure>& figures) {
+    constexpr std::array<std::size_t, 4> lengths{10, 100, 1'000, 10'000};
+    std::array<std::string, lengths.size()> answers;
+    OneWayOffers offers;
+    std::vector<Timed> works;
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        answers[i] = searchAnswer(lengths[i]);
+        works.push_back(decoding(answers[i], offers));
+    }
+    const auto medians = interleavedMedians(works, rounds);
+    std::array<double, lengths.size()> costs{};
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        costs[i] = medians[i] * 1e6 / static_cast<double>(lengths[i]);
+        figures.push_back({fmt::format("decode.us_per_offer_{}", lengths[i]), costs[i]});
+    }
+    figures.push_back({"decode.growth", costs.back() / costs.front()});
+}
+
+} // namespace
+
+std::vector<Figure> decodeFigures() {
+    const std::string answer = searchAnswer(1'000);
+    requireSameRecords(pipeline(answer), doublePass(answer));
+    std::vector<Figure> figures{{"decode.json_mb", static_cast<double>(answer.size()) / 1e6}};
+    addComparisons(figures, answer);
+    addMemory(figures, answer);
+    addGrowth(figures);
+    return figures;
+}
+
+} // namespace ombrivane::bench
