@@ -4,6 +4,8 @@
 #include "support/Json.h"
 #include "support/Uuid.h"
 
+#include <cmath>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -13,6 +15,15 @@ namespace ombrivane {
 
 template <class T> struct Encoder {
     static Json encode(const T& value) { return value; }
+};
+
+template <> struct Encoder<double> {
+    /// A whole number is written as it arrived, without a fraction.
+    static Json encode(double value) {
+        constexpr double bound = 9007199254740992.0; // 2^53
+        if (std::abs(value) < bound && std::trunc(value) == value) return static_cast<std::int64_t>(value);
+        return value;
+    }
 };
 
 template <> struct Encoder<Uuid> {

@@ -14,6 +14,11 @@ inline void mix(std::size_t& seed, std::size_t value) {
     seed ^= value + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
 }
 
+// Declared ahead, since an optional holds an array and an array holds optionals.
+template <class T> std::size_t hashOf(const T& value);
+template <class T> std::size_t hashOf(const std::optional<T>& value);
+template <class T> std::size_t hashOf(const std::vector<T>& values);
+
 template <class T> std::size_t hashOf(const T& value) { return std::hash<T>{}(value); }
 
 template <class T> std::size_t hashOf(const std::optional<T>& value) {

@@ -90,19 +90,18 @@ private:
 struct JsonDocument::Parsed {
     std::shared_ptr<char[]> bytes;
     std::size_t length = 0;
-    std::size_t capacity = 0;
     simdjson::dom::parser parser;
     simdjson::dom::element root;
 };
 
 JsonDocument::JsonDocument(const std::string& bytes) : parsed_(std::make_unique<Parsed>()) {
     auto& parsed = *parsed_;
-    parsed.capacity = bytes.size() + simdjson::SIMDJSON_PADDING;
-    parsed.bytes = std::make_shared_for_overwrite<char[]>(parsed.capacity);
+    // Checked as it came: without its white space "1 2" would be a number.
+    const auto failure = parsed.parser.parse(bytes).get(parsed.root);
+    if (failure != simdjson::SUCCESS) failParsing(failure);
+    parsed.bytes = std::make_shared_for_overwrite<char[]>(bytes.size() + simdjson::SIMDJSON_PADDING);
     const auto minified = simdjson::minify(bytes.data(), bytes.size(), parsed.bytes.get(), parsed.length);
     if (minified != simdjson::SUCCESS) failParsing(minified);
-    const auto failure = parsed.parser.parse(parsed.bytes.get(), parsed.length, false).get(parsed.root);
-    if (failure != simdjson::SUCCESS) failParsing(failure);
 }
 
 JsonDocument::~JsonDocument() = default;
@@ -112,12 +111,15 @@ const simdjson::dom::element& JsonDocument::root() const { return parsed_->root;
 std::shared_ptr<const void> JsonDocument::owner() const { return parsed_->bytes; }
 
 std::vector<std::string_view> JsonDocument::elementBytes(std::string_view key) const {
+    simdjson::dom::object object;
+    if (parsed_->root.get(object) != simdjson::SUCCESS) return {};
     Cursor cursor({parsed_->bytes.get(), parsed_->length});
-    if (!cursor.take('{')) return {};
-    while (!cursor.take('}')) {
-        const std::string_view found = cursor.value();
+    cursor.take('{');
+    // The parser says which member it is: in the bytes its key may be written with escapes.
+    for (const auto member : object) {
+        cursor.value();
         cursor.take(':');
-        if (found.substr(1, found.size() - 2) == key) return cursor.elements();
+        if (member.key == key) return cursor.elements();
         cursor.value();
         cursor.take(',');
     }
