@@ -1,5 +1,7 @@
 #include "services/Body.h"
 
+#include "support/Error.h"
+
 namespace ombrivane {
 namespace {
 
@@ -31,6 +33,12 @@ std::optional<std::string> Body::serialised() const {
         text += Json(key).dump() + ":" + *value;
     }
     return text + "}";
+}
+
+std::string Body::serialisedOrFail() const {
+    auto text = serialised();
+    if (!text) throw Error{"Encoding", 0, "The request could not be written.", "a text is no UTF-8"};
+    return *std::move(text);
 }
 
 } // namespace ombrivane

@@ -20,6 +20,8 @@ public:
     /// The whole object as text; nothing when a value cannot be written (a text that is no UTF-8), in which
     /// case a request goes out without a body.
     std::optional<std::string> serialised() const;
+    /// The same for a request that must not go out without a body. @throws Error
+    std::string serialisedOrFail() const;
 
 private:
     std::vector<std::pair<std::string, std::optional<std::string>>> members_;

@@ -1,5 +1,6 @@
 #include "services/OWFlightAvailabilityProvider.h"
 
+#include "services/AvailabilityAnswer.h"
 #include "services/Endpoints.h"
 #include "services/FlightsSummarySlots.h"
 #include "services/Frame.h"
@@ -18,12 +19,12 @@ void OWFlightAvailabilityProvider::fetchAvailability(
         Body body;
         body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
         addRawItinerary(body, offer.rawData);
-        return body.serialised();
+        return body.serialisedOrFail();
     };
     send<std::optional<OWFlightAvailability>>(
         call,
         [](const Envelope& envelope) {
-            auto availability = envelope.record<OWFlightAvailability>();
+            auto availability = availabilityOf<OWFlightAvailability>(envelope);
             storeFlightsSummary(availability.flightsSummary);
             return availability;
         },

@@ -17,7 +17,7 @@ void OWRestrictionProvider::fetchRestrictions(
                 .add("user_type", AppState::shared().userType.get())
                 .add("itinerary_type", itineraryType)
                 .add("itinerary", encode(offer))
-                .serialised();
+                .serialisedOrFail();
         },
         completion);
 }

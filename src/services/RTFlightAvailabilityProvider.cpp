@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "records/Encode.h"
+#include "services/AvailabilityAnswer.h"
 #include "services/Endpoints.h"
 #include "services/FlightsSummarySlots.h"
 #include "services/Frame.h"
@@ -20,12 +21,12 @@ void RTFlightAvailabilityProvider::fetchAvailability(
         Body body;
         body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
         addRawItinerary(body, offer.rawData);
-        return body.serialised();
+        return body.serialisedOrFail();
     };
     send<std::optional<RTFlightAvailability>>(
         call,
         [](const Envelope& envelope) {
-            auto availability = envelope.record<RTFlightAvailability>();
+            auto availability = availabilityOf<RTFlightAvailability>(envelope);
             platform().diagnostics->print(encode(availability).dump());
             storeFlightsSummary(availability.flightsSummary);
             return availability;
@@ -46,10 +47,12 @@ void RTFlightAvailabilityProvider::fetchAvailability(
             .add("itinerary_type", itineraryType)
             .add("itinerary", encode(departing))
             .add("itinerary_return", encode(returning))
-            .serialised();
+            .serialisedOrFail();
     };
     send<std::optional<RTFlightAvailability>>(
-        call, [](const Envelope& envelope) { return envelope.record<RTFlightAvailability>(); }, completion);
+        call,
+        [](const Envelope& envelope) { return availabilityOf<RTFlightAvailability>(envelope); },
+        completion);
 }
 
 } // namespace ombrivane

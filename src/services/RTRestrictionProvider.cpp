@@ -17,7 +17,7 @@ void RTRestrictionProvider::fetchRestrictions(
                 .add("user_type", AppState::shared().userType.get())
                 .add("itinerary_type", itineraryType)
                 .add("itinerary", encode(offer))
-                .serialised();
+                .serialisedOrFail();
         },
         completion);
 }
@@ -33,7 +33,7 @@ void RTRestrictionProvider::fetchRestrictions(
                 .add("itinerary_type", itineraryType)
                 .add("itinerary", encode(departing))
                 .add("itinerary_return", encode(returning))
-                .serialised();
+                .serialisedOrFail();
         },
         completion);
 }
