@@ -28,11 +28,12 @@ public:
     Action<> tap;
 };
 
-/// What both airport screens share: a search at every appearance and at every change of the text, without
-/// delay and without a least length. The last answer to arrive wins; an error leaves the list as it stood.
+/// What both airport screens share: the popular airports at every appearance and a search at every change of
+/// the text, without delay and without a least length. The last answer to arrive wins; an error leaves the
+/// list as it stood.
 class AirportSearch : public Screen {
 public:
-    void appear() override { searchFor(text.get()); }
+    void appear() override { searchFor(""); }
 
     Published<std::vector<Airport>> airports{fields, "airports"};
     Derived<std::string> placeholder;

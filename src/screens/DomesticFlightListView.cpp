@@ -115,11 +115,6 @@ bool DomesticFlightListView::listIsEmpty() const {
                                               : flightListVM.filteredReturnFlights->empty();
 }
 
-void DomesticFlightListView::refuse(const char* message) {
-    errorMessage = message;
-    flightListVM.showSnackBar = true;
-}
-
 void DomesticFlightListView::tapReturnTab() {
     if (!flightListVM.flight.get()) return refuse("Please select a flight first.");
     flightListVM.index = returnTab;
@@ -181,9 +176,8 @@ void DomesticFlightListView::proceed() {
         flightListVM.index = returnTab;
         return;
     }
-    // The message of the return tab may still stand there.
-    errorMessage = insufficientFund;
-    if (affordable(*totalCost())) showRules();
+    if (exceedsBalance(*totalCost(), AppState::shared().walletBalance)) return refuse(insufficientFund);
+    showRules();
 }
 
 } // namespace ombrivane

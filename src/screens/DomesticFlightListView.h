@@ -42,7 +42,6 @@ private:
     OfferSelection departureSelection();
     OfferSelection returnSelection();
     void tapReturnTab();
-    void refuse(const char* message);
     void clearSelection();
 
     FlightSearchOneWayProvider flightSearchOneWayProvider_;

@@ -2,8 +2,14 @@
 
 #include "platform/OnMain.h"
 #include "screens/FilterBottomSheetView.h"
+#include "search/WholeNumber.h"
 
 namespace ombrivane {
+namespace {
+
+constexpr const char* insufficientBalance = "You don't have sufficient balance.";
+
+} // namespace
 
 FlightListView::FlightListView(SearchRequest searchRequest, CompletionCallback completionCallback) :
     FlightListView(std::move(searchRequest), std::make_shared<FlightListViewModel>(),
@@ -12,8 +18,8 @@ FlightListView::FlightListView(SearchRequest searchRequest, CompletionCallback c
 FlightListView::FlightListView(SearchRequest searchRequest,
                                const std::shared_ptr<FlightListViewModel>& viewModel,
                                CompletionCallback completionCallback) :
-    ResultsScreen("FlightListView", "flightListVM", std::move(searchRequest), viewModel,
-                  "You don't have sufficient balance.", std::move(completionCallback)),
+    ResultsScreen("FlightListView", "flightListVM", std::move(searchRequest), viewModel, insufficientBalance,
+                  std::move(completionCallback)),
     flightListVM(*viewModel),
     oneWayList_(std::make_shared<OneWayFlightListView>(
         flightListVM.filteredOnewayFlights,
@@ -99,7 +105,7 @@ std::optional<std::string> FlightListView::totalCurrency() const {
 
 void FlightListView::proceed() {
     const auto cost = totalCost();
-    if (cost && !affordable(*cost)) return;
+    if (cost && exceedsBalance(*cost, AppState::shared().walletBalance)) return refuse(insufficientBalance);
     showRules();
 }
 

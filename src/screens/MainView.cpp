@@ -8,6 +8,7 @@ MainView::MainView(CompletionCallback completionCallback) :
     tabBar(std::make_shared<CustomTabBarView>(tabSelection)),
     oneWay(std::make_shared<OneWayView>(completionCallback)),
     roundTrip(std::make_shared<RoundTripView>(completionCallback)),
+    multiCity(std::make_shared<MultiCityView>()),
     footer(std::make_shared<FooterView>()) {}
 
 } // namespace ombrivane

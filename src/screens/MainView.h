@@ -2,6 +2,7 @@
 
 #include "screens/CustomTabBarView.h"
 #include "screens/FooterView.h"
+#include "screens/MultiCityView.h"
 #include "screens/OneWayView.h"
 #include "screens/RoundTripView.h"
 #include "state/CompletionCallback.h"
@@ -28,12 +29,20 @@ public:
     const std::shared_ptr<CustomTabBarView> tabBar;
     const std::shared_ptr<OneWayView> oneWay;
     const std::shared_ptr<RoundTripView> roundTrip;
+    const std::shared_ptr<MultiCityView> multiCity;
     const std::shared_ptr<FooterView> footer;
 
 private:
     Part tabBarPart_{*this, "tabBar", [this] { return tabBar; }};
     Part form_{*this, "form", [this]() -> std::shared_ptr<Screen> {
-                   if (tabSelection.get() == TabBarItem::roundTrip) return roundTrip;
+                   switch (tabSelection.get()) {
+                   case TabBarItem::roundTrip:
+                       return roundTrip;
+                   case TabBarItem::multiCity:
+                       return multiCity;
+                   case TabBarItem::oneWay:
+                       break;
+                   }
                    return oneWay;
                }};
     Part footerPart_{*this, "footer", [this] { return footer; }};

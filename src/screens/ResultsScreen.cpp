@@ -3,7 +3,6 @@
 #include "booking/RulesAndRegulationView.h"
 #include "search/CustomRoundTripDatePickerView.h"
 #include "search/OfferFormat.h"
-#include "search/WholeNumber.h"
 #include "services/CustomError.h"
 #include "services/ItineraryType.h"
 #include "support/Calendar.h"
@@ -150,10 +149,9 @@ bool ResultsScreen::takeIn(const std::optional<Error>& error) {
     return false;
 }
 
-bool ResultsScreen::affordable(std::int64_t cost) {
-    if (!exceedsBalance(cost, AppState::shared().walletBalance)) return true;
+void ResultsScreen::refuse(const char* message) {
+    errorMessage = message;
     model_->showSnackBar = true;
-    return false;
 }
 
 void ResultsScreen::stepDeparture(int days) {

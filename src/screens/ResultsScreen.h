@@ -85,8 +85,8 @@ protected:
 
     /// Takes the three kinds of errors in; false when there was one.
     bool takeIn(const std::optional<Error>& error);
-    /// Continues when the wallet holds enough for `cost`, else says that it does not.
-    bool affordable(std::int64_t cost);
+    /// Says why the way on is closed.
+    void refuse(const char* message);
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }
     std::shared_ptr<ResultsModel> model() const { return model_; }
     const SearchRequest& request() const { return request_; }

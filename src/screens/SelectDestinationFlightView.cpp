@@ -13,8 +13,9 @@ SelectDestinationFlightView::SelectDestinationFlightView(MainViewModel& model, s
     callback_(std::move(callback)) {}
 
 std::vector<Airport> SelectDestinationFlightView::shown(std::vector<Airport> found) const {
-    std::erase_if(found,
-                  [this](const Airport& airport) { return airport.code == selectedOriginCityCode.get(); });
+    const std::string& origin = selectedOriginCityCode;
+    if (origin.empty()) return found;
+    std::erase_if(found, [&origin](const Airport& airport) { return airport.code == origin; });
     return found;
 }
 
