@@ -11,6 +11,8 @@ void check(UErrorCode status) {
 }
 
 void toMidnight(icu::Calendar& calendar) {
+    // Where clocks go back over midnight, the day begins with the first of the two.
+    calendar.setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
     for (const auto field : {UCAL_HOUR_OF_DAY, UCAL_MINUTE, UCAL_SECOND, UCAL_MILLISECOND})
         calendar.set(field, 0);
 }

@@ -3,7 +3,6 @@
 #include "platform/Platform.h"
 #include "support/IcuCalendar.h"
 
-#include <unicode/basictz.h>
 #include <unicode/numberformatter.h>
 #include <unicode/smpdtfmt.h>
 
@@ -12,54 +11,31 @@
 namespace ombrivane {
 namespace {
 
-std::unique_ptr<icu::SimpleDateFormat> formatter(const std::string& pattern, const icu::Locale& locale,
-                                                 const icu::TimeZone& zone) {
+std::unique_ptr<icu::SimpleDateFormat> formatter(const std::string& pattern, const icu::Locale& locale) {
     UErrorCode status = U_ZERO_ERROR;
     auto made =
         std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString::fromUTF8(pattern), locale, status);
-    made->setTimeZone(zone);
+    made->setTimeZone(*deviceTimeZone());
     return made;
-}
-
-/// When clocks of the device's zone show what clocks of UTC show at `wall`. A midnight that they leave out
-/// is the moment at which they jump, one that they show twice is the first.
-UDate inDeviceZone(UDate wall) {
-    const auto zone = deviceTimeZone();
-    const auto* rules = dynamic_cast<const icu::BasicTimeZone*>(zone.get());
-    if (rules == nullptr) return wall - zone->getRawOffset();
-    std::int32_t raw = 0;
-    std::int32_t saving = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    rules->getOffsetFromLocal(wall, UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, raw, saving, status);
-    return wall - raw - saving;
 }
 
 } // namespace
 
 std::string formatDate(Date date, const std::string& pattern) {
     icu::UnicodeString text;
-    formatter(pattern, deviceLocale(), *deviceTimeZone())->format(icuTime(date), text);
+    formatter(pattern, deviceLocale())->format(icuTime(date), text);
     std::string utf8;
     return text.toUTF8String(utf8);
 }
 
 std::optional<Date> parseDate(const std::string& text, const std::string& pattern) {
-    // Read strictly as UTC, which has every midnight: a strict reader refuses a day whose own zone skips it.
-    const auto reader = formatter(pattern, icu::Locale("en_US_POSIX"), *icu::TimeZone::getGMT());
+    const auto reader = formatter(pattern, icu::Locale("en_US_POSIX"));
     reader->setLenient(false);
-    // Strict reading refuses a moment that the clocks of a zone skip, be it the midnight that stands for a
-    // day.
-    reader->setTimeZone(*icu::TimeZone::getGMT());
     const auto source = icu::UnicodeString::fromUTF8(text);
     icu::ParsePosition position;
     const UDate time = reader->parse(source, position);
     if (position.getErrorIndex() >= 0 || position.getIndex() != source.length()) return std::nullopt;
-    UErrorCode status = U_ZERO_ERROR;
-    std::int32_t standard = 0;
-    std::int32_t daylight = 0;
-    deviceTimeZone()->getOffset(time, static_cast<UBool>(true), standard, daylight, status);
-    if (U_FAILURE(status)) return std::nullopt;
-    return dateOf(time - standard - daylight);
+    return dateOf(inDeviceZone(time));
 }
 
 std::string formatNumber(std::int64_t number) {
