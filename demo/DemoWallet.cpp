@@ -85,13 +85,12 @@ void DemoWallet::makeWindow() {
     engine_ = std::make_unique<QQmlApplicationEngine>();
     engine_->addImportPath("qrc:/com.framework.Ombrivane/qml");
     engine_->addImportPath("qrc:/com.framework.Ombrivane/demo");
-    if (auto* theme = engine_->singletonInstance<QObject*>(qmlTypeId("Ombrivane", 1, 0, "Theme"))) {
-        theme->setProperty("dark", options_.dark);
-        theme->setProperty("textScale", options_.textScale);
-        theme->setProperty("reducedMotion", options_.stillMotion);
-    }
-    engine_->setInitialProperties(
-        {{"balance", options_.walletBalance}, {"width", options_.width}, {"height", options_.height}});
+    engine_->setInitialProperties({{"balance", options_.walletBalance},
+                                   {"width", options_.width},
+                                   {"height", options_.height},
+                                   {"dark", options_.dark},
+                                   {"textScale", options_.textScale},
+                                   {"reducedMotion", options_.stillMotion}});
     engine_->load(QUrl("qrc:/com.framework.Ombrivane/demo/OmbrivaneDemo/Wallet.qml"));
     if (engine_->rootObjects().isEmpty()) return;
     window_ = qobject_cast<QQuickWindow*>(engine_->rootObjects().constFirst());

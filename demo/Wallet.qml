@@ -7,6 +7,9 @@ Window {
     id: window
 
     required property real balance
+    property bool dark: false
+    property real textScale: 1
+    property bool reducedMotion: false
     property list<string> receipts: []
     property alias component: component
     property bool componentIsOpen: false
@@ -83,5 +86,8 @@ Window {
         visible: window.componentIsOpen
         focus: visible
         walletBalance: window.balance
+        dark: window.dark
+        textScale: window.textScale
+        reducedMotion: window.reducedMotion
     }
 }

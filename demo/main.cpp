@@ -19,7 +19,8 @@ std::unique_ptr<ombrivane::sandbox::Sandbox> startService(ombrivane::demo::DemoO
     ombrivane::sandbox::Options service;
     service.port = 0;
     service.faults = options.faults;
-    if (const auto now = ombrivane::parseIso(options.now)) service.now = std::chrono::floor<std::chrono::seconds>(*now);
+    if (const auto now = ombrivane::parseIso(options.now))
+        service.now = std::chrono::floor<std::chrono::seconds>(*now);
     auto sandbox = std::make_unique<ombrivane::sandbox::Sandbox>(service);
     sandbox->start();
     options.testHost = sandbox->address();

@@ -12,6 +12,9 @@ FocusScope {
     property alias phone: session.phone
     property alias environment: session.environment
     property alias session: session
+    property bool dark: false
+    property real textScale: 1
+    property bool reducedMotion: false
     signal finished(dictionary: string)
     signal failed(message: string)
     signal closed
@@ -19,6 +22,9 @@ FocusScope {
     function open() { session.open() }
     function drop() { session.drop() }
 
+    Binding { target: Theme; property: "dark"; value: view.dark }
+    Binding { target: Theme; property: "textScale"; value: view.textScale }
+    Binding { target: Theme; property: "reducedMotion"; value: view.reducedMotion }
     OmbrivaneSession {
         id: session
         onFinished: dictionary => view.finished(dictionary)

@@ -2,11 +2,9 @@
 
 namespace ombrivane::view {
 
-QList<QString> MainViewAdapter::tabLabels() const {
-    QList<QString> labels;
-    for (const auto& label : core().tabBar->labels.get())
-        labels.append(shown(label));
-    return labels;
+QString MainViewAdapter::tabLabel(int index) const {
+    const auto labels = core().tabBar->labels.get();
+    return shown(labels.at(static_cast<std::size_t>(index)));
 }
 
 } // namespace ombrivane::view

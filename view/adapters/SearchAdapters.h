@@ -73,7 +73,7 @@ class MainViewAdapter : public ombrivane::view::ScreenAdapter {
     Q_PROPERTY(ombrivane::view::SearchFormAdapter* oneWay READ oneWay CONSTANT FINAL)
     Q_PROPERTY(ombrivane::view::SearchFormAdapter* roundTrip READ roundTrip CONSTANT FINAL)
     Q_PROPERTY(ombrivane::view::FooterAdapter* footer READ footer CONSTANT FINAL)
-    Q_PROPERTY(QList<QString> tabLabels READ tabLabels CONSTANT FINAL)
+    Q_PROPERTY(int tabCount READ tabCount CONSTANT FINAL)
     Q_PROPERTY(int tab READ tab NOTIFY tabChanged FINAL)
     OMBRIVANE_SCREEN(MainViewAdapter, MainView)
     OMBRIVANE_TEXT(title, core().title)
@@ -83,7 +83,8 @@ public:
     SearchFormAdapter* oneWay() { return &oneWay_; }
     SearchFormAdapter* roundTrip() { return &roundTrip_; }
     FooterAdapter* footer() { return &footer_; }
-    QList<QString> tabLabels() const;
+    int tabCount() const { return static_cast<int>(core().tabBar->tabs->size()); }
+    Q_INVOKABLE QString tabLabel(int index) const;
     int tab() const { return static_cast<int>(core().tabBar->localSelection.get()); }
     Q_INVOKABLE void tapTab(int index) { core().tabBar->tap(static_cast<TabBarItem>(index)); }
     Q_SIGNAL void tabChanged();

@@ -6,11 +6,9 @@ import Ombrivane
 Rectangle {
     id: bar
 
-    required property list<string> labels
-    required property int current
-    signal tapped(int index)
+    required property MainViewAdapter screen
 
-    readonly property real cell: (width - 8) / Math.max(1, labels.length)
+    readonly property real cell: (width - 8) / Math.max(1, screen.tabCount)
 
     implicitHeight: 52 * Math.max(1, Theme.textScale * 0.75)
     radius: height / 2
@@ -19,7 +17,7 @@ Rectangle {
     border.color: Theme.hairlineColor
 
     Rectangle {
-        x: 4 + bar.current * bar.cell
+        x: 4 + bar.screen.tab * bar.cell
         y: 4
         width: bar.cell
         height: parent.height - 8
@@ -31,20 +29,19 @@ Rectangle {
         x: 4
         y: 4
         Repeater {
-            model: bar.labels
+            model: bar.screen.tabCount
             T.AbstractButton {
                 id: tab
-                required property string modelData
                 required property int index
                 objectName: "tab" + index
                 width: bar.cell
                 height: bar.height - 8
-                text: modelData
+                text: bar.screen.tabLabel(index)
                 focusPolicy: Qt.StrongFocus
                 Accessible.role: Accessible.PageTab
                 Accessible.name: text
-                Accessible.checked: index === bar.current
-                onClicked: bar.tapped(index)
+                Accessible.checked: index === bar.screen.tab
+                onClicked: bar.screen.tapTab(index)
                 Keys.onReturnPressed: tab.clicked()
                 background: Rectangle {
                     radius: height / 2
@@ -59,7 +56,7 @@ Rectangle {
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                     lineHeight: 1.1
-                    color: tab.index === bar.current ? Theme.secondaryTextColor : Theme.blackColor
+                    color: tab.index === bar.screen.tab ? Theme.secondaryTextColor : Theme.blackColor
                     Accessible.ignored: true
                 }
             }

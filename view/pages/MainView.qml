@@ -33,9 +33,7 @@ Item {
             spacing: Theme.margin
             TabBar {
                 Layout.fillWidth: true
-                labels: page.screen.tabLabels
-                current: page.screen.tab
-                onTapped: index => page.screen.tapTab(index)
+                screen: page.screen
             }
             SearchFormCard {
                 Layout.fillWidth: true

@@ -1,0 +1,39 @@
+#include "Window.h"
+
+#include "device/QtPlatform.h"
+#include "services/ServiceHosts.h"
+#include "support/SharedInstance.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
+
+namespace ombrivane::view {
+
+sandbox::Sandbox& service() {
+    static sandbox::Sandbox instance{sandbox::Options{}};
+    return instance;
+}
+
+} // namespace ombrivane::view
+
+int main(int count, char** values) {
+    const QGuiApplication application(count, values);
+    ::testing::InitGoogleTest(&count, values);
+    auto& service = ombrivane::view::service();
+    service.start();
+    ombrivane::ServiceHosts::use({.production = "https://localhost:1", .test = service.address()});
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(service.caFile(), "127.0.0.1"));
+    const int result = RUN_ALL_TESTS();
+    ombrivane::Platform ports = ombrivane::platform();
+    ports.network.reset();
+    ombrivane::Platform::install(std::move(ports));
+    QCoreApplication::processEvents();
+    ombrivane::dropSharedInstances();
+    ombrivane::Platform::install({});
+    service.stop();
+    return result;
+}

@@ -1,0 +1,123 @@
+#include "Window.h"
+
+#include "state/AppState.h"
+#include "support/Navigator.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QQmlComponent>
+#include <QTest>
+#include <QTimer>
+
+namespace ombrivane::view {
+namespace {
+
+constexpr const char* source = R"(
+import QtQuick
+import Ombrivane
+Window {
+    visible: true
+    OmbrivaneView {
+        anchors.fill: parent
+        clientId: "wallet"
+        clientSecret: "wallet-secret"
+        reducedMotion: true
+    }
+})";
+
+std::vector<std::string>* collected = nullptr;
+
+void collect(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (collected != nullptr && type != QtDebugMsg && type != QtInfoMsg)
+        collected->push_back(text.toStdString());
+}
+
+void addVisible(QQuickItem* item, std::vector<QQuickItem*>& items) {
+    if (!item->isVisible()) return;
+    items.push_back(item);
+    for (QQuickItem* child : item->childItems())
+        addVisible(child, items);
+}
+
+} // namespace
+
+Window::Window(int width, int height) {
+    collected = &warnings_;
+    qInstallMessageHandler(collect);
+    engine_.addImportPath("qrc:/com.framework.Ombrivane/qml");
+    QQmlComponent component(&engine_);
+    component.setData(source, QUrl("qrc:/test/Window.qml"));
+    root_.reset(component.create());
+    if (!root_) throw std::runtime_error(component.errorString().toStdString());
+    window_ = qobject_cast<QQuickWindow*>(root_.get());
+    window_->resize(width, height);
+    session_ = window_->findChild<OmbrivaneSession*>();
+    session_->setCallback([this](auto, auto) { ++callbacks; });
+    QObject::connect(session_, &OmbrivaneSession::closed, window_, [this] { ++closings; });
+}
+
+Window::~Window() {
+    session_->drop();
+    AppState::shared().resetNavigation(); // kept by the process, and not for the next test
+    root_.reset();
+    waitFor([] { return true; });
+    qInstallMessageHandler(nullptr);
+    collected = nullptr;
+}
+
+void Window::open() { session_->open(); }
+
+bool Window::waitFor(const std::function<bool()>& done) {
+    const QDeadlineTimer deadline(std::chrono::seconds(10));
+    QTimer tick;
+    tick.start(std::chrono::milliseconds(5));
+    do {
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (done()) return true;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    } while (!deadline.hasExpired());
+    return false;
+}
+
+bool Window::waitForScreen(const std::string& name) {
+    return waitFor([&] {
+        const Navigator* navigator = session_->navigator();
+        return navigator != nullptr && navigator->find(name) != nullptr;
+    });
+}
+
+std::vector<QQuickItem*> Window::visibleItems() {
+    std::vector<QQuickItem*> items;
+    addVisible(window_->contentItem(), items);
+    return items;
+}
+
+QQuickItem* Window::item(const QString& name) {
+    QQuickItem* found = nullptr;
+    for (QQuickItem* candidate : visibleItems()) {
+        if (candidate->objectName() != name) continue;
+        const QPointF centre =
+            candidate->mapToScene(QPointF(candidate->width() / 2, candidate->height() / 2));
+        // The topmost one counts; a row of a list may be made ahead, below the window.
+        if (QRectF(QPointF(), window_->size()).contains(centre)) found = candidate;
+    }
+    return found;
+}
+
+void Window::click(const QString& name) {
+    QQuickItem* target = nullptr;
+    const auto laidOut = [&] {
+        target = item(name);
+        return target != nullptr && target->width() > 0 && target->height() > 0;
+    };
+    ASSERT_TRUE(waitFor(laidOut)) << name.toStdString();
+    QTest::qWait(30); // the frame in which it is drawn where it stands
+    ASSERT_TRUE(waitFor(laidOut)) << name.toStdString();
+    const QPointF centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
+    QTest::mouseClick(window_, Qt::LeftButton, {}, centre.toPoint());
+}
+
+} // namespace ombrivane::view

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "items/OmbrivaneSession.h"
+#include "sandbox/Sandbox.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ombrivane::view {
+
+/// The booking service of all tests of a process, and the ports of a window that talk to it.
+sandbox::Sandbox& service();
+
+/// A window with the component in it. Every warning of the toolkit while it lives is kept.
+class Window {
+public:
+    explicit Window(int width = 390, int height = 844);
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    ~Window();
+
+    OmbrivaneSession& session() { return *session_; }
+    QQuickWindow& window() { return *window_; }
+
+    void open();
+    /// Turns the event loop until `done` holds or ten seconds have passed; tells whether it held.
+    bool waitFor(const std::function<bool()>& done);
+    bool waitForScreen(const std::string& name);
+    /// The visible item with this object name, nullptr where there is none.
+    QQuickItem* item(const QString& name);
+    void click(const QString& name);
+    std::vector<QQuickItem*> visibleItems();
+    const std::vector<std::string>& warnings() const { return warnings_; }
+
+    int callbacks = 0;
+    int closings = 0;
+
+private:
+    QQmlEngine engine_;
+    std::unique_ptr<QObject> root_;
+    QQuickWindow* window_ = nullptr;
+    OmbrivaneSession* session_ = nullptr;
+    std::vector<std::string> warnings_;
+};
+
+} // namespace ombrivane::view
