@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "support/IcuCalendar.h"
 
+#include <unicode/basictz.h>
 #include <unicode/numberformatter.h>
 #include <unicode/smpdtfmt.h>
 
@@ -11,25 +12,40 @@
 namespace ombrivane {
 namespace {
 
-std::unique_ptr<icu::SimpleDateFormat> formatter(const std::string& pattern, const icu::Locale& locale) {
+std::unique_ptr<icu::SimpleDateFormat> formatter(const std::string& pattern, const icu::Locale& locale,
+                                                 const icu::TimeZone& zone) {
     UErrorCode status = U_ZERO_ERROR;
     auto made =
         std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString::fromUTF8(pattern), locale, status);
-    made->setTimeZone(*deviceTimeZone());
+    made->setTimeZone(zone);
     return made;
+}
+
+/// When clocks of the device's zone show what clocks of UTC show at `wall`. A midnight that they leave out
+/// is the moment at which they jump, one that they show twice is the first.
+UDate inDeviceZone(UDate wall) {
+    const auto zone = deviceTimeZone();
+    const auto* rules = dynamic_cast<const icu::BasicTimeZone*>(zone.get());
+    if (rules == nullptr) return wall - zone->getRawOffset();
+    std::int32_t raw = 0;
+    std::int32_t saving = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    rules->getOffsetFromLocal(wall, UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, raw, saving, status);
+    return wall - raw - saving;
 }
 
 } // namespace
 
 std::string formatDate(Date date, const std::string& pattern) {
     icu::UnicodeString text;
-    formatter(pattern, deviceLocale())->format(icuTime(date), text);
+    formatter(pattern, deviceLocale(), *deviceTimeZone())->format(icuTime(date), text);
     std::string utf8;
     return text.toUTF8String(utf8);
 }
 
 std::optional<Date> parseDate(const std::string& text, const std::string& pattern) {
-    const auto reader = formatter(pattern, icu::Locale("en_US_POSIX"));
+    // Read strictly as UTC, which has every midnight: a strict reader refuses a day whose own zone skips it.
+    const auto reader = formatter(pattern, icu::Locale("en_US_POSIX"), *icu::TimeZone::getGMT());
     reader->setLenient(false);
     const auto source = icu::UnicodeString::fromUTF8(text);
     icu::ParsePosition position;
