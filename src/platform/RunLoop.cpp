@@ -56,15 +56,21 @@ bool RunLoop::runUntil(const std::function<bool()>& done, Duration limit) {
     return true;
 }
 
-void RunLoop::advance(Duration duration) {
-    const auto target = now() + duration;
-    for (auto due = timers_.nextDue(); due && *due <= target; due = timers_.nextDue()) {
-        skipped_ += std::max(*due - now(), Duration(0));
-        runOne();
-    }
-    skipped_ += std::max(target - now(), Duration(0));
+void RunLoop::drain() {
     while (runOne()) {
     }
+}
+
+void RunLoop::advance(Duration duration) {
+    const auto target = now() + duration;
+    // What is queued runs before time moves on, so that the delays which it asks for count from then.
+    drain();
+    for (auto due = timers_.nextDue(); due && *due <= target; due = timers_.nextDue()) {
+        skipped_ += std::max(*due - now(), Duration(0));
+        drain();
+    }
+    skipped_ += std::max(target - now(), Duration(0));
+    drain();
 }
 
 } // namespace ombrivane

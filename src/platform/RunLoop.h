@@ -28,6 +28,7 @@ public:
 private:
     TimerSchedule::Time now() const;
     bool runOne();
+    void drain();
 
     std::mutex mutex_;
     std::condition_variable arrived_;
