@@ -5,18 +5,17 @@
 #include "services/CustomError.h"
 #include "session/Fonts.h"
 #include "state/AppState.h"
+#include "support/Fault.h"
 
 namespace ombrivane {
 namespace {
 
-/// Closing is always a step of the main queue of its own.
 std::function<void()> closing(Dismissal dismissal) {
     return [dismissal = std::move(dismissal)] {
         const bool frontmost = platform().system.isBelow("iOS", 15);
-        mainQueue().async([close = frontmost ? dismissal.dismissFrontmost : dismissal.dismiss, frontmost] {
-            if (close) return close();
-            if (frontmost) fatalFault("the application has no window to close the component in");
-        });
+        const auto close = frontmost ? dismissal.dismissFrontmost : dismissal.dismiss;
+        if (close) return close();
+        if (frontmost) fatalFault("the application has no window to close the component in");
     };
 }
 

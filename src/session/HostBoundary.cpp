@@ -1,5 +1,6 @@
 #include "session/HostBoundary.h"
 
+#include "platform/Platform.h"
 #include "support/Fault.h"
 
 namespace ombrivane {
@@ -29,8 +30,17 @@ bool HostBoundary::endUse() {
     return true;
 }
 
+/// A host may drop its view as soon as it is called, before the step of closing runs.
 void HostBoundary::closeIf(bool open) {
-    if (open && close_) close_();
+    if (!open) return;
+    mainQueue().async([self = shared_from_this()] {
+        if (!self->isDropped() && self->close_) self->close_();
+    });
+}
+
+bool HostBoundary::isDropped() {
+    const std::lock_guard lock(mutex_);
+    return state_ == State::dropped;
 }
 
 void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<Error> error) {

@@ -8,7 +8,8 @@
 
 namespace ombrivane {
 
-/// The only place at which the component speaks to its host and closes.
+/// The only place at which the component speaks to its host and closes. Closing is always a step of the main
+/// queue of its own; a host that dropped the view meanwhile is not asked to take it away.
 ///
 /// | a screen passes                   | the host gets | the component |
 /// |-----------------------------------|---------------|---------------|
@@ -22,6 +23,7 @@ namespace ombrivane {
 /// happened meanwhile. Any thread; no lock is held while the host is called.
 class HostBoundary : public std::enable_shared_from_this<HostBoundary> {
 public:
+    /// @param close takes the component off the screen; called on the main queue
     HostBoundary(CompletionCallback callback, std::function<void()> close) :
         callback_(std::move(callback)), close_(std::move(close)) {}
 
@@ -37,6 +39,7 @@ private:
     enum class State { open, closed, dropped };
 
     bool endUse();
+    bool isDropped();
     void closeIf(bool open);
 
     std::mutex mutex_;
