@@ -1,0 +1,115 @@
+#include "records/Decode.h"
+#include "services/FlightBookingProvider.h"
+#include "services/Outcome.h"
+#include "services/PassengerDocumentsProvider.h"
+#include "services/ServiceFixture.h"
+
+namespace ombrivane {
+namespace {
+
+using fakes::captured;
+using Booking = std::optional<FlightBooking>;
+
+class BookingTest : public ServiceFixture {
+protected:
+    static Passenger passenger(const std::string& documentType) {
+        Passenger passenger;
+        passenger.id = *Uuid::parse("6f9619ff-8b86-d011-b42d-00c04fc964ff");
+        passenger.documentType = documentType;
+        return passenger;
+    }
+};
+
+/// A record that cannot be encoded is told at once, and the answer to the bodiless request afterwards.
+TEST_F(BookingTest, WithoutAnAvailabilityItCompletesTwice) {
+    Outcome outcome;
+    std::vector<Outcome> heard;
+    FlightBookingProvider().reserve(
+        {passenger("passport")},
+        std::nullopt,
+        EmergencyContact(),
+        Completion<Booking>::twice([&](const Booking& booking, const std::optional<Error>& error) {
+            heard.push_back({.completions = 1, .result = shown(booking), .error = error});
+        }));
+    ASSERT_EQ(heard.size(), 1U);
+    EXPECT_TRUE(heard[0].error && heard[0].result.is_null());
+    ASSERT_EQ(world.network->sent().size(), 1U);
+    EXPECT_FALSE(world.network->waiting().body);
+    EXPECT_EQ(world.network->waiting().method, "POST");
+    world.answer(captured("reservation").dump());
+    ASSERT_EQ(heard.size(), 2U);
+    EXPECT_FALSE(heard[1].error);
+    EXPECT_FALSE(heard[1].result.is_null());
+}
+
+TEST_F(BookingTest, APassengerGoesOutWithoutWhatIsAbsent) {
+    Outcome outcome;
+    Passenger plain = passenger("");
+    plain.documentIssuedDateSerialNo = "";
+    FlightBookingProvider().reserve(
+        {plain}, AvailabilitySummary(), EmergencyContact(), into<Booking>(outcome));
+    const Json body = Json::parse(*world.network->last().body);
+    EXPECT_EQ(
+        body.at("passengers").dump(),
+        R"([{"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","dob":"","dob_nepali":"","document_issued_date_serial_no":"",)"
+        R"("document_type":"","first_name":"","gender":"","last_name":"","middle_name":"","email":"","nationality":"",)"
+        R"("title":"","type":""}])");
+    EXPECT_FALSE(body.at("availabilitySummary").contains("flightAvailabilityToken"));
+}
+
+/// Two points of colour, and their bytes as a file of the form.
+TEST_F(BookingTest, DocumentsTravelAsAFormByteForByte) {
+    const Image picture{2,
+                        1,
+                        std::make_shared<std::vector<std::uint8_t>>(
+                            std::vector<std::uint8_t>{255, 0, 0, 255, 0, 0, 255, 255})};
+    const std::string png = *platform().images->png(picture);
+    ASSERT_NE(png.find('\0'), std::string::npos) << "so that a text function would cut it";
+    Outcome outcome;
+    PassengerDocumentsProvider().upload(
+        {passenger("passport"), passenger("citizenship"), passenger("unused")},
+        {std::nullopt, picture, std::nullopt},
+        {{"p 1\"", "ADT", "A"}, {"", "INF", "B"}},
+        "R1",
+        into<Booking>(outcome));
+    const HttpRequest& request = world.network->waiting();
+    const std::string contentType = request.headers.front().second;
+    ASSERT_TRUE(contentType.starts_with("multipart/form-data; boundary=Boundary-"));
+    const std::string open = "--" + contentType.substr(contentType.find("Boundary-")) + "\r\n";
+    const std::string disposition = "Content-Disposition: form-data; name=";
+    EXPECT_EQ(request.body,
+              open + disposition + "\"user_type\"\r\n\r\ncustomer\r\n" +                     //
+                  open + disposition + "\"bookingReferenceID\"\r\n\r\nR1\r\n" +              //
+                  open + disposition + "\"documentType[p 1\"]\"\r\n\r\npassport\r\n" +       //
+                  open + disposition + "\"documentType[]\"\r\n\r\ncitizenship\r\n" +         //
+                  open + disposition + "\"documentImage[]\"; filename=\"imagename.png\"\r\n" //
+                  + "Content-Type: image/png\r\n\r\n" + png + "\r\n" +                       //
+                  open.substr(0, open.size() - 2) + "--");
+    EXPECT_EQ(request.wholeInterval.count(), 600) << "large pictures on a slow network";
+
+    PassengerDocumentsProvider().upload({}, {}, {}, "R1", into<Booking>(outcome));
+    EXPECT_NE(world.network->last().headers.front().second, contentType) << "each form has its own boundary";
+}
+
+TEST_F(BookingTest, DocumentsThatDoNotPairAreAFault) {
+    const Image impossible{2, 1, nullptr};
+    const struct {
+        std::size_t passengers;
+        std::vector<std::optional<Image>> documents;
+    } rows[] = {{1, {std::nullopt, std::nullopt}}, {2, {std::nullopt}}, {2, {std::nullopt, impossible}}};
+    for (const auto& row : rows) {
+        const std::vector<Passenger> passengers(row.passengers);
+        EXPECT_FALSE(guarded([&] {
+            PassengerDocumentsProvider().upload(passengers,
+                                                row.documents,
+                                                {{"1", "", ""}, {"2", "", ""}},
+                                                "R1",
+                                                [](const auto&, const auto&) {});
+        }));
+        EXPECT_EQ(world.takeFaults().size(), 1U);
+    }
+    EXPECT_TRUE(world.network->sent().empty());
+}
+
+} // namespace
+} // namespace ombrivane
