@@ -56,11 +56,13 @@ Member* findIn(const Fields& fields, const std::string& key) {
     return nullptr;
 }
 
-/// A screen shown inside of `screen`, by its name or by the key of its part.
+/// A screen shown inside of `screen`, at any depth, by its name or by the key of its part.
 std::shared_ptr<Screen> partOf(const std::shared_ptr<Screen>& screen, const std::string& name) {
-    for (const Part* part : screen->parts()) {
-        const auto inner = part->screen();
-        if (inner && (part->key() == name || inner->name() == name)) return inner;
+    for (const auto& host : Navigator::withParts(screen)) {
+        for (const Part* part : host->parts()) {
+            const auto inner = part->screen();
+            if (inner && (part->key() == name || inner->name() == name)) return inner;
+        }
     }
     return nullptr;
 }
