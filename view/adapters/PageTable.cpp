@@ -1,6 +1,7 @@
 #include "adapters/PageTable.h"
 
 #include "adapters/EntryAdapter.h"
+#include "adapters/ResultAdapters.h"
 #include "adapters/SearchAdapters.h"
 #include "support/Fault.h"
 
@@ -20,6 +21,10 @@ template <class Adapter> std::unique_ptr<ScreenAdapter> make(std::shared_ptr<Scr
     return std::make_unique<Adapter>(std::move(screen));
 }
 
+template <class List> std::unique_ptr<ScreenAdapter> makeList(std::shared_ptr<Screen> screen) {
+    return std::make_unique<OfferListAdapter>(std::static_pointer_cast<List>(std::move(screen)));
+}
+
 const std::map<std::string_view, Row>& table() {
     static const std::map<std::string_view, Row> rows{
         {"OmbrivaneView", {"EntryPage", make<EntryAdapter>}},
@@ -32,6 +37,21 @@ const std::map<std::string_view, Row>& table() {
         {"CustomRadioButtonFieldView", {nullptr, make<RadioRowAdapter>}},
         {"NationalityBottomSheetView", {"NationalityBottomSheetView", make<NationalitySheetAdapter>}},
         {"NationalityRow", {nullptr, make<NationalityRowAdapter>}},
+        {"CustomOneWayDatePickerView", {"TravelCalendarView", make<CalendarAdapter>}},
+        {"CustomRoundTripDatePickerView", {"TravelCalendarView", make<CalendarAdapter>}},
+        {"Month", {nullptr, make<MonthAdapter>}},
+        {"FlightListView", {"FlightListView", make<FlightListAdapter>}},
+        {"DomesticFlightListView", {"DomesticFlightListView", make<DomesticFlightListAdapter>}},
+        {"OneWayFlightListView", {"OfferListView", makeList<OneWayFlightListView>}},
+        {"RoundTripFlightListView", {"OfferListView", makeList<RoundTripFlightListView>}},
+        {"OneWayListItemView", {nullptr, make<OfferAdapter>}},
+        {"RoundTripListItemView", {nullptr, make<OfferAdapter>}},
+        {"OneWayHorizontalListItemView", {nullptr, make<OfferCardAdapter>}},
+        {"RoundTripHorizontalListItemView", {nullptr, make<OfferCardAdapter>}},
+        {"NoFlightRecommendationsView", {"NoFlightRecommendationsView", make<NoFlightsAdapter>}},
+        {"NoInternetConnectionView", {"NoInternetConnectionView", make<NoInternetAdapter>}},
+        {"FilterBottomSheetView", {"FilterBottomSheetView", make<FilterAdapter>}},
+        {"TimeCardView", {nullptr, make<TimeCardAdapter>}},
     };
     return rows;
 }

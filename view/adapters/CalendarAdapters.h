@@ -1,0 +1,87 @@
+#pragma once
+
+#include "adapters/ReadOnlyList.h"
+#include "adapters/RowsModel.h"
+#include "adapters/ScreenAdapter.h"
+#include "search/TravelCalendar.h"
+
+namespace ombrivane::view {
+
+/// One cell of a month. It stays while what is chosen changes, so that only its looks are drawn anew.
+class DayAdapter : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the component")
+    Q_PROPERTY(QString day READ day CONSTANT FINAL)   ///< empty for a filler
+    Q_PROPERTY(QString date READ date CONSTANT FINAL) ///< "yyyy-MM-dd"
+    Q_PROPERTY(QString label READ label CONSTANT FINAL)
+    Q_PROPERTY(bool selectable READ selectable NOTIFY changed FINAL)
+    Q_PROPERTY(bool selected READ selected NOTIFY changed FINAL)
+    Q_PROPERTY(bool inRange READ inRange NOTIFY changed FINAL)
+    Q_PROPERTY(bool joinsPrevious READ joinsPrevious NOTIFY changed FINAL)
+    Q_PROPERTY(bool joinsNext READ joinsNext NOTIFY changed FINAL)
+
+public:
+    DayAdapter(CalendarCell cell, QObject* parent) : QObject(parent), cell_(std::move(cell)) {}
+
+    QString day() const { return cell_.day < 0 ? QString() : QString::number(cell_.day); }
+    QString date() const { return QString::fromStdString(cell_.date); }
+    /// The whole date, for assistive technology.
+    QString label() const;
+    bool selectable() const { return cell_.selectable; }
+    bool selected() const { return cell_.selected; }
+    bool inRange() const { return cell_.inRange; }
+    /// Whether the range reaches this chosen day from the day before, or goes on to the day after.
+    bool joinsPrevious() const { return joinsPrevious_; }
+    bool joinsNext() const { return joinsNext_; }
+
+    const CalendarCell& cell() const { return cell_; }
+    void update(const CalendarCell& cell, bool joinsPrevious, bool joinsNext);
+
+    Q_SIGNAL void changed();
+
+private:
+    CalendarCell cell_;
+    bool joinsPrevious_ = false;
+    bool joinsNext_ = false;
+};
+
+class MonthAdapter : public ombrivane::view::ScreenAdapter {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the component")
+    Q_PROPERTY(QQmlListProperty<ombrivane::view::DayAdapter> days READ days CONSTANT FINAL)
+    OMBRIVANE_TEXT(title, core().title)
+
+public:
+    explicit MonthAdapter(std::shared_ptr<Screen> screen);
+
+    TravelCalendar::Month& core() const { return static_cast<TravelCalendar::Month&>(*screen()); }
+    QQmlListProperty<DayAdapter> days() { return readOnlyList(this, days_); }
+
+private:
+    void update();
+
+    QList<DayAdapter*> days_; ///< children of this
+    Subscription watch_;
+};
+
+class CalendarAdapter : public ombrivane::view::ScreenAdapter {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the component")
+    OMBRIVANE_SCREEN(CalendarAdapter, TravelCalendar)
+    OMBRIVANE_TEXT(title, core().title)
+    OMBRIVANE_TEXT(chosenText, core().chosenText)
+    OMBRIVANE_FIELD(int, scrollToIndex, core().scrollToIndex)
+    OMBRIVANE_INPUT(tapDay, core().tapDay)
+    OMBRIVANE_INTENT(done, core().done)
+    OMBRIVANE_INTENT(close, core().close)
+    OMBRIVANE_ROWS(months, core().months)
+
+public:
+    /// The fixed name of a day of the week; 0 is Sunday.
+    Q_INVOKABLE QString dayName(int weekday) const;
+};
+
+} // namespace ombrivane::view

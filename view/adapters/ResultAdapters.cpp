@@ -1,0 +1,26 @@
+#include "adapters/ResultAdapters.h"
+
+#include "adapters/PageTable.h"
+#include "support/Link.h"
+
+namespace ombrivane::view {
+
+ResultsAdapter::ResultsAdapter(std::shared_ptr<Screen> results, ResultsModel& model) :
+    ScreenAdapter(std::move(results)),
+    model_(model),
+    contentScreen_(unkeyed_, "content", [this] { return core().parts().front()->screen(); }) {
+    followContent();
+    contentWatch_ = contentScreen_.observe([this] { followContent(); });
+}
+
+QUrl ResultsAdapter::contentPage() const { return pageOf(*contentAdapter_->screen()); }
+
+void ResultsAdapter::followContent() {
+    // The page of the former content may still be at work: its adapter leaves with the next turn of the loop.
+    contentAdapter_ = {makeAdapter(contentScreen_.get()).release(),
+                       [](ScreenAdapter* adapter) { adapter->deleteLater(); }};
+    QQmlEngine::setObjectOwnership(contentAdapter_.get(), QQmlEngine::CppOwnership);
+    emit contentChanged();
+}
+
+} // namespace ombrivane::view

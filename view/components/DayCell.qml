@@ -1,0 +1,54 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// One day of a month: chosen days are filled and bold, the days between them lie on a band.
+T.AbstractButton {
+    id: cell
+
+    required property DayAdapter modelData
+
+    objectName: modelData.date
+    visible: modelData.day !== ""
+    enabled: modelData.selectable
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.Button
+    Accessible.name: modelData.label
+    Accessible.checkable: true
+    Accessible.checked: modelData.selected
+
+    background: Item {
+        Rectangle {
+            readonly property real left: cell.modelData.inRange || cell.modelData.joinsPrevious ? 0 : parent.width / 2
+            readonly property real right: cell.modelData.inRange || cell.modelData.joinsNext ? parent.width : parent.width / 2
+            x: left
+            width: right - left
+            height: disc.height
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.calenderRangeColor
+        }
+        Rectangle {
+            id: disc
+            anchors.centerIn: parent
+            width: Math.min(parent.width, height)
+            height: parent.height - 4
+            radius: height / 2
+            color: cell.modelData.selected ? Theme.primaryColor : cell.down ? Theme.segmentColor : "transparent"
+            border.width: cell.visualFocus ? 2 : 0
+            border.color: cell.modelData.selected ? Theme.blackColor : Theme.secondaryColor
+        }
+    }
+    contentItem: PlainText {
+        text: cell.modelData.day
+        color: cell.modelData.selected ? Theme.primaryTextColor
+             : cell.modelData.selectable ? Theme.blackColor : Theme.formBorderColor
+        font.weight: cell.modelData.selected ? Font.DemiBold : Font.Normal
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        lineHeight: 1
+        wrapMode: Text.NoWrap
+        Accessible.ignored: true
+    }
+    Keys.onReturnPressed: cell.clicked()
+    Keys.onEnterPressed: cell.clicked()
+}

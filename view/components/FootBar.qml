@@ -1,0 +1,69 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The bar at the foot of a page: what was chosen so far, and the action that goes on with it.
+Rectangle {
+    id: bar
+
+    property string iconName: ""
+    property string label: ""
+    property string value: ""
+    property bool emphasised: false
+    required property string action
+    property string actionIcon: ""
+    readonly property bool narrow: width < 340 * Theme.textScale
+    signal clicked
+
+    implicitHeight: grid.implicitHeight + 2 * Theme.gap
+    color: Theme.whiteColor
+
+    TapHandler {}
+    Rectangle { width: parent.width; height: 1; color: Theme.hairlineColor }
+    GridLayout {
+        id: grid
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        columns: bar.narrow ? 1 : 2
+        columnSpacing: Theme.gap
+        rowSpacing: 8
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: 10
+            Icon {
+                visible: bar.iconName !== ""
+                implicitWidth: 24
+                implicitHeight: 24
+                name: bar.iconName
+                color: Theme.secondaryColor
+            }
+            Column {
+                Layout.fillWidth: true
+                PlainText {
+                    width: parent.width
+                    visible: bar.label !== ""
+                    text: bar.label
+                    color: Theme.placeHolderColor
+                    font.pixelSize: Theme.captionSize
+                }
+                PlainText {
+                    objectName: "chosen"
+                    width: parent.width
+                    text: bar.value
+                    lineHeight: 1.2
+                    color: bar.emphasised ? Theme.primaryColor : Theme.blackColor
+                    font.pixelSize: bar.emphasised ? Theme.priceSize : Theme.bodySize
+                    font.weight: bar.emphasised ? Font.DemiBold : Font.Medium
+                }
+            }
+        }
+        MainButton {
+            objectName: "go"
+            Layout.fillWidth: bar.narrow
+            Layout.minimumWidth: 120
+            text: bar.action
+            iconName: bar.actionIcon
+            onClicked: bar.clicked()
+        }
+    }
+}

@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Ombrivane
+
+// One offer: a tap chooses it and unfolds its segments, another takes both back.
+T.AbstractButton {
+    id: card
+
+    required property OfferAdapter row
+
+    objectName: "offer"
+    implicitHeight: column.implicitHeight + 2 * Theme.margin
+    enabled: !row.isPlaceholder
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: row.label
+    Accessible.description: row.detailsText
+    Accessible.checkable: true
+    Accessible.checked: row.isChosen
+    onClicked: row.tap()
+    Keys.onReturnPressed: card.clicked()
+    Keys.onEnterPressed: card.clicked()
+
+    background: Rectangle {
+        radius: Theme.cardRadius
+        color: Theme.whiteColor
+        border.width: card.row.isChosen ? 2 : 1
+        border.color: card.row.isChosen ? Theme.primaryColor : Theme.hairlineColor
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -3
+            visible: card.visualFocus
+            radius: Theme.cardRadius + 3
+            color: "transparent"
+            border.width: 2
+            border.color: Theme.secondaryColor
+        }
+    }
+    contentItem: Shimmer {
+        running: card.row.isPlaceholder
+        ColumnLayout {
+            id: column
+            x: Theme.margin
+            y: Theme.margin
+            width: parent.width - 2 * Theme.margin
+            spacing: Theme.margin
+            Repeater {
+                id: journeys
+                model: card.row.journeys
+                OfferJourney {
+                    required property JourneyAdapter modelData
+                    required property int index
+                    Layout.fillWidth: true
+                    journey: modelData
+                    awaited: card.row.isPlaceholder
+                    unfolded: card.row.isUnfolded
+                    price: index === 0 ? card.row.price : ""
+                    detailsText: index === journeys.count - 1 ? card.row.detailsText : ""
+                }
+            }
+            Repeater {
+                model: card.row.journeys
+                OfferSegments {
+                    visible: card.row.isUnfolded
+                    Layout.fillWidth: true
+                }
+            }
+        }
+    }
+    Rectangle {
+        visible: card.row.isChosen
+        anchors { horizontalCenter: parent.right; horizontalCenterOffset: -18; verticalCenter: parent.top }
+        width: 24
+        height: 24
+        radius: 12
+        color: Theme.primaryColor
+        Icon { anchors.centerIn: parent; width: 16; height: 16; name: "checkIcon"; color: Theme.primaryTextColor }
+    }
+}

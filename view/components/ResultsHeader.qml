@@ -1,0 +1,118 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// Over a result list: the route, which goes away as the list is scrolled, and the dates, which stay.
+Rectangle {
+    id: header
+
+    required property ResultsAdapter screen
+    default property alias tabs: column.data
+    readonly property real fullHeight: route.height + dates.height
+    readonly property real collapsedHeight: dates.height
+    property real collapse: screen.showActionBar ? 0 : 1
+
+    height: fullHeight - collapse * route.height
+    color: Theme.canvasColor
+    clip: true
+
+    Behavior on collapse { NumberAnimation { duration: Theme.stateDuration; easing.type: Easing.OutCubic } }
+
+    TapHandler {}
+    Item {
+        id: route
+        y: -header.collapse * height
+        width: parent.width
+        height: Math.max(64, texts.implicitHeight + 16)
+        enabled: header.collapse === 0
+        opacity: 1 - header.collapse
+        IconButton {
+            id: back
+            objectName: "back"
+            x: 4
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "arrowLeftIcon"
+            label: qsTr("Back")
+            onClicked: header.screen.back()
+        }
+        Column {
+            id: texts
+            anchors { left: back.right; leftMargin: 4; right: edit.left; rightMargin: 4; verticalCenter: parent.verticalCenter }
+            Flow {
+                width: parent.width
+                spacing: 8
+                PlainText { text: header.screen.departCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; lineHeight: 1.2 }
+                Icon { width: 20; height: 20 * Math.max(1, Theme.textScale); name: header.screen.routeImage; color: Theme.secondaryColor }
+                PlainText { text: header.screen.destCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; lineHeight: 1.2 }
+            }
+            PlainText {
+                width: parent.width
+                text: header.screen.headerSubtitle
+                color: Theme.placeHolderColor
+                font.pixelSize: Theme.captionSize
+                lineHeight: 1.2
+            }
+        }
+        Icon { anchors.fill: edit; name: "editIconHolder"; color: Theme.blackColor }
+        IconButton {
+            id: edit
+            objectName: "edit"
+            anchors { right: parent.right; rightMargin: Theme.gap; verticalCenter: parent.verticalCenter }
+            iconName: "editIcon"
+            label: qsTr("Edit the search")
+            onClicked: header.screen.edit()
+        }
+    }
+    Item {
+        id: dates
+        anchors.top: route.bottom
+        width: parent.width
+        height: column.implicitHeight + 12
+        ColumnLayout {
+            id: column
+            y: 4
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+            spacing: 8
+            GridLayout {
+                Layout.fillWidth: true
+                columns: header.width < 380 * Theme.textScale ? 1 : 2
+                columnSpacing: 8
+                rowSpacing: 8
+                DateStepper {
+                    objectName: "departure"
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    iconName: "departureBlackIcon"
+                    value: header.screen.departDateText
+                    previousLabel: qsTr("Depart a day earlier")
+                    nextLabel: qsTr("Depart a day later")
+                    onPrevious: header.screen.previousDeparture()
+                    onNext: header.screen.nextDeparture()
+                }
+                DateStepper {
+                    objectName: "return"
+                    visible: header.screen.showsReturnDate
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    iconName: "returnBlackIcon"
+                    value: header.screen.returnDateText
+                    previousLabel: qsTr("Return a day earlier")
+                    nextLabel: qsTr("Return a day later")
+                    onPrevious: header.screen.previousReturn()
+                    onNext: header.screen.nextReturn()
+                }
+                PillButton {
+                    objectName: "addReturnDate"
+                    visible: !header.screen.showsReturnDate
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    iconName: "addIcon"
+                    text: header.screen.addReturnDateText
+                    onClicked: header.screen.addReturnDate()
+                }
+            }
+        }
+    }
+    Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: Theme.hairlineColor; opacity: header.collapse }
+}

@@ -1,0 +1,94 @@
+import QtQuick
+import Ombrivane
+
+// What both result lists share: header, the part that changes, the floating controls, the total and the message.
+FocusScope {
+    id: page
+
+    required property ResultsAdapter results
+    default property alias tabs: header.tabs
+    readonly property real footShown: foot.arrival * foot.height
+
+    function showContent() { content.setSource(results.contentPage, {"screen": results.content}) }
+
+    Component.onCompleted: showContent()
+
+    Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    Loader {
+        id: content
+        readonly property ResultsContent shown: item as ResultsContent
+        anchors.fill: parent
+        focus: true
+    }
+    Connections {
+        target: page.results
+        function onContentChanged() { page.showContent() }
+    }
+    Connections {
+        target: content.shown
+        function onScrolled(points) { page.results.scrolled(points) }
+    }
+    Binding { target: content.shown; when: content.shown !== null; property: "topInset"; value: header.fullHeight }
+    Binding { target: content.shown; when: content.shown !== null; property: "collapsedInset"; value: header.collapsedHeight }
+    Binding {
+        target: content.shown
+        when: content.shown !== null
+        property: "bottomInset"
+        value: page.footShown + (page.results.showsFloatingBar ? 56 + Theme.gap : 0)
+    }
+    ResultsHeader {
+        id: header
+        width: parent.width
+        screen: page.results
+    }
+    Column {
+        anchors {
+            right: parent.right
+            rightMargin: Math.max(Theme.margin, (page.width - Theme.contentWidth) / 2)
+            bottom: parent.bottom
+            bottomMargin: page.footShown + Theme.gap
+        }
+        spacing: 8
+        FloatingButton {
+            objectName: "scrollUp"
+            visible: page.results.showsScrollUp
+            iconName: "scrollupIcon"
+            label: qsTr("Back to the top")
+            onClicked: page.results.scrollUp()
+        }
+        FloatingButton {
+            objectName: "filter"
+            visible: page.results.showsFloatingBar
+            iconName: "filterIcon"
+            label: page.results.filterIsOn ? qsTr("Filter, on") : qsTr("Filter")
+            marked: page.results.filterIsOn
+            onClicked: page.results.openFilter()
+        }
+    }
+    FootBar {
+        id: foot
+        objectName: "total"
+        property real arrival: page.results.showContinueButton ? 1 : 0
+        y: parent.height - page.footShown
+        width: parent.width
+        visible: arrival > 0
+        label: page.results.totalLabel
+        value: page.results.total
+        emphasised: true
+        action: page.results.continueText
+        actionIcon: "toIcon"
+        onClicked: page.results.goOn()
+        Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
+    }
+    SnackBar {
+        anchors {
+            bottom: parent.bottom
+            bottomMargin: page.footShown + Theme.gap
+            horizontalCenter: parent.horizontalCenter
+        }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        message: page.results.errorMessage
+        shown: page.results.showSnackBar
+    }
+    Keys.onEscapePressed: page.results.back()
+}

@@ -1,0 +1,43 @@
+import QtQuick
+import Ombrivane
+
+// What is not there yet: the content pales, and a band of light sweeps over it from before its leading edge to beyond
+// its trailing one.
+Item {
+    id: shimmer
+
+    property bool running: true
+    default property alias content: holder.data
+
+    implicitHeight: holder.childrenRect.height
+    clip: running
+
+    Item {
+        id: holder
+        width: parent.width
+        height: parent.height
+        opacity: shimmer.running ? 0.6 : 1
+    }
+    Rectangle {
+        id: band
+        visible: shimmer.running && !Theme.reducedMotion
+        x: -width
+        width: shimmer.width
+        height: shimmer.height
+        opacity: Theme.dark ? 0.12 : 0.7
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop { position: 0; color: "#00FFFFFF" }
+            GradientStop { position: 0.3; color: "#FFFFFFFF" }
+            GradientStop { position: 0.7; color: "#FFFFFFFF" }
+            GradientStop { position: 1; color: "#00FFFFFF" }
+        }
+        NumberAnimation on x {
+            running: band.visible
+            from: -shimmer.width
+            to: shimmer.width
+            duration: 2000
+            loops: Animation.Infinite
+        }
+    }
+}

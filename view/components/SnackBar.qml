@@ -1,0 +1,46 @@
+import QtQuick
+import Ombrivane
+
+// A message that comes from the lower edge and goes by itself.
+Item {
+    id: bar
+
+    required property string message
+    required property bool shown
+    property real arrival: shown ? 1 : 0
+
+    objectName: "snackBar"
+    implicitHeight: panel.height
+    visible: arrival > 0
+    opacity: arrival
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: message
+    Accessible.ignored: !shown
+
+    Behavior on arrival { NumberAnimation { duration: Theme.reducedMotion ? 0 : 250; easing.type: Easing.OutCubic } }
+
+    Rectangle {
+        id: panel
+        y: Theme.reducedMotion ? 0 : (1 - bar.arrival) * (height + Theme.margin)
+        width: parent.width
+        height: Math.max(Theme.fieldHeight, text.implicitHeight + 24)
+        radius: Theme.fieldRadius
+        color: Theme.blackColor
+        Icon {
+            id: icon
+            x: 14
+            width: 24
+            height: 24
+            anchors.verticalCenter: parent.verticalCenter
+            name: "xmark.circle"
+            color: Theme.whiteColor
+        }
+        PlainText {
+            id: text
+            anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
+            text: bar.message
+            color: Theme.whiteColor
+            Accessible.ignored: true
+        }
+    }
+}

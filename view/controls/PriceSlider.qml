@@ -1,0 +1,44 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// A ceiling between two bounds.
+T.Slider {
+    id: slider
+
+    required property string label
+    required property string valueText
+
+    implicitHeight: Theme.target
+    leftPadding: 0
+    rightPadding: 0
+    stepSize: Math.max(1, (to - from) / 100)
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.Slider
+    Accessible.name: label
+    Accessible.description: valueText
+
+    background: Rectangle {
+        y: (slider.height - height) / 2
+        width: slider.width
+        height: 6
+        radius: 3
+        color: Theme.hairlineColor
+        Rectangle {
+            width: slider.visualPosition * (parent.width - 28) + 14
+            height: parent.height
+            radius: 3
+            color: Theme.secondaryColor
+        }
+    }
+    handle: Rectangle {
+        x: slider.visualPosition * (slider.width - width)
+        y: (slider.height - height) / 2
+        width: 28
+        height: 28
+        radius: 14
+        color: Theme.whiteColor
+        border.width: slider.visualFocus ? 4 : 2
+        border.color: Theme.secondaryColor
+    }
+}

@@ -1,0 +1,93 @@
+import QtQuick
+import Ombrivane
+
+// The offers of one direction, with the strip of airlines above them.
+ResultsContent {
+    id: page
+
+    required property OfferListAdapter screen
+
+    readonly property real contentMargin: Math.max(Theme.margin, (width - Theme.contentWidth) / 2)
+
+    function showTop() {
+        scroll.stop()
+        scroll.from = list.contentY
+        scroll.to = list.originY - list.topMargin
+        scroll.duration = Theme.pageDuration
+        scroll.start()
+    }
+    function showOffer(position: int) {
+        const here = list.contentY
+        list.positionViewAtIndex(position, ListView.Beginning)
+        const there = Math.max(list.originY - list.topMargin, list.contentY - page.collapsedInset - Theme.gap)
+        list.contentY = here
+        scroll.stop()
+        scroll.from = here
+        scroll.to = there
+        scroll.duration = Theme.reducedMotion ? 0 : 2000
+        scroll.start()
+    }
+
+    ListView {
+        id: list
+        objectName: "offers"
+        anchors.fill: parent
+        topMargin: page.topInset
+        bottomMargin: page.bottomInset + Theme.gap
+        spacing: Theme.gap
+        model: page.screen.rows
+        header: Column {
+            width: ListView.view.width
+            topPadding: 4
+            bottomPadding: Theme.gap
+            spacing: 8
+            PlainText {
+                objectName: "title"
+                x: page.contentMargin
+                width: parent.width - 2 * x
+                text: page.screen.title
+                font.pixelSize: Theme.sectionSize
+                font.weight: Font.Medium
+                Accessible.role: Accessible.Heading
+            }
+            ListView {
+                objectName: "strip"
+                visible: page.screen.strip.count > 0
+                width: parent.width
+                height: Math.max(Theme.target, 36 * Theme.textScale + 28)
+                leftMargin: page.contentMargin
+                rightMargin: page.contentMargin
+                orientation: ListView.Horizontal
+                spacing: 8
+                model: page.screen.strip
+                delegate: StripCard { height: ListView.view.height; awaited: page.screen.isLoading }
+            }
+        }
+        delegate: Item {
+            id: place
+            required property OfferAdapter row
+            width: ListView.view.width
+            height: card.implicitHeight
+            OfferCard {
+                id: card
+                x: page.contentMargin
+                width: parent.width - 2 * x
+                height: implicitHeight
+                row: place.row
+            }
+        }
+        onContentYChanged: page.scrolled(contentY - originY + topMargin)
+        Component.onCompleted: positionViewAtBeginning()
+    }
+    NumberAnimation {
+        id: scroll
+        target: list
+        property: "contentY"
+        onFinished: if (page.screen.scrollToTop) page.screen.arrivedAtTop()
+    }
+    Connections {
+        target: page.screen
+        function onScrollToTopChanged() { if (page.screen.scrollToTop) page.showTop() }
+        function onScrollToIdChanged() { page.showOffer(page.screen.rows.positionOf(page.screen.scrollToId)) }
+    }
+}
