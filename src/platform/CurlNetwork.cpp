@@ -45,15 +45,24 @@ public:
     }
 
 private:
-    bool takeArrived() {
+    using Transfers = std::vector<std::unique_ptr<CurlTransfer>>;
+
+    Transfers takeArrived() {
         const std::lock_guard lock(mutex_);
-        for (auto& transfer : arrived_) {
+        return std::exchange(arrived_, {});
+    }
+
+    bool isStopping() {
+        const std::lock_guard lock(mutex_);
+        return stopping_;
+    }
+
+    void startArrived() {
+        for (auto& transfer : takeArrived()) {
             CURL* handle = transfer->handle();
             curl_multi_add_handle(multi_.get(), handle);
             running_.emplace(handle, std::move(transfer));
         }
-        arrived_.clear();
-        return !stopping_;
     }
 
     void finishDone() {
@@ -68,7 +77,8 @@ private:
     }
 
     void run() {
-        while (takeArrived()) {
+        while (!isStopping()) {
+            startArrived();
             int active = 0;
             curl_multi_perform(multi_.get(), &active);
             finishDone();
@@ -79,15 +89,16 @@ private:
             transfer->abandon();
         }
         running_.clear();
-        // A completion may have asked for more; nothing is left without an answer.
-        for (auto& transfer : std::exchange(arrived_, {}))
-            transfer->abandon();
+        // A completion may ask for more, and so may the answer to that; nothing is left without one.
+        for (auto left = takeArrived(); !left.empty(); left = takeArrived())
+            for (auto& transfer : left)
+                transfer->abandon();
     }
 
     CurlSettings settings_;
     std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
     std::mutex mutex_;
-    std::vector<std::unique_ptr<CurlTransfer>> arrived_;
+    Transfers arrived_;
     std::map<CURL*, std::unique_ptr<CurlTransfer>> running_;
     bool stopping_ = false;
     std::thread thread_;

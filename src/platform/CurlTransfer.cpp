@@ -39,8 +39,9 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::
     set(curl, CURLOPT_NOSIGNAL, 1L);
     set(curl, CURLOPT_ACCEPT_ENCODING, "");
     set(curl, CURLOPT_CONNECTTIMEOUT, static_cast<long>(request_.timeoutInterval.count()));
-    set(curl, CURLOPT_LOW_SPEED_LIMIT, 1L);
-    set(curl, CURLOPT_LOW_SPEED_TIME, static_cast<long>(request_.timeoutInterval.count()));
+    set(curl, CURLOPT_NOPROGRESS, 0L);
+    set(curl, CURLOPT_XFERINFOFUNCTION, &CurlTransfer::watch);
+    set(curl, CURLOPT_XFERINFODATA, this);
     set(curl, CURLOPT_TIMEOUT, static_cast<long>(request_.wholeInterval.count()));
     set(curl, CURLOPT_WRITEFUNCTION, &CurlTransfer::receive);
     set(curl, CURLOPT_WRITEDATA, this);
@@ -76,12 +77,29 @@ std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t cou
     return length;
 }
 
+int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    long head = 0;
+    long request = 0;
+    curl_easy_getinfo(transfer.handle(), CURLINFO_HEADER_SIZE, &head);
+    curl_easy_getinfo(transfer.handle(), CURLINFO_REQUEST_SIZE, &request);
+    const curl_off_t moved = received + sent + head + request;
+    const auto now = std::chrono::steady_clock::now();
+    if (moved != transfer.moved_) {
+        transfer.moved_ = moved;
+        transfer.lastMove_ = now;
+    }
+    transfer.silent_ = now - transfer.lastMove_ >= transfer.request_.timeoutInterval;
+    return transfer.silent_ ? 1 : 0;
+}
+
 void CurlTransfer::fail(int code, const std::string& text) {
     guarded([&] { completion_({std::nullopt, Error{domain, code, text}}); });
 }
 
 void CurlTransfer::complete(CURLcode result) {
     if (tooLarge_) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText);
+    if (silent_) result = CURLE_OPERATION_TIMEDOUT;
     if (result != CURLE_OK) return fail(result, curl_easy_strerror(result));
     guarded([&] { completion_({std::move(received_), std::nullopt}); });
 }

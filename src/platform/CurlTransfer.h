@@ -4,6 +4,7 @@
 
 #include <curl/curl.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -37,6 +38,10 @@ private:
     };
 
     static std::size_t receive(char* bytes, std::size_t size, std::size_t count, void* self);
+    /// Ends a transfer that has been silent for too long. libcurl's own limit of speed is an average over
+    /// some seconds: it takes an early burst for a sign of life and a very slow answer for silence.
+    static int watch(void* self, curl_off_t toReceive, curl_off_t received, curl_off_t toSend,
+                     curl_off_t sent);
     void fail(int code, const std::string& text);
 
     HttpRequest request_;
@@ -46,6 +51,9 @@ private:
     std::unique_ptr<curl_slist, Free> headers_;
     std::string received_;
     bool tooLarge_ = false;
+    bool silent_ = false;
+    curl_off_t moved_ = -1;
+    std::chrono::steady_clock::time_point lastMove_;
 };
 
 } // namespace ombrivane

@@ -1,0 +1,105 @@
+#include "fakes/World.h"
+#include "network/Line.h"
+#include "services/AuthenticationProvider.h"
+#include "services/ServiceHosts.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+
+namespace ombrivane::network {
+namespace {
+
+constexpr const char* secret = "secret-of-the-wallet";
+
+struct Outcome {
+    std::optional<Authentication> result;
+    std::optional<Error> error;
+};
+
+/// The token request of the component over the real network.
+class FrameOnTheLineTest : public testing::TestWithParam<std::pair<const char*, const char*>> {
+protected:
+    FrameOnTheLineTest() : server_(withOneClient()) {
+        server_.start();
+        ServiceHosts::use({server_.address(), server_.address()});
+        Platform ports = platform();
+        ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = server_.caFile()});
+        Platform::install(std::move(ports));
+    }
+
+    /// Completing more than once is a fault that the world reports.
+    static Outcome authenticate(const std::string& password = secret) {
+        const auto promise = std::make_shared<std::promise<Outcome>>();
+        auto outcome = promise->get_future();
+        AuthenticationProvider().authenticate(
+            "wallet", password, std::nullopt, [promise](auto result, auto error) {
+                promise->set_value({std::move(result), std::move(error)});
+            });
+        if (outcome.wait_for(std::chrono::seconds(30)) != std::future_status::ready) return {{}, noAnswer};
+        return outcome.get();
+    }
+
+    static void expectNothingGivenAway(const Error& error, const std::string& token) {
+        for (const auto& text : {error.domain, error.localizedDescription, error.developerDescription}) {
+            EXPECT_EQ(text.find(secret), std::string::npos) << text;
+            EXPECT_EQ(text.find(token.substr(0, 12)), std::string::npos) << text;
+        }
+        EXPECT_FALSE(error.localizedDescription.empty());
+    }
+
+    sandbox::Sandbox& server() { return server_; }
+
+private:
+    static sandbox::Options withOneClient() {
+        sandbox::Options options;
+        options.clients = {{"wallet", secret}};
+        return options;
+    }
+
+    fakes::World world_;
+    sandbox::Sandbox server_;
+};
+
+TEST_P(FrameOnTheLineTest, ABrokenAnswerIsOneErrorThatTellsNoSecret) {
+    const Outcome good = authenticate();
+    ASSERT_TRUE(good.result) << good.error->localizedDescription;
+    // From here on the server gives the same token again.
+    server().reset();
+    server().setFaults({std::string("/get-token ") + GetParam().first});
+
+    const Outcome outcome = authenticate();
+    EXPECT_FALSE(outcome.result);
+    ASSERT_TRUE(outcome.error);
+    EXPECT_EQ(outcome.error->domain, GetParam().second) << outcome.error->localizedDescription;
+    expectNothingGivenAway(*outcome.error, good.result->accessToken);
+    EXPECT_EQ(server().requests().size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, FrameOnTheLineTest,
+    testing::Values(
+        std::pair{"malformed", "Decoding"}, std::pair{"truncate=60", "Decoding"},
+        std::pair{"empty", "Decoding"}, std::pair{"scalar", "Decoding"}, std::pair{"nul", "Decoding"},
+        std::pair{"invalid-utf8", "Decoding"}, std::pair{"extra=1", "Decoding"},
+        std::pair{"extra=5000", "Decoding"}, std::pair{"deep=500", "Decoding"},
+        std::pair{"deep=100000", "Decoding"}, std::pair{"deep=2000000", "Decoding"},
+        std::pair{"huge=1000000", "Decoding"}, std::pair{"wrong-type=data.accessToken", "Decoding"},
+        std::pair{"wrong-type=data.tokenType", "Decoding"}, std::pair{"wrong-type=data", "Decoding"},
+        std::pair{"wrong-type=success", "Decoding"}, std::pair{"missing-key=data.accessToken", "Decoding"},
+        std::pair{"missing-key=data", "Decoding"}, std::pair{"missing-key=success", "Decoding"},
+        std::pair{"redirect=/api/b2b/v2/get-token", "Decoding"}, std::pair{"short", "Network"},
+        std::pair{"drop", "Network"}, std::pair{"reset", "Network"}, std::pair{"half-status-line", "Network"},
+        std::pair{"endless", "Network"}, std::pair{"gzip-bomb=100000000", "Network"},
+        std::pair{"refuse=Not today.", "Ombrivane.Authentication"}));
+
+TEST_F(FrameOnTheLineTest, TheStatusIsNotReadAndARefusalIsTheServicesOwn) {
+    server().setFaults({"/get-token status=500 times=1"});
+    EXPECT_TRUE(authenticate().result);
+    const std::string wrong = std::string(secret) + "!";
+    const Error error = authenticate(wrong).error.value_or(noAnswer);
+    EXPECT_EQ(error, (Error{"Ombrivane.Authentication", 0, "Invalid credentials."}));
+}
+
+} // namespace
+} // namespace ombrivane::network
