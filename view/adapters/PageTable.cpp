@@ -1,5 +1,6 @@
 #include "adapters/PageTable.h"
 
+#include "adapters/BookingAdapters.h"
 #include "adapters/EntryAdapter.h"
 #include "adapters/ResultAdapters.h"
 #include "adapters/SearchAdapters.h"
@@ -52,6 +53,18 @@ const std::map<std::string_view, Row>& table() {
         {"NoInternetConnectionView", {"NoInternetConnectionView", make<NoInternetAdapter>}},
         {"FilterBottomSheetView", {"FilterBottomSheetView", make<FilterAdapter>}},
         {"TimeCardView", {nullptr, make<TimeCardAdapter>}},
+        {"RulesAndRegulationView", {"RulesAndRegulationView", make<RulesAdapter>}},
+        {"OWBookingDetailsView", {"BookingSessionView", make<SessionAdapter>}},
+        {"RTBookingDetailsView", {"BookingSessionView", make<SessionAdapter>}},
+        {"PassengerLine", {nullptr, make<ContactLineAdapter>}},
+        {"OWFlightDetailsView", {"FlightDetailsView", make<FlightDetailsAdapter>}},
+        {"RTFlightDetailsView", {"FlightDetailsView", make<FlightDetailsAdapter>}},
+        {"TravellerInformationView", {"TravellerInformationView", make<TravellerAdapter>}},
+        {"DocumentTypeTile", {nullptr, make<DocumentTypeAdapter>}},
+        {"EmergencyContactInformationView", {"EmergencyContactInformationView", make<EmergencyAdapter>}},
+        {"OWBookingConfirmationView", {"BookingConfirmationView", make<ConfirmationAdapter>}},
+        {"RTBookingConfirmationView", {"BookingConfirmationView", make<ConfirmationAdapter>}},
+        {"PhotoPicker", {"PhotoPicker", make<PhotoPickerAdapter>}},
     };
     return rows;
 }

@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// One of a few choices that exclude each other.
+T.AbstractButton {
+    id: button
+
+    property bool marked: false
+
+    implicitHeight: Math.max(Theme.target, label.implicitHeight + 16)
+    implicitWidth: label.implicitWidth + 60
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checked: marked
+    Keys.onReturnPressed: button.clicked()
+
+    background: Rectangle {
+        radius: Theme.fieldRadius
+        color: Theme.formBackgroundColor
+        border.width: button.visualFocus || button.marked ? 2 : 1
+        border.color: button.marked || button.visualFocus ? Theme.secondaryColor : Theme.formBorderColor
+    }
+    contentItem: Item {
+        Icon {
+            id: mark
+            x: 12
+            width: 22
+            height: 22
+            anchors.verticalCenter: parent.verticalCenter
+            name: button.marked ? "largecircle.fill.circle" : "circle"
+            color: button.marked ? Theme.secondaryColor : Theme.formBorderColor
+        }
+        PlainText {
+            id: label
+            anchors { left: mark.right; leftMargin: 10; verticalCenter: parent.verticalCenter }
+            text: button.text
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,68 @@
+import QtQuick
+import QtQuick.Templates as T
+import Ombrivane
+
+// A field that the customer types into: its placeholder rises to a label once it has a value, and a marked one also
+// shows an icon and says that it is missing.
+T.TextField {
+    id: field
+
+    required property string iconName
+    required property string placeholder
+    required property string value
+    property string hint: ""
+    property string mark: "formBorderColor"
+    readonly property bool missing: mark === "primaryColor"
+    readonly property bool inOrder: mark === "secondaryColor"
+    readonly property bool raised: length > 0 || preeditText !== ""
+
+    text: value
+    implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 30)
+    leftPadding: 48
+    rightPadding: 44
+    topPadding: raised ? 18 * Theme.textScale : 0
+    verticalAlignment: TextInput.AlignVCenter
+    color: Theme.blackColor
+    selectionColor: Theme.secondaryColor
+    selectedTextColor: Theme.secondaryTextColor
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.bodySize
+    selectByMouse: true
+    Accessible.role: Accessible.EditableText
+    Accessible.name: missing ? qsTr("%1, missing").arg(placeholder) : placeholder
+    Accessible.description: hint
+
+    background: Rectangle {
+        radius: Theme.fieldRadius
+        color: Theme.formBackgroundColor
+        border.width: field.activeFocus || field.missing ? 2 : 1
+        border.color: field.missing ? Theme.primaryColor
+                    : field.activeFocus || field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
+        Icon {
+            x: 14
+            width: 22
+            height: 22
+            anchors.verticalCenter: parent.verticalCenter
+            name: field.iconName
+            color: Theme.placeHolderColor
+        }
+        PlainText {
+            x: 48
+            y: field.raised ? 6 : (parent.height - height) / 2
+            width: parent.width - 92
+            text: field.hint !== "" && !field.raised ? qsTr("%1 (%2)").arg(field.placeholder).arg(field.hint) : field.placeholder
+            color: Theme.placeHolderColor
+            font.pixelSize: field.raised ? Theme.smallSize : Theme.bodySize
+            lineHeight: 1.1
+            Accessible.ignored: true
+        }
+        Icon {
+            anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
+            visible: field.missing || field.inOrder
+            width: 22
+            height: 22
+            name: field.missing ? "warningIcon" : "doneIcon"
+            color: field.missing ? Theme.primaryColor : Theme.secondaryColor
+        }
+    }
+}

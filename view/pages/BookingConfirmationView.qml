@@ -1,0 +1,75 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The ticket of a paid booking.
+Item {
+    id: page
+
+    required property ConfirmationAdapter screen
+
+    Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    PageHeader {
+        id: header
+        width: parent.width
+        title: page.screen.title
+        onLeave: page.screen.back()
+    }
+    PageColumn {
+        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
+        Icon {
+            Layout.alignment: Qt.AlignHCenter
+            implicitWidth: 160
+            implicitHeight: 160
+            name: "ticket"
+            dark: Theme.dark
+        }
+        PlainText { Layout.fillWidth: true; horizontalAlignment: Text.AlignHCenter; text: page.screen.text }
+        RowLayout {
+            Layout.fillWidth: true
+            MainButton { objectName: "download"; Layout.fillWidth: true; iconName: "fileIcon"; text: page.screen.downloadText; onClicked: page.screen.downloadTicket() }
+            IconButton { objectName: "share"; iconName: "shareIcon"; label: qsTr("Share the ticket"); onClicked: page.screen.share() }
+        }
+        ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading || page.screen.showProgressView; label: qsTr("Loading") }
+        Repeater {
+            model: page.screen.flights
+            Card {
+                id: flight
+                required property TicketFlightValue modelData
+                Layout.fillWidth: true
+                title: modelData.title
+                LabelledLine { Layout.fillWidth: true; label: flight.modelData.departureCity; value: flight.modelData.departureTime }
+                LabelledLine { Layout.fillWidth: true; label: flight.modelData.arrivalCity; value: flight.modelData.arrivalTime }
+                PlainText { text: flight.modelData.date; color: Theme.placeHolderColor }
+                LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; value: flight.modelData.cabin }
+                LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; value: flight.modelData.checkIn }
+            }
+        }
+        Repeater {
+            model: page.screen.passengers
+            Card {
+                id: passenger
+                required property TicketPassengerValue modelData
+                Layout.fillWidth: true
+                title: modelData.title
+                PlainText { Layout.fillWidth: true; text: passenger.modelData.name; font.weight: Font.Medium }
+                Repeater {
+                    model: passenger.modelData.lines
+                    ColumnLayout {
+                        id: pair
+                        required property TicketLineValue modelData
+                        Layout.fillWidth: true
+                        spacing: 4
+                        LabelledLine { Layout.fillWidth: true; label: pair.modelData.leftTitle; value: pair.modelData.leftSubTitle }
+                        LabelledLine { Layout.fillWidth: true; visible: label !== ""; label: pair.modelData.rightTitle; value: pair.modelData.rightSubTitle }
+                    }
+                }
+            }
+        }
+    }
+    SnackBar {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }
+        message: page.screen.errorMessage
+        shown: page.screen.showSnackBar
+    }
+}

@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The form of the emergency contact.
+Item {
+    id: page
+
+    required property EmergencyAdapter screen
+
+    Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    PageHeader {
+        id: header
+        width: parent.width
+        iconName: "crossIcon"
+        leaveLabel: qsTr("Close")
+        title: page.screen.title
+        onLeave: page.screen.close()
+    }
+    PageColumn {
+        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
+        FormField {
+            objectName: "name"
+            Layout.fillWidth: true
+            iconName: "userIcon"
+            placeholder: qsTr("Given Name")
+            value: page.screen.name
+            mark: page.screen.nameColor
+            onTextEdited: page.screen.typeName(text)
+        }
+        FormField {
+            objectName: "surname"
+            Layout.fillWidth: true
+            iconName: "userIcon"
+            placeholder: qsTr("Surname")
+            value: page.screen.surname
+            mark: page.screen.surnameColor
+            onTextEdited: page.screen.typeSurname(text)
+        }
+        FormField {
+            objectName: "email"
+            Layout.fillWidth: true
+            iconName: "emailIcon"
+            placeholder: qsTr("Email")
+            value: page.screen.email
+            mark: page.screen.emailColor
+            inputMethodHints: Qt.ImhEmailCharactersOnly
+            onTextEdited: page.screen.typeEmail(text)
+        }
+        FormField {
+            objectName: "phoneNumber"
+            Layout.fillWidth: true
+            iconName: "phoneIcon"
+            placeholder: qsTr("Phone Number")
+            value: page.screen.phoneNumber
+            mark: page.screen.phoneNumberColor
+            inputMethodHints: Qt.ImhDialableCharactersOnly
+            onTextEdited: page.screen.typePhoneNumber(text)
+        }
+        CheckLine {
+            objectName: "box"
+            Layout.fillWidth: true
+            text: page.screen.boxText
+            marked: page.screen.isPassanger
+            onClicked: page.screen.tapBox()
+        }
+    }
+    MainButton {
+        id: save
+        objectName: "save"
+        anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        text: page.screen.saveText
+        onClicked: page.screen.save()
+    }
+    SnackBar {
+        anchors { left: parent.left; right: parent.right; bottom: save.top; margins: Theme.margin }
+        message: page.screen.message
+        shown: page.screen.showSnackBar
+    }
+}

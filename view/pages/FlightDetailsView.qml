@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The journeys of a booking leg by leg.
+Item {
+    id: page
+
+    required property FlightDetailsAdapter screen
+
+    Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    PageHeader {
+        id: header
+        width: parent.width
+        iconName: "crossIcon"
+        leaveLabel: qsTr("Close")
+        title: page.screen.title
+        onLeave: page.screen.close()
+    }
+    PageColumn {
+        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: 8
+            PlainText { text: page.screen.originCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            Icon { implicitWidth: 22; implicitHeight: 22; name: page.screen.routeImage; color: Theme.blackColor }
+            PlainText { Layout.fillWidth: true; text: page.screen.destinationCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+        }
+        Repeater {
+            model: page.screen.journeys
+            Card {
+                id: section
+                required property JourneyValue modelData
+                Layout.fillWidth: true
+                title: modelData.sectionTitle
+                Repeater {
+                    model: section.modelData.legs
+                    LegBlock { Layout.fillWidth: true }
+                }
+            }
+        }
+    }
+}

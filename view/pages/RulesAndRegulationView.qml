@@ -1,0 +1,70 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The fare rules, between the result list and the booking.
+Item {
+    id: page
+
+    required property RulesAdapter screen
+
+    Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    PageHeader {
+        id: header
+        width: parent.width
+        title: page.screen.title
+        onLeave: page.screen.cancel()
+    }
+    ListView {
+        id: list
+        anchors { top: header.bottom; bottom: foot.top; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        clip: true
+        spacing: 8
+        model: page.screen.paragraphs
+        onContentHeightChanged: page.screen.measured(contentHeight)
+        delegate: PlainText {
+            required property ParagraphValue modelData
+            width: ListView.view.width
+            leftPadding: modelData.isListItem ? 16 : 0
+            text: modelData.text
+            font.underline: modelData.isUnderlined
+            font.weight: Font.Light
+            font.pixelSize: Theme.sectionSize
+        }
+        ProgressLine {
+            anchors.centerIn: parent
+            width: 160
+            visible: page.screen.showProgressView
+            label: qsTr("Fetching the fare rules")
+        }
+    }
+    RowLayout {
+        id: foot
+        anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        spacing: Theme.gap
+        MainButton {
+            objectName: "cancel"
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            quiet: true
+            text: page.screen.cancelText
+            enabled: !page.screen.showProgressView
+            onClicked: page.screen.cancel()
+        }
+        MainButton {
+            objectName: "continue"
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            text: page.screen.continueText
+            enabled: !page.screen.showProgressView
+            onClicked: page.screen.proceed()
+        }
+    }
+    SnackBar {
+        anchors { left: parent.left; right: parent.right; bottom: foot.top; margins: Theme.margin }
+        message: page.screen.errorMessage
+        shown: page.screen.showSnackBar
+    }
+}

@@ -1,0 +1,126 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// The form of one traveller.
+Item {
+    id: page
+
+    required property TravellerAdapter screen
+
+    Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    PageHeader {
+        id: header
+        width: parent.width
+        iconName: "crossIcon"
+        leaveLabel: qsTr("Close")
+        title: page.screen.title
+        onLeave: page.screen.close()
+    }
+    PageColumn {
+        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
+        FormField {
+            objectName: "name"
+            Layout.fillWidth: true
+            iconName: "userIcon"
+            placeholder: qsTr("Given Name")
+            value: page.screen.name
+            mark: page.screen.nameColor
+            onTextEdited: page.screen.typeName(text)
+        }
+        FormField {
+            objectName: "surname"
+            Layout.fillWidth: true
+            iconName: "userIcon"
+            placeholder: qsTr("Surname")
+            value: page.screen.surname
+            mark: page.screen.surnameColor
+            onTextEdited: page.screen.typeSurname(text)
+        }
+        FormField {
+            objectName: "email"
+            Layout.fillWidth: true
+            iconName: "emailIcon"
+            placeholder: qsTr("Email")
+            value: page.screen.email
+            mark: page.screen.emailColor
+            inputMethodHints: Qt.ImhEmailCharactersOnly
+            onTextEdited: page.screen.typeEmail(text)
+        }
+        RowLayout {
+            Layout.fillWidth: true
+            Choice { objectName: "male"; Layout.fillWidth: true; text: "Male"; marked: page.screen.gender === text; onClicked: page.screen.chooseGender(text) }
+            Choice { objectName: "female"; Layout.fillWidth: true; text: "Female"; marked: page.screen.gender === text; onClicked: page.screen.chooseGender(text) }
+        }
+        FormField {
+            objectName: "dateOfBirth"
+            Layout.fillWidth: true
+            iconName: "calendarIcon"
+            placeholder: qsTr("Date of Birth")
+            hint: "YYYY-MM-DD"
+            value: page.screen.dateOfBirth
+            mark: page.screen.dateOfBirthColor
+            inputMethodHints: Qt.ImhDate
+            onTextEdited: page.screen.pickDateOfBirth(text)
+        }
+        LabelledLine { Layout.fillWidth: true; iconName: "globeIcon"; label: qsTr("Nationality"); value: page.screen.nationality }
+        FormField {
+            objectName: "expiryDate"
+            visible: page.screen.showsExpiryDate
+            Layout.fillWidth: true
+            iconName: "numberIcon"
+            placeholder: qsTr("Document Expiry Date")
+            hint: "YYYY-MM-DD"
+            value: page.screen.expiryDate
+            mark: page.screen.expiryDateColor
+            inputMethodHints: Qt.ImhDate
+            onTextEdited: page.screen.pickExpiryDate(text)
+        }
+        FormField {
+            objectName: "documentNumber"
+            visible: page.screen.showsDocuments
+            Layout.fillWidth: true
+            iconName: "numberIcon"
+            placeholder: qsTr("Document Number")
+            value: page.screen.documentNumber
+            mark: page.screen.documentNumberColor
+            onTextEdited: page.screen.typeDocumentNumber(text)
+        }
+        Flow {
+            visible: page.screen.showsDocuments
+            Layout.fillWidth: true
+            spacing: 8
+            Repeater {
+                model: page.screen.documentTypes
+                Choice {
+                    required property DocumentTypeAdapter row
+                    text: row.label
+                    marked: row.isSelected
+                    onClicked: row.tap()
+                }
+            }
+        }
+        MainButton {
+            objectName: "upload"
+            visible: page.screen.showsDocuments
+            Layout.fillWidth: true
+            quiet: true
+            iconName: page.screen.hasPicture ? "doneIcon" : "addIcon"
+            text: qsTr("Upload Document")
+            onClicked: page.screen.openPhotoPicker()
+        }
+    }
+    MainButton {
+        id: save
+        objectName: "save"
+        anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        text: page.screen.saveText
+        onClicked: page.screen.save()
+    }
+    SnackBar {
+        anchors { left: parent.left; right: parent.right; bottom: save.top; margins: Theme.margin }
+        message: page.screen.message
+        shown: page.screen.showSnackBar
+    }
+}
