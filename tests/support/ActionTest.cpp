@@ -34,7 +34,7 @@ public:
                                    [this] { return isOpen.get(); }};
     Rows rows{*this,
               "rows",
-              [this] { return names.get().size(); },
+              [this] { return isOpen.get() ? names.get().size() : 0; },
               [this](std::size_t index) { return std::make_shared<Row>(names.get().at(index)); },
               [this](std::size_t index) { return names.get().at(index); }};
     Rows plain{
@@ -116,12 +116,17 @@ TEST_F(ActionTest, RowsTellOfEveryAssignmentOfWhatTheyCount) {
     auto heard = form->rows.observe([&] { ++told; });
     form->names = {"y", "x"}; // as many, in another order
     form->names = {};
-    form->isOpen = false;
     EXPECT_EQ(told, 2);
     EXPECT_THROW((void)form->rows.row(0), KeyedError);
+    form->isOpen = false;
+    form->names = {"y"}; // not counted now
+    EXPECT_EQ(told, 3);
+    form->isOpen = true;
+    form->names = {"x"};
+    EXPECT_EQ(told, 5);
     heard.cancel();
     form->names = {"z"};
-    EXPECT_EQ(told, 2);
+    EXPECT_EQ(told, 5);
 }
 
 } // namespace

@@ -142,6 +142,20 @@ TEST_F(NavigatorTest, ADestinationMayGoOnOrGiveUpAtOnce) {
     EXPECT_EQ(taken(), (Log{"-root", "+push", "-push", "+root"}));
 }
 
+TEST_F(NavigatorTest, TheRootMayGoOnWhileItIsBroughtIntoView) {
+    navigator.reset();
+    root->whenShown = [this] {
+        root->whenShown = nullptr;
+        root->push = true;
+    };
+    taken();
+    navigator = std::make_unique<Navigator>(root);
+    EXPECT_TRUE(taken().empty()) << "nothing appears before the start";
+    navigator->start();
+    EXPECT_EQ(taken(), (Log{"+root", "-root", "+push"}));
+    EXPECT_EQ(names(), (Log{"root", "push"}));
+}
+
 TEST_F(NavigatorTest, PartsComeAndGoWithTheirFieldAndShowScreensOfTheirOwn) {
     const auto one = std::make_shared<Page>("one", log);
     const auto two = std::make_shared<Page>("two", log);
