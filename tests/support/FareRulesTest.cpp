@@ -149,8 +149,8 @@ TEST(FareRules, TakeNoLongerForHostileHtmlThanForItsLength) {
     for (const auto& html : texts) {
         const auto start = std::chrono::steady_clock::now();
         fareRules(html);
-        // About 30 ms at most where it was measured; a square would take many seconds.
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2)) << html.substr(0, 40);
+        // About 30 ms at most in a release build; a square would take tens of seconds, a loaded machine some.
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10)) << html.substr(0, 40);
     }
 }
 
