@@ -1,8 +1,11 @@
 #pragma once
 
+#include "records/Decode.h"
 #include "records/Encode.h"
 #include "services/FlightSearchRoundTripProvider.h"
 #include "support/Completion.h"
+
+#include <gtest/gtest.h>
 
 #include <memory>
 #include <optional>
@@ -23,7 +26,16 @@ struct Outcome {
 inline Json shown(const std::string& text) { return text; }
 template <WireRecord Record> Json shown(const Record& record) { return encode(record); }
 template <class T> Json shown(const std::optional<T>& value) { return value ? shown(*value) : Json(); }
-template <class T> Json shown(const std::shared_ptr<const T>& value) { return encode(*value); }
+/// An offer, after a look at whether its own JSON holds the same.
+template <class T> Json shown(const std::shared_ptr<const T>& offer) {
+    if (offer->rawData) {
+        T again = decodeText<T>(offer->rawData->bytes());
+        again.id = offer->id;
+        again.rawData = offer->rawData;
+        EXPECT_TRUE(again == *offer) << offer->rawData->bytes();
+    }
+    return encode(*offer);
+}
 template <class T> Json shown(const std::vector<T>& values) {
     Json array = Json::array();
     for (const auto& value : values)
