@@ -95,7 +95,7 @@ TEST(LimitsTest, SilenceAndDurationHaveAnEnd) {
                                 TimeCase{"latency=20000", 1, 30, false},
                                 TimeCase{"latency=1000", 3, 30, true},
                                 TimeCase{"trickle=50", 30, 2, false},
-                                TimeCase{"trickle=15", 2, 30, true},
+                                TimeCase{"trickle=25", 2, 30, true},
                                 TimeCase{"trickle=3000", 2, 30, false},
                                 TimeCase{"endless", 30, 1, false}}) {
         threads.emplace_back([row] { check(row); });
