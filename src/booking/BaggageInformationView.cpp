@@ -44,11 +44,13 @@ BaggageInformationView::BaggageInformationView(std::string_view screenName, cons
 OWBaggageInformationView::OWBaggageInformationView(
     const Field<std::optional<OWFlightAvailability>>& availability, const Field<bool>& loading) :
     BaggageInformationView("OWBaggageInformationView", loading,
-                           [&availability] { return blocksOf(availability.get()); }) {}
+                           [this] { return blocksOf(flightAvailability.get()); }),
+    flightAvailability(fields, "flightAvailability", availability) {}
 
 RTBaggageInformationView::RTBaggageInformationView(
     const Field<std::optional<RTFlightAvailability>>& availability, const Field<bool>& loading) :
     BaggageInformationView("RTBaggageInformationView", loading,
-                           [&availability] { return blocksOf(availability.get()); }) {}
+                           [this] { return blocksOf(flightAvailability.get()); }),
+    flightAvailability(fields, "flightAvailability", availability) {}
 
 } // namespace ombrivane

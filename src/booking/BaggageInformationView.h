@@ -39,12 +39,16 @@ class OWBaggageInformationView final : public BaggageInformationView {
 public:
     OWBaggageInformationView(const Field<std::optional<OWFlightAvailability>>& availability,
                              const Field<bool>& loading);
+
+    Binding<std::optional<OWFlightAvailability>> flightAvailability;
 };
 
 class RTBaggageInformationView final : public BaggageInformationView {
 public:
     RTBaggageInformationView(const Field<std::optional<RTFlightAvailability>>& availability,
                              const Field<bool>& loading);
+
+    Binding<std::optional<RTFlightAvailability>> flightAvailability;
 };
 
 template <> struct Keyed<BaggageBlock> {

@@ -108,7 +108,7 @@ void BookingSession::reserve() {
         availabilitySummary(),
         *emergencyContact.get(),
         Completion<std::optional<FlightBooking>>::twice(
-            [hold = shared_from_this(),
+            [hold = heldForMain(shared_from_this()),
              this](std::optional<FlightBooking> booking, std::optional<Error> error) {
                 mainQueue().async(
                     [hold, this, booking = std::move(booking), error = std::move(error)]() mutable {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "booking/JourneyCard.h"
+#include "records/KeyedRecords.h"
 #include "support/Action.h"
 #include "support/Derived.h"
+#include "support/Field.h"
 #include "support/Screen.h"
 
 #include <string>
@@ -30,13 +32,19 @@ private:
 class OWFlightDetailsView final : public FlightDetailsView {
 public:
     explicit OWFlightDetailsView(const std::optional<FlightsSummary>& summary) :
-        FlightDetailsView("OWFlightDetailsView", "toIcon", journeyCards(summary)) {}
+        FlightDetailsView("OWFlightDetailsView", "toIcon", journeyCards(summary)),
+        flightsSummary(fields, "flightsSummary", summary) {}
+
+    Published<std::optional<FlightsSummary>> flightsSummary;
 };
 
 class RTFlightDetailsView final : public FlightDetailsView {
 public:
     explicit RTFlightDetailsView(const std::optional<RTFlightsSummary>& summary) :
-        FlightDetailsView("RTFlightDetailsView", "exchangeIcon", journeyCards(summary)) {}
+        FlightDetailsView("RTFlightDetailsView", "exchangeIcon", journeyCards(summary)),
+        flightsSummary(fields, "flightsSummary", summary) {}
+
+    Published<std::optional<RTFlightsSummary>> flightsSummary;
 };
 
 } // namespace ombrivane

@@ -43,15 +43,19 @@ OWFlightInformationView::OWFlightInformationView(
     const Field<bool>& loading, const Field<std::vector<UniquePassanger>>& slots) :
     FlightInformationView(
         "OWFlightInformationView", std::move(cabinName), loading, slots,
-        [&availability] { return journeyCards(summaryOf(availability)); },
-        [&availability] { return std::make_shared<OWFlightDetailsView>(summaryOf(availability)); }) {}
+        [this] { return journeyCards(flightsSummary.get()); },
+        [this] { return std::make_shared<OWFlightDetailsView>(flightsSummary.get()); }),
+    flightsSummary(fields, "flightsSummary", [this] { return summaryOf(availability_); }),
+    availability_(unkeyed_, "availability", availability) {}
 
 RTFlightInformationView::RTFlightInformationView(
     const Field<std::optional<RTFlightAvailability>>& availability, std::string cabinName,
     const Field<bool>& loading, const Field<std::vector<UniquePassanger>>& slots) :
     FlightInformationView(
         "RTFlightInformationView", std::move(cabinName), loading, slots,
-        [&availability] { return journeyCards(summaryOf(availability)); },
-        [&availability] { return std::make_shared<RTFlightDetailsView>(summaryOf(availability)); }) {}
+        [this] { return journeyCards(flightsSummary.get()); },
+        [this] { return std::make_shared<RTFlightDetailsView>(flightsSummary.get()); }),
+    flightsSummary(fields, "flightsSummary", [this] { return summaryOf(availability_); }),
+    availability_(unkeyed_, "availability", availability) {}
 
 } // namespace ombrivane

@@ -47,6 +47,12 @@ public:
     OWFlightInformationView(const Field<std::optional<OWFlightAvailability>>& availability,
                             std::string cabinName, const Field<bool>& loading,
                             const Field<std::vector<UniquePassanger>>& slots);
+
+    Derived<std::optional<FlightsSummary>> flightsSummary;
+
+private:
+    Fields unkeyed_;
+    Binding<std::optional<OWFlightAvailability>> availability_;
 };
 
 class RTFlightInformationView final : public FlightInformationView {
@@ -54,6 +60,12 @@ public:
     RTFlightInformationView(const Field<std::optional<RTFlightAvailability>>& availability,
                             std::string cabinName, const Field<bool>& loading,
                             const Field<std::vector<UniquePassanger>>& slots);
+
+    Derived<std::optional<RTFlightsSummary>> flightsSummary;
+
+private:
+    Fields unkeyed_;
+    Binding<std::optional<RTFlightAvailability>> availability_;
 };
 
 } // namespace ombrivane

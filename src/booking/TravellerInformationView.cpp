@@ -59,11 +59,13 @@ std::function<std::string()> constant(const char* text) {
 
 } // namespace
 
-DocumentTypeTile::DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen) :
+DocumentTypeTile::DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen,
+                                   std::function<bool()> isShown) :
     Screen("DocumentTypeTile"),
     label(fields, "label", [wireCode] { return documentLabel(wireCode); }),
     isSelected(fields, "isSelected", [this, wireCode] { return documentType.get() == wireCode; }),
-    tap(*this, "tap", [this, wireCode] { documentType = wireCode; }),
+    tap(
+        *this, "tap", [this, wireCode] { documentType = wireCode; }, std::move(isShown)),
     documentType(fields, "documentType", chosen) {}
 
 TravellerInformationView::TravellerInformationView(TravellerGiven given) :
@@ -96,13 +98,15 @@ TravellerInformationView::TravellerInformationView(TravellerGiven given) :
     documentTypes(
         *this, "documentTypes", [this] { return allowedDocuments->size(); },
         [this](std::size_t index) {
-            return std::make_shared<DocumentTypeTile>(allowedDocuments->at(index), TIVM.documentType);
+            return std::make_shared<DocumentTypeTile>(
+                allowedDocuments->at(index), TIVM.documentType, [this] { return documentsRequired.get(); });
         }),
     typeName(*this, "typeName", [this](const std::string& text) { TIVM.name = text; }),
     typeSurname(*this, "typeSurname", [this](const std::string& text) { TIVM.surname = text; }),
     typeEmail(*this, "typeEmail", [this](const std::string& text) { TIVM.email = text; }),
-    typeDocumentNumber(*this, "typeDocumentNumber",
-                       [this](const std::string& text) { TIVM.documentNumber = text; }),
+    typeDocumentNumber(
+        *this, "typeDocumentNumber", [this](const std::string& text) { TIVM.documentNumber = text; },
+        [this] { return showsDocuments.get(); }),
     chooseGender(*this, "chooseGender",
                  [this](const std::string& choice) {
                      if (choice == "Male" || choice == "Female") TIVM.gender = choice;
@@ -114,12 +118,16 @@ TravellerInformationView::TravellerInformationView(TravellerGiven given) :
                             date && *date >= calendar::startOfDay(minDOB) && *date <= platform().clock->now();
                         if (within) TIVM.dateOfBirth = date;
                     }),
-    pickExpiryDate(*this, "pickExpiryDate",
-                   [this](const std::string& day) {
-                       const auto date = pickedDate(day);
-                       if (date && *date >= calendar::startOfDay(minPpDate)) TIVM.expiryDate = date;
-                   }),
-    openPhotoPicker(*this, "openPhotoPicker", [this] { TIVM.isShowingPhotoPicker = true; }),
+    pickExpiryDate(
+        *this, "pickExpiryDate",
+        [this](const std::string& day) {
+            const auto date = pickedDate(day);
+            if (date && *date >= calendar::startOfDay(minPpDate)) TIVM.expiryDate = date;
+        },
+        [this] { return showsExpiryDate.get(); }),
+    openPhotoPicker(
+        *this, "openPhotoPicker", [this] { TIVM.isShowingPhotoPicker = true; },
+        [this] { return showsDocuments.get(); }),
     close(*this, "close", [this] { dismiss(); }),
     save(*this, "save", [this] { saveDetails(); }),
     model_(fields, "TIVM", TIVM.fields),

@@ -11,6 +11,7 @@
 #include "support/Rows.h"
 #include "support/Screen.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,7 +32,9 @@ struct TravellerGiven {
 /// One tile of the document types.
 class DocumentTypeTile final : public Screen {
 public:
-    DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen);
+    /// @param isShown whether the flight asks for documents at all
+    DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen,
+                     std::function<bool()> isShown);
 
     Derived<std::string> label;
     Derived<bool> isSelected;

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "support/Error.h"
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -17,6 +18,14 @@ template <class Result, class Then> auto onMain(Then then) {
                 then(std::move(result), std::move(error));
             });
     };
+}
+
+/// A hold on `object` that any thread may let go of: the object itself is let go on the main queue. For what
+/// may be called more than once and so cannot hand over what it holds.
+inline std::shared_ptr<void> heldForMain(std::shared_ptr<void> object) {
+    return {nullptr, [object = std::move(object)](void* /*none*/) mutable {
+                mainQueue().async([last = std::move(object)] {});
+            }};
 }
 
 } // namespace ombrivane
