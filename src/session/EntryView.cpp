@@ -7,6 +7,8 @@
 #include "state/AppState.h"
 #include "support/Fault.h"
 
+#include <utility>
+
 namespace ombrivane {
 namespace {
 
@@ -29,6 +31,7 @@ EntryView::EntryView(EntryArguments arguments, CompletionCallback callback, Dism
 EntryView::~EntryView() { boundary_->drop(); }
 
 void EntryView::appear() {
+    if (std::exchange(bootstrapped_, true)) return;
     if (platform().system.isBelow("iOS", 14)) {
         return boundary_->receive(std::nullopt, makeError(CustomError::requiredIOSVersion));
     }

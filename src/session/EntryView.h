@@ -34,8 +34,8 @@ struct Dismissal {
 };
 
 /// The root of all screens: a placeholder until the bootstrap has finished, then a thin frame around
-/// `MainView`. The bootstrap runs each time the view comes on screen; a failure reaches the host and closes
-/// the component.
+/// `MainView`. The bootstrap runs once, when the view comes on screen, and not when the customer comes back
+/// to the search; a failure reaches the host and closes the component.
 class EntryView final : public Screen {
 public:
     EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal);
@@ -53,6 +53,7 @@ private:
 
     EntryArguments arguments_;
     std::shared_ptr<HostBoundary> boundary_;
+    bool bootstrapped_ = false;
 };
 
 } // namespace ombrivane
