@@ -163,8 +163,8 @@ private:
             }
             tree["segments"].push_back(segment(legs[i], i, connection));
         }
-        tree["fares"] = {{"ADT", fare("ADT", journey)}};
-        if (index % 2 == 0) tree["fares"]["CNN"] = fare("CNN", journey);
+        for (const char* kind : {"ADT", "INF", "CNN"})
+            tree["fares"][kind] = fare(kind, journey);
         return tree;
     }
 

@@ -13,8 +13,8 @@ struct Timed {
     std::function<void()> cleanUp = [] {};
 };
 
-/// The median seconds of each, all run in turn in every round, so that what else the machine does meets them
-/// alike.
+/// The median seconds of processor time of each, all run in turn in every round, so that a machine that slows
+/// down or has its caches taken away does so to all alike.
 std::vector<double> interleavedMedians(const std::vector<Timed>& works, std::size_t rounds);
 
 } // namespace ombrivane::bench

@@ -15,9 +15,13 @@
 
 namespace ombrivane {
 
+template <class Record> void decode(const simdjson::dom::element& element, Record& record) {
+    Decoder<Record>::decode(element, record);
+}
+
 template <class Record> Record decode(const simdjson::dom::element& element) {
     Record record;
-    Decoder<Record>::decode(element, record);
+    decode(element, record);
     return record;
 }
 
@@ -31,6 +35,7 @@ template <class Record> Record decodeText(std::string_view json) {
 }
 
 #define OMBRIVANE_DECODES(Record)                                                                            \
+    template void decode<Record>(const simdjson::dom::element&, Record&);                                    \
     template Record decode<Record>(const simdjson::dom::element&);                                           \
     template Record decodeText<Record>(std::string_view);
 

@@ -16,6 +16,9 @@ namespace ombrivane {
 /// @throws DecodeError with the path of the field that failed
 template <class Record> Record decode(const simdjson::dom::element& element);
 
+/// The same into a fresh record where it stands.
+template <class Record> void decode(const simdjson::dom::element& element, Record& record);
+
 /// The same from JSON text. @throws DecodeError also when the text is no JSON.
 template <class Record> Record decodeText(std::string_view json);
 

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <utility>
@@ -123,23 +124,31 @@ template <WireRecord T> struct Decoder<T> {
     static void decode(const JsonElement& json, T& record) {
         simdjson::dom::object object;
         if (json.get(object) != simdjson::SUCCESS) wants("an object");
-        auto next = object.begin();
-        forEachField(record, [&](std::string_view key, auto& value) { take(object, next, key, value); });
+        takeAll(object, record, std::make_index_sequence<std::tuple_size_v<decltype(T::wire)>>());
     }
 
 private:
     using Iterator = simdjson::dom::object::iterator;
 
-    /// Keys usually arrive in the order of the table, so the one that follows is looked at first.
-    template <class Value>
-    static void take(const simdjson::dom::object& object, Iterator& next, std::string_view key,
-                     Value& value) {
-        if (!(next != object.end() && next.key() == key)) {
-            const Iterator found = find(object, key);
+    template <std::size_t... Row>
+    static void takeAll(const simdjson::dom::object& object, T& record, std::index_sequence<Row...> /*all*/) {
+        auto next = object.begin();
+        (take<Row>(object, next, record), ...);
+    }
+
+    /// Keys usually arrive in the order of the table, so the one that follows is looked at first. One
+    /// function for each row: comparing with a key that is known beforehand takes no call.
+    template <std::size_t Row>
+    static void take(const simdjson::dom::object& object, Iterator& next, T& record) {
+        constexpr auto row = std::get<Row>(T::wire);
+        auto& value = record.*(row.member);
+        using Value = std::decay_t<decltype(value)>;
+        if (!(next != object.end() && isAt(next, row.key))) {
+            const Iterator found = find(object, row.key);
             if (!(found != object.end())) {
                 if constexpr (isOptional<Value>) return;
                 DecodeError error(notUnderstood, "is missing");
-                error.within(key);
+                error.within(row.key);
                 throw error;
             }
             next = found;
@@ -147,15 +156,20 @@ private:
         try {
             Decoder<Value>::decode(next.value(), value);
         } catch (DecodeError& error) {
-            error.within(key);
+            error.within(row.key);
             throw;
         }
         ++next;
     }
 
+    static bool isAt(const Iterator& member, std::string_view key) {
+        return member.key_length() == key.size() &&
+               std::memcmp(member.key_c_str(), key.data(), key.size()) == 0;
+    }
+
     static Iterator find(const simdjson::dom::object& object, std::string_view key) {
         auto at = object.begin();
-        while (at != object.end() && at.key() != key)
+        while (at != object.end() && !isAt(at, key))
             ++at;
         return at;
     }

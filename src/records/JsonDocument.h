@@ -2,8 +2,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace simdjson::dom {
 class element;
@@ -11,8 +9,7 @@ class element;
 
 namespace ombrivane {
 
-/// One parsed answer with its own bytes, white space between tokens taken out. What is read from it is valid
-/// as long as it lives; slices of its bytes can be held longer with `owner`.
+/// One parsed text of JSON. What is read from it is valid as long as it lives.
 class JsonDocument {
 public:
     /// Parses and checks the whole of `bytes`. @throws DecodeError when they are no JSON (UTF-8, at most
@@ -23,11 +20,6 @@ public:
     JsonDocument& operator=(const JsonDocument&) = delete;
 
     const simdjson::dom::element& root() const;
-
-    /// The bytes of each element of the array under `key` of the top level, in their order.
-    std::vector<std::string_view> elementBytes(std::string_view key) const;
-
-    std::shared_ptr<const void> owner() const;
 
 private:
     struct Parsed;

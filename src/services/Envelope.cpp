@@ -31,15 +31,9 @@ element at(const element& object, std::string_view key) {
     return value;
 }
 
-bool flagAt(const element& object, std::string_view key) {
-    bool flag = false;
-    if (at(object, key).get(flag) != simdjson::SUCCESS) breach(key, "wants true or false");
-    return flag;
-}
-
-std::string textAt(const element& object, std::string_view key) {
+std::string textOf(const element& value, std::string_view key) {
     std::string_view text;
-    if (at(object, key).get(text) != simdjson::SUCCESS) breach(key, "wants a text");
+    if (value.get(text) != simdjson::SUCCESS) breach(key, "wants a text");
     return std::string(text);
 }
 
@@ -53,95 +47,105 @@ template <class Key, class Function> auto within(Key key, Function function) {
     }
 }
 
-element dataOf(const element& root) { return at(root, "data"); }
-
-element named(const element& root, std::string_view key) {
-    return within(std::string_view("data"), [&] { return at(dataOf(root), key); });
-}
-
 simdjson::dom::array arrayOf(const element& value) {
     simdjson::dom::array array;
     if (value.get(array) != simdjson::SUCCESS) throw DecodeError(notUnderstood, "wants an array");
     return array;
 }
 
-/// Decodes each element by itself and hands it to `take` with its position.
-template <class Record, class Take> void decodeEach(const element& value, Take take) {
-    std::size_t index = 0;
-    for (const element item : arrayOf(value)) {
-        take(within(index, [&] { return decode<Record>(item); }), index);
-        ++index;
-    }
+/// Decodes each element by itself into a place of its own.
+template <class Record> std::vector<Record> decodeEach(const element& value) {
+    const simdjson::dom::array array = arrayOf(value);
+    std::vector<Record> records;
+    records.reserve(array.size());
+    for (const element item : array)
+        within(records.size(), [&] { decode(item, records.emplace_back()); });
+    return records;
+}
+
+/// Pointers to the records of one list, which lives as long as any of them is held: one allocation, and one
+/// count for all, which stays in the cache while a list of pointers is copied.
+template <class Record> std::vector<std::shared_ptr<const Record>> shared(std::vector<Record> records) {
+    const auto list = std::make_shared<const std::vector<Record>>(std::move(records));
+    std::vector<std::shared_ptr<const Record>> pointers;
+    pointers.reserve(list->size());
+    for (const Record& record : *list)
+        pointers.emplace_back(list, &record);
+    return pointers;
 }
 
 } // namespace
 
-bool Envelope::success() const { return flagAt(document_.root(), "success"); }
+bool Envelope::success() const { return topLevelFlag("success"); }
 
 std::string Envelope::failureMessage() const {
-    const element data = dataOf(document_.root());
-    return within(std::string_view("data"), [&] { return textAt(data, "error"); });
+    const element data = answer_.value("data");
+    return within(std::string_view("data"), [&] { return textOf(at(data, "error"), "error"); });
 }
 
 template <class Record> Record Envelope::record() const {
-    const element data = dataOf(document_.root());
+    const element data = answer_.value("data");
     return within(std::string_view("data"), [&] { return decode<Record>(data); });
 }
 
+element Envelope::memberOfData(std::string_view key) const {
+    const element data = answer_.value("data");
+    return within(std::string_view("data"), [&] { return at(data, key); });
+}
+
 template <class Record> Record Envelope::record(std::string_view key) const {
-    const element value = named(document_.root(), key);
+    const element value = memberOfData(key);
     return within("data." + std::string(key), [&] { return decode<Record>(value); });
 }
 
 template <class Record> std::vector<Record> Envelope::records(std::string_view key) const {
-    const element value = named(document_.root(), key);
-    std::vector<Record> records;
-    within("data." + std::string(key), [&] {
-        decodeEach<Record>(value, [&](Record record, std::size_t) { records.push_back(std::move(record)); });
-    });
-    return records;
+    const element value = memberOfData(key);
+    return within("data." + std::string(key), [&] { return decodeEach<Record>(value); });
 }
 
 std::string Envelope::text(std::string_view key) const {
-    const element data = dataOf(document_.root());
-    return within(std::string_view("data"), [&] { return textAt(data, key); });
+    const element data = answer_.value("data");
+    return within(std::string_view("data"), [&] { return textOf(at(data, key), key); });
 }
 
 template <class Offer> std::vector<std::shared_ptr<const Offer>> Envelope::offers() const {
-    const element data = dataOf(document_.root());
-    const auto bytes = document_.elementBytes("data");
-    std::vector<std::shared_ptr<const Offer>> offers;
-    offers.reserve(bytes.size());
-    within(std::string_view("data"), [&] {
-        decodeEach<Offer>(data, [&](Offer decoded, std::size_t index) {
-            auto offer = std::make_shared<Offer>(std::move(decoded));
-            offer->rawData = RawData(document_.owner(), bytes.at(index));
-            offers.push_back(std::move(offer));
-        });
+    const auto& elements = answer_.elements();
+    if (!elements) {
+        answer_.value("data"); // which may be missing
+        breach("data", "wants an array");
+    }
+    return within(std::string_view("data"), [&] {
+        std::vector<Offer> offers;
+        offers.reserve(elements->size());
+        for (const std::string_view json : *elements) {
+            within(offers.size(), [&] {
+                Offer& offer = offers.emplace_back();
+                decode(answer_.parsed(json), offer);
+                offer.rawData = answer_.rawData(json);
+            });
+        }
+        return shared(std::move(offers));
     });
-    return offers;
 }
 
 template <class Offer> std::vector<std::shared_ptr<const Offer>> Envelope::offersAt(std::size_t index) const {
-    const element data = dataOf(document_.root());
-    std::vector<std::shared_ptr<const Offer>> offers;
-    within(std::string_view("data"), [&] {
+    const element data = answer_.value("data");
+    return within(std::string_view("data"), [&] {
         element list;
         if (arrayOf(data).at(index).get(list) != simdjson::SUCCESS) {
             throw DecodeError(notUnderstood, "lacks its list " + std::to_string(index));
         }
-        within(index, [&] {
-            decodeEach<Offer>(list, [&](Offer offer, std::size_t) {
-                offers.push_back(std::make_shared<const Offer>(std::move(offer)));
-            });
-        });
+        return within(index, [&] { return shared(decodeEach<Offer>(list)); });
     });
-    return offers;
 }
 
-bool Envelope::topLevelFlag(std::string_view key) const { return flagAt(document_.root(), key); }
+bool Envelope::topLevelFlag(std::string_view key) const {
+    bool flag = false;
+    if (answer_.value(key).get(flag) != simdjson::SUCCESS) breach(key, "wants true or false");
+    return flag;
+}
 
-std::string Envelope::topLevelText(std::string_view key) const { return textAt(document_.root(), key); }
+std::string Envelope::topLevelText(std::string_view key) const { return textOf(answer_.value(key), key); }
 
 template Authentication Envelope::record() const;
 template OWFlightAvailability Envelope::record() const;

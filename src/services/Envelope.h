@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/JsonDocument.h"
+#include "records/JsonAnswer.h"
 
 #include <cstddef>
 #include <memory>
@@ -15,8 +15,8 @@ namespace ombrivane {
 /// a success. The templates are instantiated for the records that answers hold.
 class Envelope {
 public:
-    /// @throws DecodeError for bytes that are no JSON
-    explicit Envelope(const std::string& bytes) : document_(bytes) {}
+    /// @throws DecodeError for bytes that are no JSON object; one inside of a list shows when it is read
+    explicit Envelope(const std::string& bytes) : answer_(bytes, "data") {}
 
     bool success() const;
     /// The service's own message of a failure: `data.error`.
@@ -41,7 +41,9 @@ public:
     std::string topLevelText(std::string_view key) const;
 
 private:
-    JsonDocument document_;
+    simdjson::dom::element memberOfData(std::string_view key) const;
+
+    JsonAnswer answer_;
 };
 
 } // namespace ombrivane

@@ -37,6 +37,9 @@ TEST_F(FlightSearchTest, AnOfferTravelsBackByteForByte) {
     std::string bare = peculiar;
     bare.erase(bare.find("[ ]") + 1, 1);
     const std::string answers[] = {
+        // Of two keys alike the first counts.
+        "{\"success\":true,\"x\":{\"data\":[1]},\"y\":[\"data\"],\"\\\"data\":[2],\"data\":[" + peculiar +
+            "],\"data\":[3]}",
         "{\"success\":true,\"data\":[" + peculiar + "]}",
         " { \"data\" : [\n" + peculiar + " ] , \"data2\":[1], \"success\" : true } ",
         "{\"success\":true,\"dat\\u0061\":[" + peculiar + "]}",
@@ -49,6 +52,58 @@ TEST_F(FlightSearchTest, AnOfferTravelsBackByteForByte) {
         EXPECT_EQ(world.network->last().body,
                   R"({"user_type":"customer","itinerary_type":"oneway","itinerary":)" + bare + "}");
         world.network->answer("{}");
+    }
+}
+
+/// An empty list would be a success: each of these must not pass for one.
+TEST_F(FlightSearchTest, AnAnswerThatIsAlmostJsonIsRefused) {
+    const std::string good = R"({"success":true,"data":[],"x":[{"y":[1,2]}]})";
+    const std::pair<std::string, std::string> rows[] = {
+        {"", ""},
+        {"[]", " [ ] "},
+        {"\"x\"", "\"data\""}, // the first counts
+        {R"("success":true,)", R"("success":true,"success":7,)"},
+        {"true", "t rue"},
+        {"true,", "true "},
+        {"true,", "true,,"},
+        {"true,", "true;"},
+        {"true", "truely"},
+        {"true", "tru"},
+        {"[]", "[,]"},
+        {"[]", "[ 1 2 ]"},
+        {"[]", "[]]"},
+        {"[]", "[}"},
+        {"[]", "{]"},
+        {"[],", "[] 7,"},
+        {"[],", "[]"},
+        {"\"data\":", "\"data\" "},
+        {"\"data\":", "\"data\"::"},
+        {"\"data\"", "data"},
+        {"\"x\":", "x:"},
+        {"\"x\":", "\"\\x\":"},
+        {"\"x\":", "\"\\ud800\":"},
+        {"1,2", "1 2"},
+        {"1,2", "1,2,"},
+        {"1,2", "01"},
+        {"1,2", "1.e2"},
+        {"]}]}", "]}]"},
+        {"]}]}", "]}]}}"},
+        {"]}]}", "]}]} {}"},
+        {"]}]}", "]}],}"},
+        {"]}]}", "]]}}"},
+        {"{\"success", "{{\"success"},
+        {"{\"success", "{,\"success"},
+        {"{\"success", "\xef\xbb\xbf[\"success"},
+    };
+    std::size_t row = 0;
+    for (const auto& [part, by] : rows) {
+        std::string answer = good;
+        answer.replace(answer.find(part), part.size(), by);
+        Outcome outcome;
+        FlightSearchOneWayProvider().searchFlights(query(), into<OneWayOffers>(outcome));
+        world.answer(answer);
+        EXPECT_EQ(outcome.completions, 1);
+        EXPECT_EQ(outcome.error.has_value(), row++ > 3) << answer;
     }
 }
 
