@@ -4,6 +4,18 @@
 #include <cstdio>
 
 namespace ombrivane::journey {
+namespace {
+
+bool holds(const Json& found, const Json& wanted) {
+    if (!wanted.is_object()) return found == wanted;
+    if (!found.is_object()) return false;
+    return std::all_of(wanted.items().begin(), wanted.items().end(), [&](const auto& member) {
+        const auto at = found.find(member.key());
+        return at != found.end() && holds(*at, member.value());
+    });
+}
+
+} // namespace
 
 void EventLog::print(const Json& line) {
     const std::string text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
@@ -19,18 +31,29 @@ void EventLog::answer(const Json& line) {
 void EventLog::event(Json line) {
     {
         const std::lock_guard lock(mutex_);
-        waiting_.push_back(line.at("event").get<std::string>());
         print(line);
+        waiting_.push_back(std::move(line));
     }
     wake_();
 }
 
-bool EventLog::take(const std::string& name) {
+bool EventLog::take(const std::string& name, const Json& wanted) {
     const std::lock_guard lock(mutex_);
-    const auto found = std::find(waiting_.begin(), waiting_.end(), name);
+    const auto found = std::find_if(waiting_.begin(), waiting_.end(), [&](const Json& event) {
+        return event.at("event") == name && holds(event, wanted);
+    });
     if (found == waiting_.end()) return false;
     waiting_.erase(found);
     return true;
+}
+
+Json EventLog::waiting(const std::string& name) {
+    const std::lock_guard lock(mutex_);
+    Json events = Json::array();
+    for (const auto& event : waiting_) {
+        if (event.at("event") == name) events.push_back(event);
+    }
+    return events;
 }
 
 } // namespace ombrivane::journey

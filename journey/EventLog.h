@@ -19,14 +19,18 @@ public:
     void answer(const Json& line);
     void event(Json line);
 
-    /// Takes the oldest event of that name that was not taken yet. False when there is none.
-    bool take(const std::string& name);
+    /// Takes the oldest event of that name that was not taken yet and that holds `wanted`: of an object all
+    /// members that `wanted` has, at any depth. False when there is none.
+    bool take(const std::string& name, const Json& wanted);
+
+    /// The events of that name that were not taken yet, as an array.
+    Json waiting(const std::string& name);
 
 private:
     void print(const Json& line);
 
     std::mutex mutex_;
-    std::vector<std::string> waiting_;
+    std::vector<Json> waiting_;
     std::function<void()> wake_;
 };
 

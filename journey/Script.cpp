@@ -76,6 +76,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"wait", [this](const std::string& arguments) { wait(arguments); }},
         {"wait-screen", [this](const std::string& arguments) { waitScreen(arguments); }},
         {"wait-event", [this](const std::string& arguments) { waitEvent(arguments); }},
+        {"no-event", [this](const std::string& name) { noEvent(name); }},
         {"advance", [this](const std::string& arguments) { advance(arguments); }},
         {"pick", [this](const std::string& file) { pick(file); }},
         {"pick-cancel",
@@ -85,6 +86,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"reachability", [this](const std::string& arguments) { setReachability(arguments); }},
         {"destroy", [this](const std::string&) { stage_.destroy(); }},
         {"open", [this](const std::string&) { stage_.open(); }},
+        {"play", [this](const std::string& file) { playFile(file); }},
     };
 }
 
@@ -98,40 +100,51 @@ std::string Script::help() {
            "  expect PATH JSON              ends the script unless the value is this one\n"
            "  wait PATH JSON [SECONDS]      waits until it is (10 s unless told)\n"
            "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
-           "  wait-event NAME [SECONDS]     waits for an event: callback, closed, opened-url, shared\n"
+           "  wait-event NAME [OBJECT] [SECONDS]\n"
+           "                                waits for an event: callback, closed, opened-url, shared; one "
+           "that "
+           "holds all\n"
+           "                                members of OBJECT, at any depth\n"
+           "  no-event NAME                 ends the script if there is such an event that was not waited "
+           "for\n"
            "  advance SECONDS               moves the clock and the timers on, beyond real time\n"
            "  pick FILE                     the photo library's next answer\n"
            "  pick-cancel                   a cancelled one\n"
            "  reachability FLAGS            the flag word of the network from here on\n"
            "  destroy                       drops the view, as a host may at any time\n"
            "  open                          shows it again\n"
+           "  play FILE                     the lines of another script\n"
            "PATH is Screen.key, Screen.model.key or Screen.rows[3].key; without a screen's name it starts at "
            "the\n"
            "topmost screen.\n";
 }
 
 Ending Script::play(std::istream& lines) {
-    std::string text;
-    for (int number = 1; std::getline(lines, text); ++number) {
-        const std::string line = trimmed(text);
-        if (line.empty() || line.front() == '#') continue;
-        try {
-            run(line);
-        } catch (const ExpectationFailed& failed) {
-            Json report{{"failed", failed.what()}, {"line", number}};
-            if (const Navigator* navigator = stage_.navigator()) report["stack"] = describe(*navigator);
-            stage_.log.answer(report);
-            return stage_.faulted() ? Ending::fault : Ending::expectationFailed;
-        } catch (const std::exception& bad) {
-            if (stage_.faulted()) return Ending::fault;
-            stage_.log.answer(Json{{"bad-line", bad.what()}, {"line", number}});
-            return Ending::badLine;
-        }
+    try {
+        runAll(lines, "");
+    } catch (const ExpectationFailed& failed) {
+        Json report{{"failed", failed.what()}, {"line", place_}};
+        if (const Navigator* navigator = stage_.navigator()) report["stack"] = describe(*navigator);
+        stage_.log.answer(report);
+        return stage_.faulted() ? Ending::fault : Ending::expectationFailed;
+    } catch (const std::exception& bad) {
         if (stage_.faulted()) return Ending::fault;
+        stage_.log.answer(Json{{"bad-line", bad.what()}, {"line", place_}});
+        return Ending::badLine;
     }
     // Whatever was queued by the last line has happened when the script ends.
-    stage_.runUntil([] { return false; }, std::chrono::milliseconds(0));
+    if (!stage_.faulted()) stage_.runUntil([] { return false; }, std::chrono::milliseconds(0));
     return stage_.faulted() ? Ending::fault : Ending::done;
+}
+
+void Script::runAll(std::istream& lines, const std::string& file) {
+    std::string text;
+    for (int number = 1; std::getline(lines, text) && !stage_.faulted(); ++number) {
+        const std::string line = trimmed(text);
+        if (line.empty() || line.front() == '#') continue;
+        place_ = file + std::to_string(number) + ": " + line;
+        run(line);
+    }
 }
 
 void Script::run(const std::string& line) {
@@ -139,6 +152,12 @@ void Script::run(const std::string& line) {
     const auto command = commands_.find(name);
     if (command == commands_.end()) throw BadLine("there is no command " + name);
     command->second(arguments);
+}
+
+void Script::playFile(const std::string& file) {
+    std::ifstream lines(file);
+    if (!lines) throw BadLine("there is no script " + file);
+    runAll(lines, file + ":");
 }
 
 Navigator& Script::navigator() const {
@@ -217,10 +236,28 @@ void Script::waitScreen(const std::string& arguments) {
 
 void Script::waitEvent(const std::string& arguments) {
     const auto [name, text] = split(arguments);
-    const auto arrived = [&] { return stage_.faulted() || stage_.log.take(name); };
-    if (!stage_.runUntil(arrived, milliseconds(seconds(text, defaultSeconds)))) {
-        throw ExpectationFailed("the event " + name + " did not come");
+    Json wanted = Json::object();
+    double limit = defaultSeconds;
+    for (const Json& value : values(text)) {
+        if (value.is_object()) {
+            wanted = value;
+        } else if (value.is_number()) {
+            limit = value.get<double>();
+        } else {
+            throw BadLine("wait-event wants a name, an object and the seconds");
+        }
     }
+    const auto arrived = [&] { return stage_.faulted() || stage_.log.take(name, wanted); };
+    if (!stage_.runUntil(arrived, milliseconds(limit))) {
+        throw ExpectationFailed("the event " + name + " did not come; there were " +
+                                stage_.log.waiting(name).dump());
+    }
+}
+
+void Script::noEvent(const std::string& name) {
+    stage_.runUntil([] { return false; }, std::chrono::milliseconds(0));
+    const Json events = stage_.log.waiting(name);
+    if (!events.empty()) throw ExpectationFailed("there was an event " + name + ": " + events.dump());
 }
 
 void Script::advance(const std::string& arguments) {

@@ -54,7 +54,9 @@ public:
     static std::string help();
 
 private:
+    void runAll(std::istream& lines, const std::string& file);
     void run(const std::string& line);
+    void playFile(const std::string& file);
     void show();
     void get(const std::string& path);
     void set(const std::string& arguments);
@@ -64,6 +66,7 @@ private:
     void wait(const std::string& arguments);
     void waitScreen(const std::string& arguments);
     void waitEvent(const std::string& arguments);
+    void noEvent(const std::string& name);
     void advance(const std::string& arguments);
     void pick(const std::string& file);
     void setReachability(const std::string& arguments);
@@ -71,6 +74,8 @@ private:
     bool holds(const std::string& path, const Json& value) const;
 
     Stage stage_;
+    /// The line that is being run, with its number and the file it was played from.
+    std::string place_;
     std::map<std::string, Command> commands_;
 };
 
