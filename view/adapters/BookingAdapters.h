@@ -16,6 +16,7 @@
 #include <QUrl>
 
 #include <memory>
+#include <string_view>
 
 namespace ombrivane::view {
 
@@ -209,7 +210,12 @@ public:
     PaymentAdapter* payment();
 
 private:
-    template <class Adapter> std::unique_ptr<Adapter> partAdapter(const char* key) const;
+    /// The screen that is shown inside of this one under `key`, if there is one now.
+    std::shared_ptr<ombrivane::Screen> part(std::string_view key) const;
+    template <class Adapter> std::unique_ptr<Adapter> partAdapter(std::string_view key) const {
+        auto screen = part(key);
+        return screen ? std::make_unique<Adapter>(std::move(screen)) : nullptr;
+    }
 
     std::unique_ptr<FlightInformationAdapter> information_ =
         partAdapter<FlightInformationAdapter>("information");
