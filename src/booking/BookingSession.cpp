@@ -34,6 +34,7 @@ BookingSession::BookingSession(std::string_view screenName, BookingGiven given) 
     clockText(fields, "clockText",
               [this] { return fmt::format("{:02}:{:02}", timeRemaining / minute, timeRemaining % minute); }),
     clockLabel(fields, "clockLabel", constant("left for confirmation")),
+    clockPart(fields, "clockPart", [this] { return static_cast<double>(timeRemaining) / timeAllowed; }),
     isLastMinute(fields, "isLastMinute", [this] { return timeRemaining <= minute; }),
     totalLabel(fields, "totalLabel", constant("Total Fare")),
     total(fields, "total", [this] { return "NPR " + formatNumber(totalCost().value_or(1)); }),

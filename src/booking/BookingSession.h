@@ -41,6 +41,9 @@ struct BookingGiven {
 /// host. `SessionPhase` tells what may happen when.
 class BookingSession : public Screen {
 public:
+    /// Seconds for which the service holds the price of an availability.
+    static constexpr int timeAllowed = 600;
+
     void appear() override;
     void disappear() override { task_.cancel(); }
 
@@ -50,7 +53,7 @@ public:
     Published<std::string> bookingClass;
     Published<std::string> departLocation;
     Published<std::string> destLocation;
-    Published<int> timeRemaining{fields, "timeRemaining", 600};
+    Published<int> timeRemaining{fields, "timeRemaining", timeAllowed};
     Published<bool> isLoading{fields, "isLoading", true};
     Published<std::string> appBarTitle{fields, "appBarTitle", "Payment Confirmation"};
     Published<std::vector<Passenger>> passengersList{fields, "passengersList"};
@@ -70,6 +73,7 @@ public:
     Derived<std::string> phaseName;
     Derived<std::string> clockText;
     Derived<std::string> clockLabel;
+    Derived<double> clockPart; ///< of the time allowed, from 1 down to 0
     Derived<bool> isLastMinute;
     Derived<std::string> totalLabel;
     Derived<std::string> total;

@@ -22,6 +22,8 @@ PaymentAdapter* SessionAdapter::payment() {
     return core().showPaymentView ? payment_.get() : nullptr;
 }
 
+bool PhotoPickerAdapter::asksForFile() const { return picker() != nullptr; }
+
 void PhotoPickerAdapter::choose(const QUrl& file, const QRectF& crop) {
     if (auto* photos = picker()) photos->choose(file, crop);
 }

@@ -185,7 +185,7 @@ class SessionAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_TEXT(clockText, core().clockText)
     OMBRIVANE_TEXT(clockLabel, core().clockLabel)
     OMBRIVANE_FLAG(isLastMinute, core().isLastMinute)
-    OMBRIVANE_FIELD(int, timeRemaining, core().timeRemaining)
+    OMBRIVANE_FIELD(double, clockPart, core().clockPart)
     OMBRIVANE_TEXT(totalLabel, core().totalLabel)
     OMBRIVANE_TEXT(total, core().total)
     OMBRIVANE_FLAG(showsFoot, core().showsFoot)
@@ -345,9 +345,12 @@ class PhotoPickerAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
+    /// Whether the page asks for a file itself; a device with a library of its own shows that over the page.
+    Q_PROPERTY(bool asksForFile READ asksForFile CONSTANT FINAL)
     OMBRIVANE_SCREEN(PhotoPickerAdapter, PhotoPicker)
 
 public:
+    bool asksForFile() const;
     /// @param crop in parts of the whole, from 0 to 1
     Q_INVOKABLE void choose(const QUrl& file, const QRectF& crop);
     Q_INVOKABLE void cancel();

@@ -9,7 +9,7 @@ PlainText {
     property color tint: Theme.blackColor
 
     color: awaited ? "transparent" : tint
-    lineHeight: 1.2
+    spread: 1.2
     Accessible.ignored: true
 
     Rectangle {

@@ -1,12 +1,14 @@
 import QtQuick
+import QtQuick.Shapes
 import Ombrivane
 
-// The time that the price is held; in the last minute in the accent, announced once.
+// The time that the price is held, with a ring that empties; in the last minute in the accent, announced once.
 Rectangle {
     id: pill
 
     required property string time
     required property string label
+    required property real timeLeft
     required property bool lastMinute
     readonly property color tint: lastMinute ? Theme.primaryColor : Theme.secondaryColor
 
@@ -23,26 +25,40 @@ Rectangle {
         id: row
         anchors.centerIn: parent
         spacing: 8
-        Icon {
+        Item {
             width: 18
             height: 18
             anchors.verticalCenter: parent.verticalCenter
-            name: "clockIcon"
-            color: pill.tint
+            Rectangle {
+                anchors.fill: parent
+                radius: width / 2
+                color: "transparent"
+                border.width: 3
+                border.color: Theme.hairlineColor
+            }
+            Shape {
+                anchors.fill: parent
+                ShapePath {
+                    strokeColor: pill.tint
+                    strokeWidth: 3
+                    fillColor: "transparent"
+                    PathAngleArc { centerX: 9; centerY: 9; radiusX: 7.5; radiusY: 7.5; startAngle: -90; sweepAngle: 360 * pill.timeLeft }
+                }
+            }
         }
         PlainText {
             objectName: "clock"
             text: pill.time
             color: pill.tint
             font.weight: Font.DemiBold
-            lineHeight: 1.1
+            spread: 1.1
             Accessible.ignored: true
         }
         PlainText {
             text: pill.label
             color: Theme.placeHolderColor
             font.pixelSize: Theme.captionSize
-            lineHeight: 1.1
+            spread: 1.1
             anchors.verticalCenter: parent.verticalCenter
             Accessible.ignored: true
         }

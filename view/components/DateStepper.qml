@@ -33,7 +33,7 @@ Rectangle {
             anchors.centerIn: parent
             spacing: 4
             Icon {
-                visible: stepper.width >= 190
+                visible: stepper.width >= 240 * Theme.textScale
                 width: visible ? 18 : 0
                 height: 18
                 anchors.verticalCenter: parent.verticalCenter
@@ -42,12 +42,12 @@ Rectangle {
             }
             PlainText {
                 id: text
-                width: Math.min(implicitWidth, before.parent.width - 88 - (stepper.width >= 190 ? 22 : 0))
+                width: Math.min(implicitWidth, before.parent.width - 88 - (stepper.width >= 240 * Theme.textScale ? 22 : 0))
                 text: stepper.value
                 horizontalAlignment: Text.AlignHCenter
                 font.pixelSize: Theme.captionSize
                 font.weight: Font.Medium
-                lineHeight: 1.1
+                spread: 1.1
             }
         }
     }

@@ -19,10 +19,10 @@ T.AbstractButton {
 
     background: Item {
         Rectangle {
-            readonly property real left: cell.modelData.inRange || cell.modelData.joinsPrevious ? 0 : parent.width / 2
-            readonly property real right: cell.modelData.inRange || cell.modelData.joinsNext ? parent.width : parent.width / 2
-            x: left
-            width: right - left
+            readonly property real from: cell.modelData.inRange || cell.modelData.joinsPrevious ? 0 : parent.width / 2
+            readonly property real to: cell.modelData.inRange || cell.modelData.joinsNext ? parent.width : parent.width / 2
+            x: from
+            width: to - from
             height: disc.height
             anchors.verticalCenter: parent.verticalCenter
             color: Theme.calenderRangeColor
@@ -45,7 +45,7 @@ T.AbstractButton {
         font.weight: cell.modelData.selected ? Font.DemiBold : Font.Normal
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
-        lineHeight: 1
+        spread: 1
         wrapMode: Text.NoWrap
         Accessible.ignored: true
     }

@@ -50,7 +50,7 @@ Rectangle {
                     objectName: "chosen"
                     width: parent.width
                     text: bar.value
-                    lineHeight: 1.2
+                    spread: 1.2
                     color: bar.emphasised ? Theme.primaryColor : Theme.blackColor
                     font.pixelSize: bar.emphasised ? Theme.priceSize : Theme.bodySize
                     font.weight: bar.emphasised ? Font.DemiBold : Font.Medium

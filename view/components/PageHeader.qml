@@ -28,7 +28,7 @@ Item {
         text: header.title
         font.pixelSize: Theme.titleSize
         font.weight: Font.DemiBold
-        lineHeight: 1.2
+        spread: 1.2
         Accessible.role: Accessible.Heading
     }
 }

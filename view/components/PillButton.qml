@@ -44,7 +44,7 @@ T.AbstractButton {
                 color: button.chosen ? Theme.secondaryTextColor : Theme.blackColor
                 font.pixelSize: Theme.captionSize
                 font.weight: Font.Medium
-                lineHeight: 1.1
+                spread: 1.1
                 horizontalAlignment: Text.AlignHCenter
                 Accessible.ignored: true
             }

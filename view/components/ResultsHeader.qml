@@ -41,16 +41,16 @@ Rectangle {
             Flow {
                 width: parent.width
                 spacing: 8
-                PlainText { text: header.screen.departCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; lineHeight: 1.2 }
+                PlainText { text: header.screen.departCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
                 Icon { width: 20; height: 20 * Math.max(1, Theme.textScale); name: header.screen.routeImage; color: Theme.secondaryColor }
-                PlainText { text: header.screen.destCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; lineHeight: 1.2 }
+                PlainText { text: header.screen.destCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
             }
             PlainText {
                 width: parent.width
                 text: header.screen.headerSubtitle
                 color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
-                lineHeight: 1.2
+                spread: 1.2
             }
         }
         Icon { anchors.fill: edit; name: "editIconHolder"; color: Theme.blackColor }
@@ -82,7 +82,7 @@ Rectangle {
                 DateStepper {
                     objectName: "departure"
                     Layout.fillWidth: true
-                    Layout.preferredWidth: 1
+                    Layout.preferredWidth: header.screen.showsReturnDate ? 1 : 1.3
                     iconName: "departureBlackIcon"
                     value: header.screen.departDateText
                     previousLabel: qsTr("Depart a day earlier")

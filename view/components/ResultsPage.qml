@@ -26,7 +26,7 @@ FocusScope {
     }
     Connections {
         target: content.shown
-        function onScrolled(points) { page.results.scrolled(points) }
+        function onScrolled(points: real) { page.results.scrolled(points) }
     }
     Binding { target: content.shown; when: content.shown !== null; property: "topInset"; value: header.fullHeight }
     Binding { target: content.shown; when: content.shown !== null; property: "collapsedInset"; value: header.collapsedHeight }

@@ -26,7 +26,7 @@ ColumnLayout {
                 objectName: "origin"
                 Layout.fillWidth: true
                 Layout.rightMargin: 56
-                implicitHeight: Math.max(64, 52 * Theme.textScale)
+                leastHeight: 64
                 framed: false
                 iconName: "departurePlaneIcon"
                 placeholder: form.screen.originPlaceholder
@@ -38,7 +38,7 @@ ColumnLayout {
                 objectName: "destination"
                 Layout.fillWidth: true
                 Layout.rightMargin: 56
-                implicitHeight: Math.max(64, 52 * Theme.textScale)
+                leastHeight: 64
                 framed: false
                 iconName: "departurePlaneIconTwo"
                 placeholder: form.screen.destinationPlaceholder

@@ -6,11 +6,13 @@ FocusScope {
     id: sheet
 
     default property alias content: holder.data
+    required property string name
     property real wantedHeight: 400
     property real shift: 0
     signal dismissed
 
     Accessible.role: Accessible.Dialog
+    Accessible.name: name
 
     Rectangle {
         anchors.fill: parent

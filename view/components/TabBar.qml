@@ -55,7 +55,7 @@ Rectangle {
                     font.pixelSize: Theme.captionSize
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
-                    lineHeight: 1.1
+                    spread: 1.1
                     color: tab.index === bar.screen.tab ? Theme.secondaryTextColor : Theme.blackColor
                     Accessible.ignored: true
                 }

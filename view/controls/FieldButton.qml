@@ -10,8 +10,9 @@ T.AbstractButton {
     required property string placeholder
     property string value: ""
     property bool framed: true
+    property real leastHeight: Theme.fieldHeight
 
-    implicitHeight: Math.max(Theme.fieldHeight, texts.implicitHeight + 16)
+    implicitHeight: Math.max(leastHeight, texts.implicitHeight + 16)
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: placeholder
@@ -42,14 +43,14 @@ T.AbstractButton {
                 text: field.placeholder
                 color: Theme.placeHolderColor
                 font.pixelSize: Theme.smallSize
-                lineHeight: 1.1
+                spread: 1.1
                 Accessible.ignored: true
             }
             PlainText {
                 width: parent.width
                 text: field.value !== "" ? field.value : field.placeholder
                 color: field.value !== "" ? Theme.blackColor : Theme.placeHolderColor
-                lineHeight: 1.2
+                spread: 1.2
                 Accessible.ignored: true
             }
         }

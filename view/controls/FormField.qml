@@ -53,7 +53,7 @@ T.TextField {
             text: field.hint !== "" && !field.raised ? qsTr("%1 (%2)").arg(field.placeholder).arg(field.hint) : field.placeholder
             color: Theme.placeHolderColor
             font.pixelSize: field.raised ? Theme.smallSize : Theme.bodySize
-            lineHeight: 1.1
+            spread: 1.1
             Accessible.ignored: true
         }
         Icon {

@@ -26,6 +26,7 @@ Item {
             Layout.bottomMargin: 8
             time: page.screen.clockText
             label: page.screen.clockLabel
+            timeLeft: page.screen.clockPart
             lastMinute: page.screen.isLastMinute
         }
     }

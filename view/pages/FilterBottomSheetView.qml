@@ -9,6 +9,7 @@ Sheet {
     required property FilterAdapter screen
     signal back
 
+    name: page.screen.title
     wantedHeight: Math.min(height * 0.9, head.height + column.implicitHeight + apply.height + 4 * Theme.margin)
     onDismissed: back()
 
@@ -22,7 +23,7 @@ Sheet {
             text: page.screen.title
             font.pixelSize: Theme.titleSize
             font.weight: Font.DemiBold
-            lineHeight: 1.1
+            spread: 1.1
             Accessible.role: Accessible.Heading
         }
         PillButton {

@@ -9,6 +9,7 @@ Sheet {
     required property NationalitySheetAdapter screen
     signal back
 
+    name: page.screen.placeholder
     wantedHeight: height * 0.8
     onDismissed: back()
 

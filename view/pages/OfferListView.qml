@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Ombrivane
 
@@ -12,6 +11,7 @@ ResultsContent {
 
     function showTop() {
         scroll.stop()
+        list.pinned = false
         scroll.from = list.contentY
         scroll.to = list.originY - list.topMargin
         scroll.duration = Theme.pageDuration
@@ -19,6 +19,7 @@ ResultsContent {
     }
     function showOffer(position: int) {
         const here = list.contentY
+        list.pinned = false
         list.positionViewAtIndex(position, ListView.Beginning)
         const there = Math.max(list.originY - list.topMargin, list.contentY - page.collapsedInset - Theme.gap)
         list.contentY = here
@@ -33,6 +34,9 @@ ResultsContent {
         id: list
         objectName: "offers"
         anchors.fill: parent
+        // Until the customer scrolls, the list stays at its top while header, strip and insets take their places.
+        property bool pinned: true
+        function pin() { if (pinned) contentY = originY - topMargin }
         topMargin: page.topInset
         bottomMargin: page.bottomInset + Theme.gap
         spacing: Theme.gap
@@ -78,13 +82,20 @@ ResultsContent {
             }
         }
         onContentYChanged: page.scrolled(contentY - originY + topMargin)
-        Component.onCompleted: positionViewAtBeginning()
+        onOriginYChanged: pin()
+        onTopMarginChanged: pin()
+        onContentHeightChanged: pin()
+        onMovementStarted: pinned = false
+        onMovementEnded: pinned = atYBeginning
     }
     NumberAnimation {
         id: scroll
         target: list
         property: "contentY"
-        onFinished: if (page.screen.scrollToTop) page.screen.arrivedAtTop()
+        onFinished: {
+            list.pinned = list.atYBeginning
+            if (page.screen.scrollToTop) page.screen.arrivedAtTop()
+        }
     }
     Connections {
         target: page.screen

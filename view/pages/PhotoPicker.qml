@@ -7,11 +7,12 @@ Sheet {
     id: page
 
     required property PhotoPickerAdapter screen
-    signal back
 
+    name: qsTr("Upload Document")
     wantedHeight: height * 0.85
     onDismissed: page.screen.cancel()
-    Component.onCompleted: dialog.open()
+    Component.onCompleted: if (page.screen.asksForFile) dialog.open()
+    Component.onDestruction: dialog.close()
 
     FileDialog {
         id: dialog
@@ -20,9 +21,15 @@ Sheet {
         onAccepted: preview.source = selectedFile
         onRejected: page.screen.cancel()
     }
+    PlainText {
+        id: hint
+        anchors { top: parent.top; left: parent.left; right: parent.right; leftMargin: Theme.margin; rightMargin: Theme.margin }
+        text: preview.status === Image.Error ? qsTr("This picture cannot be shown.") : qsTr("Drag the corners to what has to be seen.")
+        color: Theme.placeHolderColor
+    }
     Item {
         id: frame
-        anchors { top: parent.top; left: parent.left; right: parent.right; bottom: use.top; margins: Theme.margin }
+        anchors { top: hint.bottom; left: parent.left; right: parent.right; bottom: foot.top; margins: Theme.margin + 8 }
         Image {
             id: preview
             anchors.fill: parent
@@ -31,24 +38,32 @@ Sheet {
             autoTransform: true
             sourceSize.width: 1024
         }
-        Rectangle {
+        CropFrame {
             id: crop
             visible: preview.status === Image.Ready
             x: (frame.width - preview.paintedWidth) / 2
             y: (frame.height - preview.paintedHeight) / 2
             width: preview.paintedWidth
             height: preview.paintedHeight
-            color: "transparent"
-            border.width: 2
-            border.color: Theme.primaryColor
         }
     }
-    MainButton {
-        id: use
-        objectName: "use"
+    Row {
+        id: foot
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }
-        enabled: preview.status === Image.Ready
-        text: qsTr("Use this picture")
-        onClicked: page.screen.choose(dialog.selectedFile, Qt.rect(0, 0, 1, 1))
+        spacing: Theme.gap
+        MainButton {
+            objectName: "another"
+            width: (foot.width - foot.spacing) / 2
+            quiet: true
+            text: qsTr("Another picture")
+            onClicked: dialog.open()
+        }
+        MainButton {
+            objectName: "use"
+            width: (foot.width - foot.spacing) / 2
+            enabled: preview.status === Image.Ready
+            text: qsTr("Use this picture")
+            onClicked: page.screen.choose(dialog.selectedFile, crop.kept)
+        }
     }
 }

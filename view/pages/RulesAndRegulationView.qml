@@ -29,7 +29,6 @@ Item {
             leftPadding: modelData.isListItem ? 16 : 0
             text: modelData.text
             font.underline: modelData.isUnderlined
-            font.weight: Font.Light
             font.pixelSize: Theme.sectionSize
         }
         ProgressLine {

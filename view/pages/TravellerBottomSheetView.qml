@@ -9,6 +9,7 @@ Sheet {
     required property TravellerSheetAdapter screen
     signal back
 
+    name: page.screen.heading
     wantedHeight: column.implicitHeight + done.implicitHeight + 2 * Theme.margin
     onDismissed: back()
 
