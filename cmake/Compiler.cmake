@@ -12,4 +12,6 @@ target_compile_options(ombrivane_warnings INTERFACE
 if(OMBRIVANE_SANITIZE)
     add_compile_options(-fsanitize=${OMBRIVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${OMBRIVANE_SANITIZE})
+    # The code that sanitizers add hides from gcc what is initialised.
+    target_compile_options(ombrivane_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()

@@ -14,13 +14,24 @@ Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
 namespace ombrivane::view {
 
 sandbox::Sandbox& service() {
-    static sandbox::Sandbox instance{sandbox::Options{}};
+    static sandbox::Sandbox instance = [] {
+        sandbox::Options options;
+        options.now = startOfTests();
+        options.frozen = true;
+        return sandbox::Sandbox(options);
+    }();
     return instance;
+}
+
+std::chrono::sys_seconds startOfTests() {
+    using namespace std::chrono;
+    return sys_days(2026y / November / 21) + 3h + 30min;
 }
 
 } // namespace ombrivane::view
 
 int main(int count, char** values) {
+    qputenv("TZ", "Asia/Kathmandu");
     const QGuiApplication application(count, values);
     ::testing::InitGoogleTest(&count, values);
     auto& service = ombrivane::view::service();

@@ -1,35 +1,13 @@
-#include "Window.h"
+#include "Inspection.h"
 
 #include "support/Navigator.h"
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QSignalSpy>
 
 namespace ombrivane::view {
 namespace {
-
-/// What holds for every page: no warning, plain texts only, and a name for everything that can be operated.
-void expectSound(Window& window) {
-    for (const auto& warning : window.warnings())
-        ADD_FAILURE() << warning;
-    int controls = 0;
-    for (QQuickItem* item : window.visibleItems()) {
-        if (item->inherits("QQuickText")) {
-            EXPECT_EQ(item->property("textFormat").toInt(), Qt::PlainText)
-                << item->property("text").toString().toStdString();
-        }
-        if (!item->inherits("QQuickAbstractButton") && !item->inherits("QQuickTextInput")) continue;
-        ++controls;
-        const auto* accessible = QAccessible::queryAccessibleInterface(item);
-        ASSERT_NE(accessible, nullptr);
-        EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << item->metaObject()->className();
-        EXPECT_GE(item->width(), 44) << item->objectName().toStdString();
-        EXPECT_GE(item->height(), 44) << item->objectName().toStdString();
-    }
-    EXPECT_GT(controls, 0);
-}
 
 std::string top(Window& window) { return std::string(window.session().navigator()->top()->name()); }
 

@@ -20,6 +20,7 @@ import Ombrivane
 Window {
     visible: true
     OmbrivaneView {
+        objectName: "component"
         anchors.fill: parent
         clientId: "wallet"
         clientSecret: "wallet-secret"
@@ -65,6 +66,17 @@ Window::~Window() {
     waitFor([] { return true; });
     qInstallMessageHandler(nullptr);
     collected = nullptr;
+}
+
+void Window::setLook(bool dark, double textScale) {
+    QObject* view = window_->findChild<QObject*>("component");
+    view->setProperty("dark", dark);
+    view->setProperty("textScale", textScale);
+}
+
+void Window::settle() {
+    constexpr int enough = 300; // milliseconds; the slowest is a logo from the service
+    QTest::qWait(enough);
 }
 
 void Window::open() { session_->open(); }

@@ -7,15 +7,18 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ombrivane::view {
 
-/// The booking service of all tests of a process, and the ports of a window that talk to it.
+/// The booking service of all tests of a process, whose clock stands still at `startOfTests`.
 sandbox::Sandbox& service();
+std::chrono::sys_seconds startOfTests();
 
 /// A window with the component in it. Every warning of the toolkit while it lives is kept.
 class Window {
@@ -36,7 +39,12 @@ public:
     QQuickItem* item(const QString& name);
     void click(const QString& name);
     std::vector<QQuickItem*> visibleItems();
-    const std::vector<std::string>& warnings() const { return warnings_; }
+    int width() const { return window_->width(); }
+    void setLook(bool dark, double textScale);
+    /// Turns the event loop until pictures have arrived and nothing moves any more.
+    void settle();
+    /// What the toolkit complained about since it was last asked.
+    std::vector<std::string> takeWarnings() { return std::exchange(warnings_, {}); }
 
     int callbacks = 0;
     int closings = 0;

@@ -12,54 +12,67 @@ Rectangle {
     required property bool lastMinute
     readonly property color tint: lastMinute ? Theme.primaryColor : Theme.secondaryColor
 
-    implicitWidth: row.implicitWidth + 24
+    readonly property real naturalWidth: left.implicitWidth + row.spacing + words.implicitWidth + 25
+
+    implicitWidth: naturalWidth
     implicitHeight: row.implicitHeight + 12
-    radius: height / 2
+    radius: Math.min(20, height / 2)
     color: Theme.whiteColor
     border.width: 1
     border.color: tint
     Accessible.role: lastMinute ? Accessible.AlertMessage : Accessible.StaticText
     Accessible.name: lastMinute ? qsTr("Less than a minute left for confirmation") : label
 
-    Row {
+    // The words go below the time where there is no room beside it.
+    Flow {
         id: row
-        anchors.centerIn: parent
+        x: 12
+        width: pill.width - 24
+        anchors.verticalCenter: parent.verticalCenter
         spacing: 8
-        Item {
-            width: 18
-            height: 18
-            anchors.verticalCenter: parent.verticalCenter
-            Rectangle {
-                anchors.fill: parent
-                radius: width / 2
-                color: "transparent"
-                border.width: 3
-                border.color: Theme.hairlineColor
-            }
-            Shape {
-                anchors.fill: parent
-                ShapePath {
-                    strokeColor: pill.tint
-                    strokeWidth: 3
-                    fillColor: "transparent"
-                    PathAngleArc { centerX: 9; centerY: 9; radiusX: 7.5; radiusY: 7.5; startAngle: -90; sweepAngle: 360 * pill.timeLeft }
+        Row {
+            id: left
+            spacing: 8
+            Item {
+                width: 18
+                height: 18
+                anchors.verticalCenter: parent.verticalCenter
+                Rectangle {
+                    anchors.fill: parent
+                    radius: width / 2
+                    color: "transparent"
+                    border.width: 3
+                    border.color: Theme.hairlineColor
+                }
+                Shape {
+                    anchors.fill: parent
+                    ShapePath {
+                        strokeColor: pill.tint
+                        strokeWidth: 3
+                        fillColor: "transparent"
+                        PathAngleArc { centerX: 9; centerY: 9; radiusX: 7.5; radiusY: 7.5; startAngle: -90; sweepAngle: 360 * pill.timeLeft }
+                    }
                 }
             }
+            PlainText {
+                objectName: "clock"
+                text: pill.time
+                color: pill.tint
+                font.weight: Font.DemiBold
+                wrapMode: Text.NoWrap
+                spread: 1.1
+                Accessible.ignored: true
+            }
         }
         PlainText {
-            objectName: "clock"
-            text: pill.time
-            color: pill.tint
-            font.weight: Font.DemiBold
-            spread: 1.1
-            Accessible.ignored: true
-        }
-        PlainText {
+            id: words
+            height: left.height
             text: pill.label
             color: Theme.placeHolderColor
             font.pixelSize: Theme.captionSize
+            wrapMode: Text.NoWrap
+            verticalAlignment: Text.AlignVCenter
             spread: 1.1
-            anchors.verticalCenter: parent.verticalCenter
             Accessible.ignored: true
         }
     }

@@ -37,7 +37,8 @@ ColumnLayout {
         IconButton { iconName: "rotarPhoneIcon"; label: footer.screen.landLine; onClicked: footer.screen.callLandLine() }
     }
     PlainText {
-        Layout.alignment: Qt.AlignHCenter
+        Layout.fillWidth: true
+        horizontalAlignment: Text.AlignHCenter
         text: footer.screen.mobile + "  ·  " + footer.screen.landLine
         color: Theme.placeHolderColor
         font.pixelSize: Theme.smallSize

@@ -8,15 +8,18 @@ T.AbstractButton {
 
     property string iconName: ""
     property bool chosen: false
+    // What the label leaves to the icon and the sides.
+    readonly property real spared: iconName !== "" ? 58 : 32
 
     implicitHeight: Math.max(Theme.target, label.implicitHeight + 12)
-    implicitWidth: row.implicitWidth + 32
+    implicitWidth: Math.ceil(natural.advanceWidth) + 1 + spared
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: text
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()
 
+    TextMetrics { id: natural; font: label.font; text: button.text }
     background: Rectangle {
         radius: Math.min(height / 2, 24)
         color: button.chosen ? Theme.secondaryColor : button.down ? Theme.segmentColor : Theme.whiteColor
@@ -25,7 +28,6 @@ T.AbstractButton {
     }
     contentItem: Item {
         Row {
-            id: row
             anchors.centerIn: parent
             spacing: 6
             Icon {
@@ -38,7 +40,7 @@ T.AbstractButton {
             }
             PlainText {
                 id: label
-                width: Math.min(implicitWidth, button.width - (button.iconName !== "" ? 50 : 24))
+                width: Math.min(Math.ceil(natural.advanceWidth) + 1, button.width - button.spared + 8)
                 anchors.verticalCenter: parent.verticalCenter
                 text: button.text
                 color: button.chosen ? Theme.secondaryTextColor : Theme.blackColor

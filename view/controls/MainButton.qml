@@ -8,14 +8,17 @@ T.AbstractButton {
 
     property string iconName: ""
     property bool quiet: false
+    // What the label leaves to the icon and the sides.
+    readonly property real spared: iconName !== "" ? 78 : 48
     readonly property color content: quiet ? Theme.primaryColor : Theme.primaryTextColor
 
     implicitHeight: Math.max(Theme.fieldHeight, label.implicitHeight + 16)
-    implicitWidth: row.implicitWidth + 48
+    implicitWidth: Math.ceil(natural.advanceWidth) + 1 + spared
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: text
 
+    TextMetrics { id: natural; font: label.font; text: button.text }
     background: Rectangle {
         radius: height / 2
         color: button.quiet ? "transparent" : Theme.primaryColor
@@ -25,7 +28,6 @@ T.AbstractButton {
     }
     contentItem: Item {
         Row {
-            id: row
             anchors.centerIn: parent
             spacing: 8
             Icon {
@@ -38,6 +40,8 @@ T.AbstractButton {
             }
             PlainText {
                 id: label
+                width: Math.min(Math.ceil(natural.advanceWidth) + 1, button.width - button.spared + 24)
+                horizontalAlignment: Text.AlignHCenter
                 anchors.verticalCenter: parent.verticalCenter
                 text: button.text
                 color: button.content

@@ -3,14 +3,16 @@ import Ombrivane
 
 // The one text item of all pages: what comes from outside is never read as markup.
 Text {
-    // The distance of several lines; one alone stands in the middle of its place.
+    // The distance of lines. The toolkit puts what it adds below each line; the paddings share it out evenly.
     property real spread: 1.35
 
     textFormat: Text.PlainText
     color: Theme.blackColor
     font.family: Theme.fontFamily
     font.pixelSize: Theme.bodySize
-    lineHeight: lineCount > 1 ? spread : 1
+    lineHeight: spread
+    topPadding: (spread - 1) * 0.6 * font.pixelSize
+    bottomPadding: -topPadding
     wrapMode: Text.Wrap
     Accessible.role: Accessible.StaticText
     Accessible.name: text

@@ -24,6 +24,7 @@ Item {
         ClockPill {
             Layout.alignment: Qt.AlignHCenter
             Layout.bottomMargin: 8
+            Layout.maximumWidth: page.width - 2 * Theme.margin
             time: page.screen.clockText
             label: page.screen.clockLabel
             timeLeft: page.screen.clockPart

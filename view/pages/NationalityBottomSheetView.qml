@@ -24,6 +24,7 @@ Sheet {
     ListView {
         anchors { top: field.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
         clip: true
+        cacheBuffer: 0 // rows are made when drawn, not while the page may be leaving
         model: page.screen.rows
         delegate: T.AbstractButton {
             id: item

@@ -50,6 +50,7 @@ FocusScope {
         width: page.cellWidth * 7
         topMargin: Theme.gap
         clip: true
+        cacheBuffer: 0 // rows are made when drawn, not while the page may be leaving
         model: page.screen.months
         delegate: MonthGrid {
             cellWidth: page.cellWidth

@@ -1,0 +1,93 @@
+#include "Inspection.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+
+#include <cmath>
+
+namespace ombrivane::view {
+namespace {
+
+constexpr double half = 0.5;
+
+std::string describe(const QQuickItem& item) {
+    const QQuickItem* parent = item.parentItem();
+    return item.metaObject()->className() + std::string(" '") + item.objectName().toStdString() + "' \"" +
+           item.property("text").toString().left(60).toStdString() + "\" in " +
+           (parent != nullptr ? parent->metaObject()->className() : "nothing");
+}
+
+bool isFocused(const QQuickItem& item) { return item.isEnabled(); }
+
+void expectText(const QQuickItem& item) {
+    EXPECT_EQ(item.property("textFormat").toInt(), Qt::PlainText) << describe(item);
+    EXPECT_FALSE(item.property("truncated").toBool()) << describe(item);
+    EXPECT_LE(item.property("contentWidth").toDouble(), item.width() + half) << describe(item);
+    EXPECT_LE(item.property("contentHeight").toDouble(), item.height() + half) << describe(item);
+}
+
+void expectControl(QQuickItem& item) {
+    const auto* accessible = QAccessible::queryAccessibleInterface(&item);
+    ASSERT_NE(accessible, nullptr) << describe(item);
+    EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << describe(item);
+    EXPECT_GE(item.width(), 44) << describe(item);
+    EXPECT_GE(item.height(), 44) << describe(item);
+    EXPECT_TRUE(item.activeFocusOnTab() || !item.isEnabled()) << describe(item);
+}
+
+/// A strip that is scrolled sideways may reach beyond the window; all else stays inside.
+bool isScrolledSideways(const QQuickItem& item) {
+    for (const QQuickItem* at = &item; at != nullptr; at = at->parentItem()) {
+        if (at->inherits("QQuickFlickable") && at->property("contentWidth").toDouble() > at->width() + half)
+            return true;
+    }
+    return false;
+}
+
+void expectInside(const Window& window, const QQuickItem& item) {
+    if (isScrolledSideways(item)) return;
+    const QRectF place = item.mapRectToScene(QRectF(QPointF(), item.size()));
+    EXPECT_GE(place.left(), -half) << describe(item);
+    EXPECT_LE(place.right(), window.width() + half) << describe(item);
+}
+
+/// Texts that stand beside each other in one item keep clear of each other.
+void expectApart(const std::vector<const QQuickItem*>& texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        for (std::size_t j = i + 1; j < texts.size(); ++j) {
+            if (texts[i]->parentItem() != texts[j]->parentItem()) continue;
+            const QRectF one(texts[i]->position(), texts[i]->size());
+            const QRectF other(texts[j]->position(), texts[j]->size());
+            const QRectF shared = one.intersected(other);
+            EXPECT_TRUE(shared.width() <= 1 || shared.height() <= 1)
+                << describe(*texts[i]) << " and " << describe(*texts[j]);
+        }
+    }
+}
+
+} // namespace
+
+void expectSound(Window& window) {
+    for (const auto& warning : window.takeWarnings())
+        ADD_FAILURE() << warning;
+    int controls = 0;
+    std::vector<const QQuickItem*> texts;
+    for (QQuickItem* item : window.visibleItems()) {
+        if (!isFocused(*item) || item->opacity() == 0) continue;
+        if (item->inherits("QQuickText")) {
+            if (item->property("text").toString().isEmpty()) continue;
+            expectText(*item);
+            expectInside(window, *item);
+            texts.push_back(item);
+        }
+        if (!item->inherits("QQuickAbstractButton") && !item->inherits("QQuickTextInput")) continue;
+        ++controls;
+        expectControl(*item);
+        expectInside(window, *item);
+    }
+    expectApart(texts);
+    EXPECT_GT(controls, 0);
+}
+
+} // namespace ombrivane::view

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "EventLog.h"
+#include "Script.h"
+#include "ScriptedPorts.h"
+#include "Window.h"
+#include "platform/AdjustableClock.h"
+
+#include <memory>
+#include <string>
+
+namespace ombrivane::view {
+
+/// The ports of a customer who is played by a script: a clock that stands where the booking service's stands,
+/// pictures that the script picks. As long as it lives they stand in for the device's own.
+class WalkPorts {
+public:
+    WalkPorts();
+    WalkPorts(const WalkPorts&) = delete;
+    WalkPorts& operator=(const WalkPorts&) = delete;
+    ~WalkPorts();
+
+    journey::EventLog log{[] {}};
+    std::shared_ptr<AdjustableClock> clock = std::make_shared<AdjustableClock>();
+    std::shared_ptr<journey::ScriptedPhotos> photos = std::make_shared<journey::ScriptedPhotos>();
+    std::shared_ptr<journey::ScriptedReachability> reachability =
+        std::make_shared<journey::ScriptedReachability>("127.0.0.1");
+
+private:
+    Platform device_;
+};
+
+/// Plays a script against the pages of `window`; `look NAME` in it calls `look`. Adds a failure where the
+/// script stops early.
+void walk(WalkPorts& ports, Window& window, const std::string& file,
+          const std::function<void(const std::string& name)>& look);
+
+} // namespace ombrivane::view
