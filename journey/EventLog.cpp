@@ -1,22 +1,11 @@
 #include "EventLog.h"
 
+#include "Matching.h"
+
 #include <algorithm>
 #include <cstdio>
 
 namespace ombrivane::journey {
-namespace {
-
-bool holds(const Json& found, const Json& wanted) {
-    if (!wanted.is_object()) return found == wanted;
-    if (!found.is_object()) return false;
-    return std::all_of(wanted.items().begin(), wanted.items().end(), [&](const auto& member) {
-        const auto at = found.find(member.key());
-        return at != found.end() && holds(*at, member.value());
-    });
-}
-
-} // namespace
-
 void EventLog::print(const Json& line) {
     const std::string text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
     std::fwrite(text.data(), 1, text.size(), stdout);
@@ -40,7 +29,7 @@ void EventLog::event(Json line) {
 bool EventLog::take(const std::string& name, const Json& wanted) {
     const std::lock_guard lock(mutex_);
     const auto found = std::find_if(waiting_.begin(), waiting_.end(), [&](const Json& event) {
-        return event.at("event") == name && holds(event, wanted);
+        return event.at("event") == name && matches(event, wanted);
     });
     if (found == waiting_.end()) return false;
     waiting_.erase(found);

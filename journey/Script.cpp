@@ -1,5 +1,6 @@
 #include "Script.h"
 
+#include "Matching.h"
 #include "ScreenPath.h"
 #include "platform/JpegPngCodec.h"
 #include "support/Fault.h"
@@ -77,6 +78,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"wait-screen", [this](const std::string& arguments) { waitScreen(arguments); }},
         {"wait-event", [this](const std::string& arguments) { waitEvent(arguments); }},
         {"no-event", [this](const std::string& name) { noEvent(name); }},
+        {"pause", [this](const std::string& arguments) { pause(arguments); }},
         {"advance", [this](const std::string& arguments) { advance(arguments); }},
         {"pick", [this](const std::string& file) { pick(file); }},
         {"pick-cancel",
@@ -97,7 +99,8 @@ std::string Script::help() {
            "  set PATH JSON                 assigns a field\n"
            "  tap PATH [JSON ...]           does what a tap on the control does\n"
            "  back                          the system's back gesture\n"
-           "  expect PATH JSON              ends the script unless the value is this one\n"
+           "  expect PATH JSON              ends the script unless the value is this one; records may hold "
+           "more members\n"
            "  wait PATH JSON [SECONDS]      waits until it is (10 s unless told)\n"
            "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
            "  wait-event NAME [OBJECT] [SECONDS]\n"
@@ -107,6 +110,7 @@ std::string Script::help() {
            "                                members of OBJECT, at any depth\n"
            "  no-event NAME                 ends the script if there is such an event that was not waited "
            "for\n"
+           "  pause SECONDS                 real time, for what is not to happen\n"
            "  advance SECONDS               moves the clock and the timers on, beyond real time\n"
            "  pick FILE                     the photo library's next answer\n"
            "  pick-cancel                   a cancelled one\n"
@@ -167,7 +171,7 @@ Navigator& Script::navigator() const {
 }
 
 bool Script::holds(const std::string& path, const Json& value) const {
-    return follow(navigator(), path).member->read() == value;
+    return matches(follow(navigator(), path).member->read(), value);
 }
 
 void Script::show() { stage_.log.answer(Json{{"stack", describe(navigator())}}); }
@@ -204,7 +208,8 @@ void Script::expect(const std::string& arguments) {
     } catch (const KeyedError& error) {
         throw ExpectationFailed(path + ": " + error.what());
     }
-    if (found != value.front()) throw ExpectationFailed(path + " is " + found.dump() + ", not " + text);
+    if (!matches(found, value.front()))
+        throw ExpectationFailed(path + " is " + found.dump() + ", not " + text);
 }
 
 void Script::wait(const std::string& arguments) {
@@ -258,6 +263,10 @@ void Script::noEvent(const std::string& name) {
     stage_.runUntil([] { return false; }, std::chrono::milliseconds(0));
     const Json events = stage_.log.waiting(name);
     if (!events.empty()) throw ExpectationFailed("there was an event " + name + ": " + events.dump());
+}
+
+void Script::pause(const std::string& arguments) {
+    stage_.runUntil([this] { return stage_.faulted(); }, milliseconds(seconds(arguments, 0)));
 }
 
 void Script::advance(const std::string& arguments) {

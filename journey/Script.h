@@ -67,6 +67,7 @@ private:
     void waitScreen(const std::string& arguments);
     void waitEvent(const std::string& arguments);
     void noEvent(const std::string& name);
+    void pause(const std::string& arguments);
     void advance(const std::string& arguments);
     void pick(const std::string& file);
     void setReachability(const std::string& arguments);
