@@ -29,15 +29,7 @@ protected:
     Wallet wallet{world, trip, documents};
 };
 
-std::string caseName(const testing::TestParamInfo<SessionTest::ParamType>& row) {
-    const auto& [trip, documents] = row.param;
-    return std::string(trip.domestic ? "special" : trip.tab) + (documents ? "WithDocuments" : "");
-}
-
-INSTANTIATE_TEST_SUITE_P(Trips, SessionTest,
-                         testing::Combine(testing::Values(oneWayTrip, roundTrip, specialTrip),
-                                          testing::Bool()),
-                         caseName);
+INSTANTIATE_TEST_SUITE_P(Trips, SessionTest, everyTrip, tripName);
 
 TEST_P(SessionTest, TheGateAsksOnEachShowingAndNeverBlocks) {
     const auto gate = [this](const char* key) {

@@ -4,12 +4,20 @@
 #include "search/MainViewModel.h"
 
 #include <algorithm>
+#include <map>
 
 namespace ombrivane {
 namespace {
 
 std::string operationOf(const HttpRequest& request) {
     return request.url.substr(request.url.find_last_of('/') + 1);
+}
+
+/// Read once: many roads are played.
+const Json& captured(const std::string& name) {
+    static std::map<std::string, Json> kept;
+    const auto found = kept.find(name);
+    return found != kept.end() ? found->second : kept.emplace(name, fakes::captured(name)).first->second;
 }
 
 } // namespace
@@ -29,6 +37,7 @@ void Wallet::show() {
             const bool exit = dictionary && dictionary->at("exit").get<bool>();
             heard.push_back(error ? "error: " + error->localizedDescription : exit ? "exit" : "progress");
             if (exit) handedOver.push_back(*dictionary);
+            if (dropsWhenCalled) drop();
         });
     view_->onClose([this] {
         heard.emplace_back("close");
@@ -103,15 +112,15 @@ std::size_t Wallet::sentTo(const std::string& operation) const {
 
 Json Wallet::honest(std::size_t index) const {
     const std::string operation = waitingFor(index);
-    if (operation == "get-token") return fakes::captured("token");
-    if (operation == "search-flights") return fakes::captured(trip_.offers);
-    if (operation == "verify-flights") return fakes::captured("restrictions-none");
-    if (operation == "kolmiwallet-generate-order") return fakes::captured("order");
-    if (operation == "kolmiwallet-confirm-order") return fakes::captured("confirmation");
-    if (operation == "issue-ticket") return fakes::captured("ticket");
-    if (operation == "download-ticket") return fakes::captured("download");
+    if (operation == "get-token") return captured("token");
+    if (operation == "search-flights") return captured(trip_.offers);
+    if (operation == "verify-flights") return captured("restrictions-none");
+    if (operation == "kolmiwallet-generate-order") return captured("order");
+    if (operation == "kolmiwallet-confirm-order") return captured("confirmation");
+    if (operation == "issue-ticket") return captured("ticket");
+    if (operation == "download-ticket") return captured("download");
     if (operation == "availability") {
-        Json answer = fakes::captured(trip_.availability);
+        Json answer = captured(trip_.availability);
         Json& data = answer["data"];
         data["documentsRequired"] = documents;
         data["allowedDocuments"] = allowedDocuments;
@@ -120,7 +129,7 @@ Json Wallet::honest(std::size_t index) const {
         data["availabilitySummary"]["numberInfant"] = infants;
         return answer;
     }
-    Json answer = fakes::captured("reservation");
+    Json answer = captured("reservation");
     Json& booked = answer["data"]["bookingSummary"]["passengers"];
     while (booked.size() > adults + children + infants)
         booked.erase(booked.size() - 1);

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ombrivane {
@@ -28,6 +29,15 @@ inline constexpr Trip roundTrip{"RTBookingDetailsView", "roundTrip", "search-rou
 inline constexpr Trip specialTrip{
     "RTBookingDetailsView", "roundTrip", "search-special", "availability-special", true};
 
+/// Each kind of trip, without documents and with them.
+inline const auto everyTrip =
+    testing::Combine(testing::Values(oneWayTrip, roundTrip, specialTrip), testing::Bool());
+
+inline std::string tripName(const testing::TestParamInfo<std::tuple<Trip, bool>>& row) {
+    const auto& [trip, documents] = row.param;
+    return std::string(trip.domestic ? "special" : trip.tab) + (documents ? "WithDocuments" : "");
+}
+
 /// A wallet that shows the component: works it by the keys of its screens, answers for the service, and keeps
 /// what it hears. As wallets do, it drops its view when it is asked to close it.
 class Wallet {
@@ -36,7 +46,7 @@ public:
 
     void show();
     void drop();
-    bool isShown() const { return view_ != nullptr; }
+    bool isShown() const { return view_ && view_->navigator() != nullptr; }
     Navigator& navigator() const { return *view_->navigator(); }
     std::string top() const { return view_ ? std::string(navigator().top()->name()) : "nothing"; }
 
@@ -83,6 +93,7 @@ public:
     std::size_t children = 0;
     std::size_t infants = 0;
     bool documents;
+    bool dropsWhenCalled = false;
     /// A passport cannot be saved where no document is demanded.
     std::vector<std::string> allowedDocuments{documents ? "passport" : "citizenship"};
     std::optional<double> balance;
