@@ -2,6 +2,7 @@
 
 #include "fakes/TestData.h"
 #include "fakes/World.h"
+#include "search/Offers.h"
 #include "session/OmbrivaneView.h"
 #include "state/AppState.h"
 #include "support/Navigator.h"
@@ -19,15 +20,19 @@ namespace ombrivane {
 struct Trip {
     const char* session; ///< name of the session's screen
     const char* tab;     ///< of the search
-    const char* offers;
+    Json (*offers)();    ///< one in each list
     const char* availability;
     bool domestic = false;
 };
 
-inline constexpr Trip oneWayTrip{"OWBookingDetailsView", "oneWay", "search-oneway", "availability-oneway"};
-inline constexpr Trip roundTrip{"RTBookingDetailsView", "roundTrip", "search-round", "availability-round"};
+inline Json oneWayOffers() { return offers::listOf({offers::Sketch()}); }
+inline Json roundTripOffers() { return offers::listOf({offers::Sketch()}, offers::roundTrip); }
+inline Json specialOffers() { return Json::array({oneWayOffers(), oneWayOffers()}); }
+
+inline constexpr Trip oneWayTrip{"OWBookingDetailsView", "oneWay", oneWayOffers, "availability-oneway"};
+inline constexpr Trip roundTrip{"RTBookingDetailsView", "roundTrip", roundTripOffers, "availability-round"};
 inline constexpr Trip specialTrip{
-    "RTBookingDetailsView", "roundTrip", "search-special", "availability-special", true};
+    "RTBookingDetailsView", "roundTrip", specialOffers, "availability-special", true};
 
 /// Each kind of trip, without documents and with them.
 inline const auto everyTrip =
@@ -53,11 +58,14 @@ public:
     /// Each is one event, with the steps of the main queue that follow from it.
     void tap(const std::string& path);
     void tap(const std::string& path, const Json& argument);
+    void trigger(Member& control, const std::vector<Json>& arguments) {
+        event([&] { control.trigger(arguments); });
+    }
     void set(const std::string& path, const Json& value);
     /// The customer picks a small picture.
     void pick();
     /// The service's honest answer to the request that waits at `index`.
-    void answer(std::size_t index = 0) { answer(honest(index), index); }
+    void answer(std::size_t index = 0);
     void answer(const Json& body, std::size_t index = 0);
     void fail(std::size_t index = 0);
 
@@ -94,23 +102,29 @@ public:
     std::size_t infants = 0;
     bool documents;
     bool dropsWhenCalled = false;
+    /// Whether the main queue runs after each event until it is empty.
+    bool drains = true;
     /// A passport cannot be saved where no document is demanded.
     std::vector<std::string> allowedDocuments{documents ? "passport" : "citizenship"};
     std::optional<double> balance;
 
-    /// "exit", "progress", "error: …" and "close", in order; a "dropped" stands where the wallet dropped it.
+    /// "exit", "progress", "error: …" and "close", in order; a "dropped" stands where the wallet dropped it,
+    /// a "shown" where it showed another one, and what an earlier one still says is "late".
     std::vector<std::string> heard;
     std::vector<Dictionary> handedOver;
     /// Successes that must have led to one hand-over each.
     std::size_t reserved = 0;
 
 private:
+    void answerWith(const std::string& text, bool books, std::size_t index);
     void event(const std::function<void()>& run);
     void check() const;
+    void hear(const std::string& word, bool inTime);
 
     fakes::World& world;
     Trip trip_;
     std::unique_ptr<OmbrivaneView> view_;
+    std::size_t shows_ = 0;
 };
 
 } // namespace ombrivane
