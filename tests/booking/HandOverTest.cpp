@@ -1,0 +1,110 @@
+#include "Wallet.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <iostream>
+
+namespace ombrivane {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// What may come between two events of a booking.
+struct Interruption {
+    const char* name;
+    std::function<void(fakes::World&, Wallet&)> happen;
+};
+
+void back(Wallet& wallet, std::size_t times) {
+    while (wallet.isShown() && times-- > 0)
+        wallet.navigator().back();
+}
+
+const Interruption interruptions[] = {
+    {"nothing", [](auto&, auto&) {}},
+    {"back", [](auto&, Wallet& wallet) { back(wallet, 1); }},
+    {"back to the results", [](auto&, Wallet& wallet) { back(wallet, 3); }},
+    {"back out of the component",
+     [](auto&, Wallet& wallet) {
+         back(wallet, 99);
+         if (wallet.isShown() && wallet.top() == "OmbrivaneView" && wallet.navigator().find("MainView"))
+             wallet.tap("MainView.back");
+     }},
+    {"the clock", [](fakes::World& world, auto&) { world.pass(601s); }},
+    {"the clock and a fresh session",
+     [](fakes::World& world, Wallet& wallet) {
+         world.pass(601s);
+         if (!wallet.isShown() || !wallet.top().ends_with("BookingDetailsView")) return;
+         wallet.tap("checkLatestFares");
+         if (wallet.top() != "RulesAndRegulationView") return;
+         wallet.tap("continue");
+     }},
+    {"back to the search", [](auto&, auto&) { AppState::shared().resetNavigation(); }},
+    {"the view dropped", [](auto&, Wallet& wallet) { wallet.drop(); }},
+    {"the view dropped by its callback", [](auto&, Wallet& wallet) { wallet.dropsWhenCalled = true; }},
+};
+
+class HandOverTest : public testing::TestWithParam<std::tuple<Trip, bool>> {
+protected:
+    /// The number of events of a booking that nothing interrupts.
+    static std::size_t length() {
+        fakes::World world;
+        Wallet wallet(world, std::get<Trip>(GetParam()), std::get<bool>(GetParam()));
+        wallet.wholeRoad();
+        EXPECT_EQ(wallet.handedOver.size(), 1U);
+        return wallet.events;
+    }
+};
+
+/// Stops at every boundary between two events, in every way, and lets the service answer what is still asked.
+TEST_P(HandOverTest, AReservationIsHandedOverOnceWhereverTheBookingIsInterrupted) {
+    const std::size_t all = length();
+    std::size_t states = 0;
+    std::size_t underWay = 0;
+    for (std::size_t events = 0; events <= all; ++events) {
+        for (const auto& interruption : interruptions) {
+            for (const bool answersWell : {true, false}) {
+                SCOPED_TRACE(std::string(interruption.name) + " after event " + std::to_string(events) +
+                             (answersWell ? "" : ", then failures"));
+                fakes::World world;
+                Wallet wallet(world, std::get<Trip>(GetParam()), std::get<bool>(GetParam()));
+                wallet.limit = events;
+                try {
+                    wallet.wholeRoad();
+                } catch (const Wallet::Stopped&) {
+                }
+                wallet.limit.reset();
+                const bool reserving = wallet.sentTo("reservation") > 0;
+                interruption.happen(world, wallet);
+                if (!answersWell) {
+                    world.queue->drain();
+                    while (world.network->outstanding() > 0)
+                        wallet.fail();
+                }
+                wallet.settle();
+                world.pass(10min);
+                EXPECT_EQ(wallet.contract(), "");
+                if (answersWell) {
+                    EXPECT_EQ(wallet.handedOver.size(), reserving ? 1U : 0U);
+                }
+                EXPECT_TRUE(world.takeFaults().empty());
+                ++states;
+                underWay += reserving ? 1 : 0;
+            }
+        }
+        if (HasFailure()) break;
+    }
+    RecordProperty("events", static_cast<int>(all));
+    RecordProperty("interrupted", static_cast<int>(states));
+    RecordProperty("while reserving", static_cast<int>(underWay));
+    std::cout << states << " states interrupted in " << all << " events, " << underWay
+              << " with a reservation sent\n";
+    EXPECT_GE(states, 500U);
+    EXPECT_GE(underWay, std::get<bool>(GetParam()) ? 112U : 80U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Trips, HandOverTest, everyTrip, tripName);
+
+} // namespace
+} // namespace ombrivane

@@ -1,0 +1,331 @@
+#include "Wallet.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <tuple>
+
+namespace ombrivane {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* refused = R"({"success":false,"data":{"error":"No seats left."}})";
+
+/// Every kind of trip on the same road, without documents and with them.
+class SessionTest : public testing::TestWithParam<std::tuple<Trip, bool>> {
+protected:
+    /// What the snack bar of the session says, "" while it is hidden.
+    std::string message() const {
+        return wallet.get("showSnackBar").get<bool>() ? wallet.get("errorMessage").get<std::string>() : "";
+    }
+    /// The last request names both offers of a special round, whatever was searched for.
+    void expectItinerary() const {
+        const Json sent = wallet.lastSent();
+        const bool oneWay = session == "OWBookingDetailsView";
+        EXPECT_EQ(sent["itinerary_type"], trip.domestic ? "round_special" : oneWay ? "oneway" : "round");
+        EXPECT_EQ(sent.contains("itinerary_return"), trip.domestic);
+    }
+    std::string phase() const { return wallet.get(session + ".phase").get<std::string>(); }
+    std::string clock() const { return wallet.get(session + ".clockText").get<std::string>(); }
+
+    fakes::World world;
+    const Trip trip = std::get<Trip>(GetParam());
+    const std::string session = trip.session;
+    const bool documents = std::get<bool>(GetParam());
+    Wallet wallet{world, trip, documents};
+};
+
+INSTANTIATE_TEST_SUITE_P(Trips, SessionTest, everyTrip, tripName);
+
+TEST_P(SessionTest, TheGateAsksOnEachShowingAndNeverBlocks) {
+    const auto gate = [this](const char* key) {
+        return wallet.get("RulesAndRegulationView." + std::string(key));
+    };
+    wallet.toGate();
+    EXPECT_EQ(wallet.waitingFor(), "verify-flights");
+    expectItinerary();
+    wallet.tap("continue");
+    wallet.tap("cancel");
+    EXPECT_EQ(wallet.top(), "RulesAndRegulationView") << "both wait for the answer";
+
+    wallet.answer(Json::parse(refused));
+    EXPECT_EQ(message(), "No seats left.");
+    EXPECT_EQ(gate("htmlText"), "");
+    wallet.tap("continue");
+    EXPECT_EQ(wallet.top(), session) << "a failed check does not block";
+    wallet.tap("back");
+    EXPECT_EQ(wallet.waitingFor(1), "verify-flights");
+    EXPECT_EQ(gate("showProgressView"), false) << "once only";
+    wallet.answer(fakes::captured("restrictions"), 1);
+    EXPECT_EQ(gate("paragraphs").empty(), false);
+
+    wallet.set("RulesAndRegulationView.showSnackBar", false);
+    wallet.tap("continue");
+    wallet.tap("back");
+    wallet.fail(2);
+    EXPECT_EQ(message(), "The request timed out.");
+    world.pass(2999ms);
+    EXPECT_NE(message(), "");
+    world.pass(1ms);
+    EXPECT_EQ(message(), "");
+    wallet.tap("cancel");
+    EXPECT_TRUE(wallet.top().ends_with("FlightListView")) << wallet.top();
+}
+
+TEST_P(SessionTest, TheWholeRoadHandsOverAndCloses) {
+    wallet.adults = 2;
+    wallet.infants = 1;
+    wallet.toReady();
+    EXPECT_EQ(wallet.get("clockLabel"), "left for confirmation");
+    wallet.tap("continue");
+    EXPECT_EQ(wallet.get("phase"), "reserving");
+    EXPECT_EQ(wallet.get("progressMessage"), "Please wait ...");
+    const Json sent = wallet.lastSent();
+    EXPECT_EQ(sent["passengers"].size(), 3U);
+    EXPECT_EQ(sent["passengers"][2]["type"], "INF");
+    EXPECT_EQ(sent["availabilitySummary"]["numberInfant"], 1);
+    EXPECT_EQ(sent["emergencyContact"]["name"], "Asha Lama");
+    wallet.answer();
+    if (documents) {
+        EXPECT_TRUE(wallet.heard.empty());
+        const auto upload = *world.network->last().body;
+        for (const char* id : {"[41001]", "[41002]", "[41003]"})
+            EXPECT_NE(upload.find("documentImage" + std::string(id)), std::string::npos);
+        // Its own record is not what the wallet gets.
+        Json other = wallet.honest();
+        other["data"]["bookingSummary"]["PNR"] = "OTHER";
+        wallet.answer(other);
+    }
+    EXPECT_EQ(wallet.heard, (std::vector<std::string>{"exit", "close"}));
+    EXPECT_EQ(wallet.contract(), "");
+    const AppState& state = AppState::shared();
+    EXPECT_FALSE(state.onewaySearchRootViewActive || state.roundtripSearchRootViewActive ||
+                 state.domesticSearchRootViewActive);
+
+    const Json held = fakes::captured(trip.availability)["data"];
+    const Json flights = held["flightsSummary"];
+    const Dictionary& dictionary = wallet.handedOver.front();
+    EXPECT_EQ(dictionary.size(), 6U);
+    EXPECT_EQ(dictionary["bookingSummary"]["PNR"], "PJZGBL");
+    EXPECT_EQ(dictionary["bookingSummary"]["passengers"].size(), 3U);
+    EXPECT_EQ(dictionary["emergencyContact"],
+              Json::parse(R"({"contact":"9800000000","email":"asha@example.com","name":"Asha Lama"})"));
+    EXPECT_EQ(dictionary["bearerToken"], AppState::shared().accessToken.get());
+    EXPECT_EQ(dictionary["totalCost"], held["fareInformation"]["total_cost"]);
+    const Json& journeys = dictionary["flightSummary"];
+    EXPECT_EQ(journeys.size(), 2U);
+    EXPECT_EQ(journeys["departureFlight"].size(), 13U);
+    EXPECT_EQ(journeys["returnFlight"].size(), session == "OWBookingDetailsView" ? 0U : 13U);
+    const char* const keys[][3]{
+        {"carrierCode", "carrierCode", "carrierCodeReturn"},
+        {"carrierLogo", "carrierLogo", "carrierLogoReturn"},
+        {"carrierName", "carrierName", "carrierNameReturn"},
+        {"deptDate", "dept_date", "return_dept_date"},
+        {"deptTime", "dept_time", "return_dept_time"},
+        {"arrivalDate", "dest_date", "return_dest_date"},
+        {"arrivalTime", "dest_time", "return_dest_time"},
+        {"departureAirportCode", "depart_city_airport_code", "return_depart_city_airport_code"},
+        {"departureAirport", "depart_city_airport_name", "return_depart_city_airport_name"},
+        {"departureCity", "depart_city_name", "return_depart_city_name"},
+        {"arrivalAirportCode", "dest_city_airport_code", "return_dest_city_airport_code"},
+        {"arrivalAirport", "dest_city_airport_name", "return_dest_city_airport_name"},
+        {"arrivalCity", "dest_city_name", "return_dest_city_name"},
+    };
+    for (const auto& [key, going, coming] : keys) {
+        EXPECT_EQ(journeys["departureFlight"].at(key), flights.at(going));
+        if (!journeys["returnFlight"].is_null()) {
+            EXPECT_EQ(journeys["returnFlight"].at(key), flights.at(coming));
+        }
+    }
+    const auto& lines = world.diagnostics->lines;
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "documents requird"),
+              documents && session == "RTBookingDetailsView" ? 1 : 0);
+}
+
+TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
+    constexpr const char* contact = "Please fill the details for emergency contact.";
+    constexpr const char* passengers = "Please fill the details for all passengers.";
+    wallet.adults = 2;
+    wallet.toSession();
+    const auto refuses = [&](const char* words) {
+        wallet.set("showSnackBar", false);
+        wallet.tap("continue");
+        EXPECT_EQ(message(), words);
+        EXPECT_EQ(phase(), "open");
+    };
+    refuses(contact);
+    wallet.fillTraveller(0);
+    wallet.fillTraveller(1);
+    refuses(contact);
+    wallet.set("passengersList", Json::array());
+    wallet.fillContact();
+    refuses(passengers);
+    wallet.fillTraveller(1);
+    refuses(passengers);
+    wallet.tap("contact.contactLine.tap");
+    wallet.tap("tapBox");
+    wallet.tap("save");
+    refuses(passengers);
+    wallet.fillTraveller(1);
+    EXPECT_EQ(wallet.get("passengersList").size(), 2U);
+    world.pass(3s);
+    EXPECT_EQ(message(), "") << "hides by itself";
+    EXPECT_EQ(wallet.sentTo("reservation"), 0U);
+    wallet.tap("continue");
+    EXPECT_EQ(wallet.sentTo("reservation"), 1U);
+}
+
+TEST_P(SessionTest, ABookingWithoutPassengersIsAFault) {
+    wallet.adults = 0;
+    wallet.toReady();
+    wallet.tap("continue");
+    EXPECT_EQ(world.takeFaults().size(), 1U);
+    EXPECT_EQ(wallet.sentTo("reservation"), 0U);
+}
+
+TEST_P(SessionTest, AFailedAvailabilityLeavesAfterThreeSecondsUnlessTheCustomerWasFaster) {
+    wallet.toGate();
+    wallet.answer();
+    const auto fail = [this] {
+        wallet.tap("continue");
+        wallet.answer(Json::parse(refused));
+        EXPECT_EQ(wallet.get("errorMessage"), "No seats left.");
+        EXPECT_EQ(wallet.get("isLoading"), true);
+        EXPECT_EQ(wallet.get("showsFoot"), false);
+        EXPECT_EQ(wallet.get("total"), "NPR 1");
+        world.pass(2999ms);
+        ASSERT_EQ(wallet.top(), session);
+    };
+    fail();
+    wallet.tap("back");
+    wallet.answer();
+    wallet.tap("continue");
+    world.pass(1ms);
+    EXPECT_EQ(wallet.top(), session) << "the dismissal of one session closes no other";
+    wallet.tap("back");
+    wallet.answer();
+    wallet.answer();
+    fail();
+    world.pass(1ms);
+    EXPECT_EQ(wallet.top(), "RulesAndRegulationView");
+    EXPECT_EQ(wallet.sentTo("availability"), 3U);
+}
+
+TEST_P(SessionTest, TheClockRunsInEveryPhaseToZeroAndExpiryLeadsToAFreshSession) {
+    wallet.toGate();
+    wallet.answer();
+    wallet.tap("continue");
+    expectItinerary();
+    EXPECT_EQ(clock(), "10:00");
+    world.pass(61s);
+    EXPECT_EQ(clock(), "08:59") << "while the availability loads";
+    wallet.answer();
+    wallet.tap("contact.contactLine.tap");
+    world.pass(478s);
+    EXPECT_EQ(clock(), "01:01") << "behind a form, with all ticks that are owed";
+    EXPECT_EQ(wallet.get(session + ".isLastMinute"), false);
+    wallet.tap("close");
+    world.pass(1s);
+    EXPECT_EQ(wallet.get("isLastMinute"), true);
+    world.pass(60s);
+    EXPECT_EQ(clock(), "00:00");
+    EXPECT_EQ(phase(), "open") << "it expires with the tick after";
+    wallet.tap("checkLatestFares");
+    EXPECT_EQ(wallet.top(), session);
+    world.pass(1s);
+    EXPECT_EQ(phase(), "expired");
+    world.pass(1h);
+    EXPECT_EQ(clock(), "00:00");
+    for (const char* covered : {"back", "continue"})
+        wallet.tap(covered);
+    EXPECT_EQ(wallet.top(), session);
+    EXPECT_EQ(wallet.get("expiredTitle"), "Session Expired");
+    wallet.tap("checkLatestFares");
+    EXPECT_EQ(wallet.top(), "RulesAndRegulationView");
+    wallet.answer();
+    wallet.tap("continue");
+    EXPECT_EQ(clock(), "10:00");
+    EXPECT_EQ(wallet.sentTo("availability"), 2U);
+    EXPECT_EQ(wallet.get("isLoading"), true);
+    EXPECT_TRUE(wallet.get("passengersList").empty());
+}
+
+TEST_P(SessionTest, AReservationUnderWaySurvivesTheClock) {
+    wallet.toReady();
+    wallet.tap("continue");
+    world.pass(601s);
+    EXPECT_EQ(phase(), "expired") << "the overlay stands above the progress";
+    wallet.answer();
+    if (documents) wallet.answer();
+    EXPECT_EQ(wallet.heard, (std::vector<std::string>{"exit", "close"}));
+}
+
+TEST_P(SessionTest, AFailureOfTheReservationOrTheUploadMayBeTriedAgain) {
+    wallet.toReady();
+    wallet.tap("continue");
+    wallet.answer(Json::parse(refused));
+    EXPECT_EQ(message(), "No seats left.");
+    EXPECT_EQ(phase(), "open");
+    wallet.tap("continue");
+    if (documents) wallet.answer();
+    EXPECT_EQ(wallet.waitingFor(), documents ? "documents" : "reservation");
+    EXPECT_EQ(phase(), "reserving");
+    wallet.fail();
+    EXPECT_EQ(message(), "The request timed out.");
+    EXPECT_TRUE(wallet.heard.empty());
+    wallet.tap("continue");
+    EXPECT_EQ(wallet.sentTo("reservation"), 3U) << "the failed upload's reservation is not taken up again";
+    EXPECT_EQ(wallet.sentTo("availability"), 1U);
+    wallet.settle();
+    EXPECT_EQ(wallet.contract(), "");
+    EXPECT_EQ(wallet.handedOver.size(), 1U);
+}
+
+TEST_P(SessionTest, WhileItReservesNothingElseCanBeTapped) {
+    wallet.toReady();
+    wallet.tap("continue");
+    for (const char* control : {"continue", "back", "checkLatestFares"}) {
+        EXPECT_FALSE(wallet.enabled(session + "." + control)) << control;
+        wallet.tap(session + "." + control);
+    }
+    EXPECT_EQ(wallet.sentTo("reservation"), 1U) << "two quick taps reserve once";
+    EXPECT_EQ(wallet.top(), session);
+}
+
+TEST_P(SessionTest, WhatIsHiddenOrCoveredDoesNothing) {
+    wallet.toGate();
+    wallet.answer();
+    wallet.tap("continue");
+    EXPECT_FALSE(wallet.enabled("continue"));
+    EXPECT_FALSE(wallet.enabled("viewDetails"));
+    wallet.tap("continue");
+    wallet.tap("viewDetails");
+    wallet.answer();
+    wallet.fillContact();
+    wallet.fillTraveller();
+    wallet.tap("contact.rows[0].tap");
+    ASSERT_EQ(wallet.top(), "TravellerInformationView");
+    const auto& stack = wallet.navigator().stack();
+    for (std::size_t i = 0; i + 1 < stack.size(); ++i) {
+        for (const auto& screen : Navigator::withParts(stack[i].screen)) {
+            for (Member* member : screen->fields.members()) {
+                if (member->kind() != MemberKind::action) continue;
+                EXPECT_EQ(member->read().at("enabled"), false) << screen->name() << "." << member->key();
+            }
+        }
+    }
+    wallet.tap(session + ".continue");
+    wallet.tap(session + ".back");
+    EXPECT_EQ(wallet.top(), "TravellerInformationView");
+    EXPECT_EQ(wallet.sentTo("reservation"), 0U);
+    wallet.tap("close");
+    wallet.tap("viewDetails");
+    EXPECT_TRUE(wallet.top().ends_with("FlightDetailsView"));
+    wallet.tap("close");
+    EXPECT_EQ(wallet.sentTo("availability"), 1U) << "a session that comes back keeps its availability";
+    EXPECT_EQ(wallet.get("passengersList").size(), 1U);
+}
+
+} // namespace
+} // namespace ombrivane
