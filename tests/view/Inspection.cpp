@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QFontMetricsF>
 
 #include <cmath>
 
@@ -25,6 +26,15 @@ void expectText(const QQuickItem& item) {
     EXPECT_FALSE(item.property("truncated").toBool()) << describe(item);
     EXPECT_LE(item.property("contentWidth").toDouble(), item.width() + half) << describe(item);
     EXPECT_LE(item.property("contentHeight").toDouble(), item.height() + half) << describe(item);
+}
+
+/// A line is broken between words only.
+void expectWholeWords(const QQuickItem& item) {
+    const QFontMetricsF metrics(item.property("font").value<QFont>());
+    for (const QString& word : item.property("text").toString().split(' ', Qt::SkipEmptyParts)) {
+        EXPECT_LE(metrics.horizontalAdvance(word), item.width() + 1)
+            << word.toStdString() << " of " << describe(item);
+    }
 }
 
 void expectControl(QQuickItem& item) {
@@ -78,6 +88,7 @@ void expectSound(Window& window) {
         if (item->inherits("QQuickText")) {
             if (item->property("text").toString().isEmpty()) continue;
             expectText(*item);
+            expectWholeWords(*item);
             expectInside(window, *item);
             texts.push_back(item);
         }

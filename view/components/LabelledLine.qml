@@ -9,9 +9,13 @@ Item {
     property string label: ""
     property string value: ""
 
-    implicitHeight: Math.max(22, told.implicitHeight, given.implicitHeight)
+    // The value goes below its label where there is no room beside it.
+    readonly property bool stacked: value !== "" && label !== "" && width - told.x < naturalLabel.advanceWidth + naturalValue.advanceWidth + 12
 
-    TextMetrics { id: natural; font: given.font; text: line.value }
+    implicitHeight: stacked ? told.implicitHeight + given.implicitHeight : Math.max(22, told.implicitHeight, given.implicitHeight)
+
+    TextMetrics { id: naturalLabel; font: told.font; text: line.label }
+    TextMetrics { id: naturalValue; font: given.font; text: line.value }
     Icon {
         id: icon
         visible: line.iconName !== ""
@@ -23,14 +27,17 @@ Item {
     }
     PlainText {
         id: told
-        anchors { left: icon.right; leftMargin: icon.visible ? 10 : 0; right: given.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
+        x: icon.visible ? 32 : 0
+        y: line.stacked ? 0 : (line.height - height) / 2
+        width: line.stacked ? line.width - x : given.x - x - 10
         text: line.label
         color: Theme.placeHolderColor
     }
     PlainText {
         id: given
-        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-        width: Math.min(Math.ceil(natural.advanceWidth) + 1, line.width * 0.6)
+        x: line.width - width
+        y: line.stacked ? line.height - height : (line.height - height) / 2
+        width: Math.min(Math.ceil(naturalValue.advanceWidth) + 1, line.width - told.x)
         text: line.value
         horizontalAlignment: Text.AlignRight
         font.weight: Font.Medium

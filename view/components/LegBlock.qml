@@ -20,8 +20,12 @@ ColumnLayout {
         Layout.fillWidth: true
         spacing: 10
         Logo { url: block.modelData.carrierLogo }
-        PlainText { Layout.fillWidth: true; text: block.modelData.carrier; font.weight: Font.Medium }
-        PlainText { text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 0
+            PlainText { Layout.fillWidth: true; text: block.modelData.carrier; font.weight: Font.Medium }
+            PlainText { Layout.fillWidth: true; text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+        }
     }
     RowLayout {
         Layout.fillWidth: true

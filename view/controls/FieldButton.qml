@@ -28,7 +28,8 @@ T.AbstractButton {
         Icon {
             id: icon
             x: 14
-            width: 22
+            visible: field.width >= 180 * Theme.textScale
+            width: visible ? 22 : 0
             height: 22
             anchors.verticalCenter: parent.verticalCenter
             name: field.iconName
@@ -36,7 +37,7 @@ T.AbstractButton {
         }
         Column {
             id: texts
-            anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+            anchors { left: icon.right; leftMargin: icon.visible ? 12 : 0; right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
             PlainText {
                 visible: field.value !== ""
                 width: parent.width

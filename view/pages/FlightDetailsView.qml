@@ -19,12 +19,12 @@ Item {
     }
     PageColumn {
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
-        RowLayout {
+        Flow {
             Layout.fillWidth: true
             spacing: 8
             PlainText { text: page.screen.originCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
-            Icon { implicitWidth: 22; implicitHeight: 22; name: page.screen.routeImage; color: Theme.blackColor }
-            PlainText { Layout.fillWidth: true; text: page.screen.destinationCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            Icon { width: 22; height: 22 * Math.max(1, Theme.textScale); name: page.screen.routeImage; color: Theme.blackColor }
+            PlainText { text: page.screen.destinationCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
         }
         Repeater {
             model: page.screen.journeys

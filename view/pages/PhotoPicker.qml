@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Dialogs
+import QtQuick.Layouts
 import Ombrivane
 
 // The picker of a desktop: a file, then the part of it that is kept.
@@ -47,20 +48,24 @@ Sheet {
             height: preview.paintedHeight
         }
     }
-    Row {
+    GridLayout {
         id: foot
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }
-        spacing: Theme.gap
+        columns: width < 400 * Theme.textScale ? 1 : 2
+        columnSpacing: Theme.gap
+        rowSpacing: 8
         MainButton {
             objectName: "another"
-            width: (foot.width - foot.spacing) / 2
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
             quiet: true
             text: qsTr("Another picture")
             onClicked: dialog.open()
         }
         MainButton {
             objectName: "use"
-            width: (foot.width - foot.spacing) / 2
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
             enabled: preview.status === Image.Ready
             text: qsTr("Use this picture")
             onClicked: page.screen.choose(dialog.selectedFile, crop.kept)

@@ -38,11 +38,13 @@ Item {
             label: qsTr("Fetching the fare rules")
         }
     }
-    RowLayout {
+    GridLayout {
         id: foot
         anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
         width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
-        spacing: Theme.gap
+        columns: width < 300 * Theme.textScale ? 1 : 2
+        columnSpacing: Theme.gap
+        rowSpacing: 8
         MainButton {
             objectName: "cancel"
             Layout.fillWidth: true
