@@ -2,6 +2,7 @@
 
 #include "device/QtMainQueue.h"
 #include "support/Navigator.h"
+#include "support/SharedInstance.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 namespace ombrivane::view {
 
 WalkPorts::WalkPorts() : device_(platform()) {
+    dropSharedInstances(); // each customer starts with an empty form
     Platform ports = device_;
     clock->startAt(startOfTests());
     ports.clock = clock;
