@@ -9,6 +9,23 @@ constexpr const char* domain = "Network";
 constexpr const char* tooLargeText = "The answer is too large.";
 constexpr const char* abandonedText = "The request was cancelled.";
 
+/// What a customer reads; curl's own words are for those who know it.
+const char* textOf(CURLcode result) {
+    switch (result) {
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_CONNECT:
+        return "The booking service could not be reached.";
+    case CURLE_OPERATION_TIMEDOUT:
+        return "The booking service did not answer in time.";
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_CACERT_BADFILE:
+        return "A secure connection to the booking service could not be made.";
+    default:
+        return "The connection to the booking service was lost.";
+    }
+}
+
 template <class Value> void set(CURL* handle, CURLoption option, Value value) {
     curl_easy_setopt(handle, option, value);
 }
@@ -93,14 +110,14 @@ int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t,
     return transfer.silent_ ? 1 : 0;
 }
 
-void CurlTransfer::fail(int code, const std::string& text) {
-    guarded([&] { completion_({std::nullopt, Error{domain, code, text}}); });
+void CurlTransfer::fail(int code, const std::string& text, const std::string& developerText) {
+    guarded([&] { completion_({std::nullopt, Error{domain, code, text, developerText}}); });
 }
 
 void CurlTransfer::complete(CURLcode result) {
     if (tooLarge_) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText);
     if (silent_) result = CURLE_OPERATION_TIMEDOUT;
-    if (result != CURLE_OK) return fail(result, curl_easy_strerror(result));
+    if (result != CURLE_OK) return fail(result, textOf(result), curl_easy_strerror(result));
     guarded([&] { completion_({std::move(received_), std::nullopt}); });
 }
 

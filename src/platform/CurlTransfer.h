@@ -42,7 +42,7 @@ private:
     /// some seconds: it takes an early burst for a sign of life and a very slow answer for silence.
     static int watch(void* self, curl_off_t toReceive, curl_off_t received, curl_off_t toSend,
                      curl_off_t sent);
-    void fail(int code, const std::string& text);
+    void fail(int code, const std::string& text, const std::string& developerText = "");
 
     HttpRequest request_;
     HttpCompletion completion_;

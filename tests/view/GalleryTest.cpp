@@ -23,14 +23,12 @@ struct Look {
 constexpr Look phone{"phone", 390, 844, false, 1};
 constexpr Look looks[] = {
     phone,
-    {"dark", 390, 844, true, 1},
-    {"narrow", 320, 568, false, 1},
-    {"large-text", 390, 844, true, 2},
+    {"dark-narrow", 320, 640, true, 1},
     {"narrow-large-text", 320, 568, false, 2},
     {"wide", 1024, 768, false, 1.3},
 };
 
-constexpr const char* walks[] = {"abroad", "home", "trouble"};
+constexpr const char* walks[] = {"abroad", "home", "trouble", "payment"};
 
 /// The share of points that differ by more than what smoothing makes of them.
 double difference(const QImage& one, const QImage& other) {

@@ -41,8 +41,8 @@ Item {
                 LabelledLine { Layout.fillWidth: true; label: flight.modelData.departureCity; value: flight.modelData.departureTime }
                 LabelledLine { Layout.fillWidth: true; label: flight.modelData.arrivalCity; value: flight.modelData.arrivalTime }
                 PlainText { text: flight.modelData.date; color: Theme.placeHolderColor }
-                LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; value: flight.modelData.cabin }
-                LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; value: flight.modelData.checkIn }
+                LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: qsTr("Cabin Baggage"); value: flight.modelData.cabin }
+                LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: qsTr("Check-In Baggage"); value: flight.modelData.checkIn }
             }
         }
         Repeater {
