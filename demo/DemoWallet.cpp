@@ -54,11 +54,7 @@ DemoWallet::DemoWallet(DemoOptions options) : options_(std::move(options)) {
 
 DemoWallet::~DemoWallet() {
     engine_.reset();
-    // The network first: what is under way is answered, and lets go of its screens, while all else still
-    // stands.
-    Platform ports = platform();
-    ports.network.reset();
-    Platform::install(std::move(ports));
+    Platform::endNetwork();
     runUntil([] { return false; }, std::chrono::milliseconds(0));
     dropSharedInstances();
     setFaultHandler(nullptr);

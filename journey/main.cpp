@@ -42,11 +42,7 @@ public:
 
     ~Wallet() {
         view_.reset();
-        // The network first: what is under way is answered, and lets go of its screens, while all else still
-        // stands.
-        Platform ports = platform();
-        ports.network.reset();
-        Platform::install(std::move(ports));
+        Platform::endNetwork();
         loop_->runUntil([] { return false; }, std::chrono::milliseconds(0));
         dropSharedInstances();
         setFaultHandler(nullptr);

@@ -16,6 +16,13 @@ std::optional<Platform>& installed() {
 
 void Platform::install(Platform platform) { installed() = std::move(platform); }
 
+void Platform::endNetwork() {
+    if (!installed()) return;
+    // Out of the platform before its thread ends: completions on that thread still read the other ports.
+    std::shared_ptr<Network> network = std::move(installed()->network);
+    network.reset();
+}
+
 const Platform& platform() {
     if (!installed()) fatalFault("no platform is installed");
     return *installed();

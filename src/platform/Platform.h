@@ -33,7 +33,12 @@ struct Platform {
     std::shared_ptr<Diagnostics> diagnostics = std::make_shared<SilentDiagnostics>();
     SystemVersion system;
 
+    /// Main thread, with no request under way.
     static void install(Platform platform);
+
+    /// Ends the installed network: what is under way is answered, and lets go of its screens, while all other
+    /// ports still stand. What a host does before it ends. Main thread.
+    static void endNetwork();
 };
 
 /// The installed platform. A port that was left empty, or no platform at all, is a fault when it is used.

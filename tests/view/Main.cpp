@@ -39,9 +39,7 @@ int main(int count, char** values) {
     ombrivane::ServiceHosts::use({.production = "https://localhost:1", .test = service.address()});
     ombrivane::Platform::install(ombrivane::view::qtPlatform(service.caFile(), "127.0.0.1"));
     const int result = RUN_ALL_TESTS();
-    ombrivane::Platform ports = ombrivane::platform();
-    ports.network.reset();
-    ombrivane::Platform::install(std::move(ports));
+    ombrivane::Platform::endNetwork();
     QCoreApplication::processEvents();
     ombrivane::dropSharedInstances();
     ombrivane::Platform::install({});
