@@ -39,7 +39,9 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::
     handle_(curl_easy_init()) {
     CURL* curl = handle();
     for (const auto& [name, value] : request_.headers) {
-        headers_.reset(curl_slist_append(headers_.release(), (name + ": " + value).c_str()));
+        std::string line = name;
+        line.append(": ").append(value);
+        headers_.reset(curl_slist_append(headers_.release(), line.c_str()));
     }
     // Without this line a larger body would wait for the server's "100 Continue".
     headers_.reset(curl_slist_append(headers_.release(), "Expect:"));

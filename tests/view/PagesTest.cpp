@@ -1,10 +1,13 @@
 #include "Inspection.h"
+#include "Walk.h"
 
 #include "support/Navigator.h"
 
 #include <gtest/gtest.h>
 
-#include <QSignalSpy>
+#include <QAccessible>
+
+#include <algorithm>
 
 namespace ombrivane::view {
 namespace {
@@ -59,6 +62,43 @@ TEST(PagesTest, anAirportAndTheTravellersAreChosenByHand) {
     expectSound(window);
     EXPECT_TRUE(window.session().stage()->back());
     EXPECT_EQ(top(window), "OmbrivaneView");
+}
+
+std::vector<std::string>* announced = nullptr;
+
+void hear(QAccessibleEvent* event) {
+    if (event->type() != QAccessible::Alert || announced == nullptr) return;
+    announced->push_back(event->accessibleInterface()->text(QAccessible::Name).toStdString());
+}
+
+/// What a customer cannot see is said: that something is awaited, what is wrong, that the time is short. A
+/// form that was not saved leads to the first field that is missing.
+TEST(PagesTest, WhatHappensIsSaidAloudAndTheFirstMissingFieldHasTheFocus) {
+    std::vector<std::string> said;
+    announced = &said;
+    QAccessible::setActive(true);
+    const auto before = QAccessible::installUpdateHandler(hear);
+    {
+        WalkPorts ports;
+        Window window(320, 568);
+        walk(ports, window, "tests/view/gallery/said.script", [&](const std::string& name) {
+            window.settle();
+            if (name != "focus") return;
+            const QQuickItem* focused = window.window().activeFocusItem();
+            ASSERT_NE(focused, nullptr);
+            EXPECT_EQ(focused->objectName(), "documentNumber");
+            const double top = focused->mapToScene(QPointF()).y();
+            EXPECT_GT(top, 0);
+            EXPECT_LT(top + focused->height(), window.window().height());
+        });
+    }
+    QAccessible::installUpdateHandler(before);
+    announced = nullptr;
+    for (const char* text : {"Please fill the details for emergency contact.",
+                             "Please fill the marked fields.",
+                             "Less than a minute left for confirmation"})
+        EXPECT_EQ(std::count(said.begin(), said.end(), text), 1) << text;
+    EXPECT_NE(std::find(said.begin(), said.end(), "Fetching the fare rules"), said.end());
 }
 
 TEST(PagesTest, theBackControlClosesWithoutAWordToTheHost) {

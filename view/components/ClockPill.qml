@@ -20,9 +20,15 @@ Rectangle {
     color: Theme.whiteColor
     border.width: 1
     border.color: tint
-    Accessible.role: lastMinute ? Accessible.AlertMessage : Accessible.StaticText
-    Accessible.name: lastMinute ? qsTr("Less than a minute left for confirmation") : label
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTr("%1 %2").arg(time).arg(label)
 
+    Announcement {
+        id: said
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: said.text
+        text: pill.lastMinute ? qsTr("Less than a minute left for confirmation") : ""
+    }
     // The words go below the time where there is no room beside it.
     Flow {
         id: row

@@ -2,15 +2,38 @@ import QtQuick
 import QtQuick.Layouts
 import Ombrivane
 
-// The scrolling content of a page, at most as wide as reads well.
+// The scrolling content of a page, at most as wide as reads well. What has the focus stays in view.
 Flickable {
     id: area
 
     default property alias content: column.data
 
+    function reveal(item: Item) {
+        const place = item.mapToItem(column, 0, 0).y + column.y
+        if (place < contentY) contentY = Math.max(0, place - Theme.gap)
+        else if (place + item.height > contentY + height) contentY = place + item.height - height + Theme.gap
+    }
+    function showFirstMissing() {
+        for (let i = 0; i < column.children.length; ++i) {
+            const field = column.children[i] as FormField
+            if (field === null || !field.visible || !field.missing) continue
+            field.forceActiveFocus(Qt.OtherFocusReason)
+            return
+        }
+    }
+
     contentHeight: column.implicitHeight + 2 * Theme.margin
     clip: true
 
+    Connections {
+        target: area.Window.window
+        function onActiveFocusItemChanged() {
+            const focused = area.Window.activeFocusItem
+            for (let item = focused; item !== null; item = item.parent) {
+                if (item === column) return area.reveal(focused)
+            }
+        }
+    }
     ColumnLayout {
         id: column
         x: (area.width - width) / 2

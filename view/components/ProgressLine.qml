@@ -11,6 +11,12 @@ Item {
     Accessible.role: Accessible.ProgressBar
     Accessible.name: label
 
+    Announcement {
+        id: said
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: said.text
+        text: line.visible ? line.label : ""
+    }
     Rectangle {
         anchors.fill: parent
         radius: 2

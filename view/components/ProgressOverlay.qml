@@ -8,9 +8,13 @@ Rectangle {
     required property string message
 
     color: Theme.dimColor
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: message
 
+    Announcement {
+        id: said
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: said.text
+        text: overlay.visible ? overlay.message : ""
+    }
     TapHandler {}
     Rectangle {
         anchors.centerIn: parent

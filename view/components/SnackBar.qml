@@ -13,10 +13,13 @@ Item {
     implicitHeight: panel.height
     visible: arrival > 0
     opacity: arrival
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: message
-    Accessible.ignored: !shown
 
+    Announcement {
+        id: said
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: said.text
+        text: bar.shown ? bar.message : ""
+    }
     Behavior on arrival { NumberAnimation { duration: Theme.reducedMotion ? 0 : 250; easing.type: Easing.OutCubic } }
 
     Rectangle {

@@ -18,6 +18,7 @@ Item {
         onLeave: page.screen.close()
     }
     PageColumn {
+        id: fields
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
         FormField {
             objectName: "name"
@@ -72,6 +73,10 @@ Item {
         width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
         text: page.screen.saveText
         onClicked: page.screen.save()
+    }
+    Connections {
+        target: page.screen
+        function onShowSnackBarChanged() { if (page.screen.showSnackBar) fields.showFirstMissing() }
     }
     SnackBar {
         anchors { left: parent.left; right: parent.right; bottom: save.top; margins: Theme.margin }
