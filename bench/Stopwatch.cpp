@@ -1,6 +1,7 @@
 #include "Stopwatch.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <ctime>
 
 namespace ombrivane::bench {
@@ -13,6 +14,17 @@ double processorSeconds() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
+/// Lets the allocator do now what it put off while the last work freed its memory: a large request makes it
+/// merge and sort what is free, which the next work would pay for otherwise.
+void settleHeap() {
+    constexpr std::size_t large = 1 << 16;
+    constexpr int requests = 64; // each sorts a limited number of pieces
+    for (int i = 0; i < requests; ++i) {
+        void* volatile piece = std::malloc(large);
+        std::free(piece);
+    }
+}
+
 } // namespace
 
 std::vector<double> interleavedMedians(const std::vector<Timed>& works, std::size_t rounds) {
@@ -21,6 +33,7 @@ std::vector<double> interleavedMedians(const std::vector<Timed>& works, std::siz
     for (std::size_t round = 0; round <= rounds; ++round) {
         for (std::size_t i = 0; i < works.size(); ++i) {
             works[i].prepare();
+            settleHeap();
             const double start = processorSeconds();
             works[i].run();
             const double took = processorSeconds() - start;

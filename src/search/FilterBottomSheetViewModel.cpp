@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <unordered_set>
 
 namespace ombrivane {
 namespace {
@@ -40,19 +39,21 @@ void FilterBottomSheetViewModel::calculateMinPrice() {
 }
 
 void FilterBottomSheetViewModel::collectAirlines() {
+    // A list has few airlines: looking along them is quicker than hashing ten thousand names.
     std::vector<std::string> names;
-    std::unordered_set<std::string_view> taken;
     visitOffers([&](const auto& offer) {
         const std::string& name = outbound(offer).carrierName;
-        if (taken.insert(name).second) names.push_back(name);
+        if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
     });
     airLines = std::move(names);
 }
 
 void FilterBottomSheetViewModel::readCurrency() {
-    const std::string* last = nullptr;
-    visitOffers([&last](const auto& offer) { last = &offer.searchSummary.currency; });
-    currency = last == nullptr ? std::string() : *last;
+    if (!roundtripFlights->empty()) {
+        currency = roundtripFlights->back()->searchSummary.currency;
+    } else {
+        currency = onewayFlights->empty() ? "" : onewayFlights->back()->searchSummary.currency;
+    }
 }
 
 void FilterBottomSheetViewModel::applyFilter(double price, const std::string& selectedId,
