@@ -14,9 +14,10 @@ Item {
         visible: page.screen.content === null
         label: qsTr("Starting")
     }
+    // By its address, so that the first frame does not wait for the types of the search.
     Loader {
+        readonly property MainViewAdapter main: page.screen.content
         anchors.fill: parent
-        active: page.screen.content !== null
-        sourceComponent: MainView { screen: page.screen.content }
+        onMainChanged: if (main !== null) setSource(Qt.resolvedUrl("MainView.qml"), {"screen": main}); else source = ""
     }
 }
