@@ -16,6 +16,7 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--client-secret", [&](Value value) { options.clientSecret = value; }},
         {"--wallet-balance", [&](Value value) { options.walletBalance = std::stod(value); }},
         {"--script", [&](Value value) { options.script = value; }},
+        {"--pictures", [&](Value value) { options.pictures = value; }},
         {"--picture", [&](Value value) { options.picture = value; }},
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
         {"--now", [&](Value value) { options.now = value; }},
@@ -55,8 +56,9 @@ std::string DemoOptions::usage() {
            "  --dark               --text-scale N     --width N   --height N   --still (no motion)\n"
            "  --slow               --fault TEXT       trouble of the own booking service, see "
            "docs/sandbox.md\n"
-           "  --script FILE        plays a script against the pages; it knows two commands more:\n"
-           "                       texts (every visible text) and picture FILE\n"
+           "  --script FILE        plays a script against the pages; it knows three commands more:\n"
+           "                       texts (every visible text), picture FILE, and look NAME, which takes\n"
+           "                       a picture into the folder of --pictures DIR\n"
            "  --picture FILE       takes a picture of the first screen and ends\n";
 }
 

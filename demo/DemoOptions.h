@@ -13,8 +13,9 @@ struct DemoOptions {
     std::string clientId = "wallet";
     std::string clientSecret = "wallet-secret";
     double walletBalance = 250000;
-    std::string script;  ///< plays it against the pages; "-" for the standard input
-    std::string picture; ///< takes a picture of the first screen and ends
+    std::string script;         ///< plays it against the pages; "-" for the standard input
+    std::string pictures = "."; ///< folder of the pictures that a script's "look" takes
+    std::string picture;        ///< takes a picture of the first screen and ends
     std::vector<std::string> faults;
     std::string now;
     bool dark = false;

@@ -161,6 +161,8 @@ int DemoWallet::playScript() {
     journey::Script script(stage());
     script.addCommand("texts", [this](const std::string&) { writeTexts(); });
     script.addCommand("picture", [this](const std::string& file) { writePicture(file); });
+    script.addCommand(
+        "look", [this](const std::string& name) { writePicture(options_.pictures + "/" + name + ".png"); });
     if (options_.script == "-") return static_cast<int>(script.play(std::cin));
     std::ifstream lines(options_.script);
     if (!lines) return static_cast<int>(Ending::badLine);

@@ -1,0 +1,46 @@
+// A wallet in QML: one import, one item, three handlers.
+#include "Once.h"
+#include "device/QtPlatform.h"
+#include "services/ServiceHosts.h"
+
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
+
+constexpr const char* wallet = R"(
+import QtQuick
+import Ombrivane
+Window {
+    id: wallet
+    visible: true; width: 390; height: 844
+    OmbrivaneView {
+        anchors.fill: parent
+        clientId: "wallet"; clientSecret: "wallet-secret"; walletBalance: 250000
+        onFinished: dictionary => console.info(dictionary)
+        onFailed: message => console.info(message)
+        onClosed: wallet.close()
+        Component.onCompleted: open()
+    }
+})";
+
+int main(int count, char** values) {
+    if (count < 3) return 2;
+    const QGuiApplication application(count, values);
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(values[2], "127.0.0.1"));
+    ombrivane::ServiceHosts::use({.production = values[1], .test = values[1]});
+
+    int result = 1;
+    {
+        QQmlApplicationEngine engine;
+        engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
+        engine.loadData(wallet);
+        if (engine.rootObjects().isEmpty()) return 1;
+        if (count > 3)
+            endOnce(engine.rootObjects().constFirst()->findChild<ombrivane::view::OmbrivaneSession*>());
+        result = QGuiApplication::exec();
+    }
+    ombrivane::Platform::endNetwork();
+    return result;
+}

@@ -1,0 +1,41 @@
+// A wallet in C++ with Qt Quick: it makes the view item and is told by a callback.
+#include "Once.h"
+#include "device/QtPlatform.h"
+#include "services/ServiceHosts.h"
+
+#include <QGuiApplication>
+#include <QQuickView>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include <iostream>
+
+Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
+
+int main(int count, char** values) {
+    if (count < 3) return 2;
+    const QGuiApplication application(count, values);
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(values[2], "127.0.0.1"));
+    ombrivane::ServiceHosts::use({.production = values[1], .test = values[1]});
+
+    QQuickView window;
+    window.engine()->addImportPath("qrc:/com.framework.Ombrivane/qml");
+    window.setResizeMode(QQuickView::SizeRootObjectToView);
+    window.setSource(QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/OmbrivaneView.qml"));
+    auto* session = window.findChild<ombrivane::view::OmbrivaneSession*>();
+    session->clientId = "wallet";
+    session->clientSecret = "wallet-secret";
+    session->walletBalance = 250000;
+    session->setCallback([](auto reserved, auto error) {
+        if (reserved) std::cout << reserved->dump() << "\n";
+        if (error) std::cout << error->localizedDescription << "\n";
+    });
+    QObject::connect(session, &ombrivane::view::OmbrivaneSession::closed, &window, &QWindow::close);
+    window.resize(390, 844);
+    window.show();
+    session->open();
+
+    if (count > 3) endOnce(session);
+    const int result = QGuiApplication::exec();
+    ombrivane::Platform::endNetwork();
+    return result;
+}

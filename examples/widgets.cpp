@@ -1,0 +1,46 @@
+// A wallet of Qt Widgets: the component is a widget among others.
+#include "Once.h"
+#include "device/QtPlatform.h"
+#include "services/ServiceHosts.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWidget>
+#include <QVBoxLayout>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
+
+int main(int count, char** values) {
+    if (count < 3) return 2;
+    const QApplication application(count, values);
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(values[2], "127.0.0.1"));
+    ombrivane::ServiceHosts::use({.production = values[1], .test = values[1]});
+
+    QWidget wallet;
+    QVBoxLayout layout(&wallet);
+    QLabel balance("Balance: NPR 250,000");
+    QQuickWidget flights;
+    flights.engine()->addImportPath("qrc:/com.framework.Ombrivane/qml");
+    flights.setResizeMode(QQuickWidget::SizeRootObjectToView);
+    flights.setSource(QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/OmbrivaneView.qml"));
+    layout.addWidget(&balance);
+    layout.addWidget(&flights, 1);
+    auto* session = flights.rootObject()->findChild<ombrivane::view::OmbrivaneSession*>();
+    session->clientId = "wallet";
+    session->clientSecret = "wallet-secret";
+    session->setCallback([](auto, auto error) {
+        if (error) qInfo("%s", error->localizedDescription.c_str());
+    });
+    QObject::connect(session, &ombrivane::view::OmbrivaneSession::closed, &flights, &QWidget::hide);
+    wallet.resize(390, 900);
+    wallet.show();
+    session->open();
+
+    if (count > 3) endOnce(session);
+    const int result = QApplication::exec();
+    ombrivane::Platform::endNetwork();
+    return result;
+}
