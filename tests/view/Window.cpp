@@ -75,7 +75,7 @@ void Window::setLook(bool dark, double textScale) {
 }
 
 void Window::settle() {
-    constexpr int enough = 150; // milliseconds; the slowest is a logo from the service
+    constexpr int enough = 90; // milliseconds; the slowest is a logo from the service
     QTest::qWait(enough);
 }
 
