@@ -37,7 +37,7 @@ FooterView::FooterView() :
                  [] { open("whatsapp://send?phone=" + withoutBlanks(mobileNumber).substr(1)); }),
     callLandLine(*this, "callLandLine", [] { open("tel:" + withoutBlanks(landLineNumber)); }),
     alert_(*this, Presentation::alert, showAlert,
-           [] { return std::make_shared<AlertView>("Build Version", "0.0.38"); }) {}
+           [] { return std::make_shared<AlertView>("Build Version", OMBRIVANE_VERSION); }) {}
 
 void FooterView::countTap() {
     if (++taps_ == tapsForVersion) {
