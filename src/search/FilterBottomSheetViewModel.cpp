@@ -7,12 +7,26 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
 
 namespace ombrivane {
 namespace {
 
 constexpr std::int64_t dearest = 10'000'000;
 constexpr const char* allAirlines = "All Airlines";
+
+/// A list has few airlines, so that three bytes part most of them, in less time than hashing all of a name.
+struct NameHash {
+    std::size_t operator()(std::string_view name) const {
+        if (name.empty()) return 0;
+        const auto byte = [name](std::size_t at) -> std::size_t {
+            return static_cast<unsigned char>(name[at]);
+        };
+        return 131 * name.size() + 17 * byte(name.size() / 2) + byte(name.size() - 1);
+    }
+};
 
 } // namespace
 
@@ -39,12 +53,14 @@ void FilterBottomSheetViewModel::calculateMinPrice() {
 }
 
 void FilterBottomSheetViewModel::collectAirlines() {
-    // A list has few airlines: looking along them is quicker than hashing ten thousand names.
+    // First where each name stands, then the comparing: the reads of ten thousand records do not wait for it.
+    std::vector<std::string_view> all;
+    visitOffers([&](const auto& offer) { all.push_back(outbound(offer).carrierName); });
+    std::unordered_set<std::string_view, NameHash> seen;
     std::vector<std::string> names;
-    visitOffers([&](const auto& offer) {
-        const std::string& name = outbound(offer).carrierName;
-        if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
-    });
+    for (const std::string_view name : all) {
+        if (seen.insert(name).second) names.emplace_back(name);
+    }
     airLines = std::move(names);
 }
 

@@ -42,7 +42,7 @@ std::string shownText(std::string_view text, std::size_t maximumBytes) {
         char32_t c = nextCodePoint(text, index);
         if (endsLine(c) || c == '\t') c = ' ';
         if (isHidden(c)) continue;
-        if (word == longestWord && c != ' ') {
+        if (word == longestWord && c != ' ' && c != breakingPlace) {
             appendCodePoint(shown, breakingPlace);
             word = 0;
         }

@@ -43,6 +43,7 @@ TEST(ShownText, GivesAnOverlongWordPlacesToBreak) {
     const std::string longest(500, 'x');
     EXPECT_EQ(shownText(longest + " " + longest), longest + " " + longest);
     EXPECT_EQ(shownText(longest + longest + "x"), longest + "\u200B" + longest + "\u200Bx");
+    EXPECT_EQ(shownText(longest + "\u200Bx"), longest + "\u200Bx") << "a place that is there serves";
 }
 
 } // namespace
