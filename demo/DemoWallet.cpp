@@ -20,6 +20,8 @@ namespace {
 
 using journey::Ending;
 
+constexpr int shownReceipts = 20;
+
 /// Every text item below `item` that can be seen, with where it stands.
 void collectTexts(const QQuickItem* item, Json& texts) {
     if (!item->isVisible() || item->opacity() == 0) return;
@@ -124,6 +126,7 @@ void DemoWallet::receive(const std::optional<Dictionary>& dictionary, const std:
     queue_->async([this, receipt] {
         auto receipts = window_->property("receipts").toStringList();
         receipts.prepend(receipt);
+        if (receipts.size() > shownReceipts) receipts.removeLast();
         window_->setProperty("receipts", receipts);
     });
 }

@@ -1,6 +1,7 @@
 #include "Script.h"
 
 #include "Matching.h"
+#include "Resources.h"
 #include "ScreenPath.h"
 #include "platform/JpegPngCodec.h"
 #include "support/Fault.h"
@@ -89,6 +90,8 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"destroy", [this](const std::string&) { stage_.destroy(); }},
         {"open", [this](const std::string&) { stage_.open(); }},
         {"play", [this](const std::string& file) { playFile(file); }},
+        {"repeat", [this](const std::string& arguments) { repeat(arguments); }},
+        {"resources", [this](const std::string&) { resources(); }},
     };
 }
 
@@ -118,6 +121,8 @@ std::string Script::help() {
            "  destroy                       drops the view, as a host may at any time\n"
            "  open                          shows it again\n"
            "  play FILE                     the lines of another script\n"
+           "  repeat NUMBER FILE            the same, so many times\n"
+           "  resources                     the memory (KB), threads and open files of this process\n"
            "PATH is Screen.key, Screen.model.key or Screen.rows[3].key; without a screen's name it starts at "
            "the\n"
            "topmost screen.\n";
@@ -163,6 +168,17 @@ void Script::playFile(const std::string& file) {
     if (!lines) throw BadLine("there is no script " + file);
     runAll(lines, file + ":");
 }
+
+void Script::repeat(const std::string& arguments) {
+    const auto [text, file] = split(arguments);
+    const auto number = values(text);
+    if (number.size() != 1 || !number.front().is_number_unsigned())
+        throw BadLine("repeat wants a number and a file");
+    for (auto left = number.front().get<std::size_t>(); left > 0 && !stage_.faulted(); --left)
+        playFile(file);
+}
+
+void Script::resources() { stage_.log.answer(Json{{"resources", resourcesOfThisProcess()}}); }
 
 Navigator& Script::navigator() const {
     Navigator* navigator = stage_.navigator();

@@ -57,6 +57,8 @@ private:
     void runAll(std::istream& lines, const std::string& file);
     void run(const std::string& line);
     void playFile(const std::string& file);
+    void repeat(const std::string& arguments);
+    void resources();
     void show();
     void get(const std::string& path);
     void set(const std::string& arguments);

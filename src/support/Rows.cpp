@@ -1,6 +1,15 @@
 #include "support/Rows.h"
 
 namespace ombrivane {
+namespace {
+
+/// A row reads from the screens around it, so whoever holds the row holds them. The row itself goes first.
+struct RowWithHosts {
+    std::vector<std::shared_ptr<Screen>> hosts;
+    std::shared_ptr<Screen> row;
+};
+
+} // namespace
 
 Rows::Rows(Screen& owner, std::string_view key, Count count, Make make, Identity identity) :
     Member(owner.fields, key, MemberKind::rows),
@@ -11,9 +20,12 @@ Rows::Rows(Screen& owner, std::string_view key, Count count, Make make, Identity
 
 std::shared_ptr<Screen> Rows::row(std::size_t index) const {
     if (index >= size()) refuse("has no row " + std::to_string(index));
-    auto screen = make_(index);
-    screen->setHost(owner_.weak_from_this());
-    return screen;
+    const auto held = std::make_shared<RowWithHosts>();
+    held->row = make_(index);
+    held->row->setHost(owner_.weak_from_this());
+    for (auto host = held->row->host(); host; host = host->host())
+        held->hosts.push_back(host);
+    return {held, held->row.get()};
 }
 
 std::string Rows::identity(std::size_t index) const {

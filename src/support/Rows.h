@@ -20,7 +20,8 @@ public:
     Rows(Screen& owner, std::string_view key, Count count, Make make, Identity identity = nullptr);
 
     std::size_t size() const { return core_->count(); }
-    /// A fresh screen for the row at `index`. @throws KeyedError beyond the end.
+    /// A fresh screen for the row at `index`, good as long as it is held, also when the list's own screen is
+    /// gone from the stack. @throws KeyedError beyond the end.
     std::shared_ptr<Screen> row(std::size_t index) const;
     std::string identity(std::size_t index) const;
 

@@ -45,6 +45,8 @@ public:
         host_ = host;
         hosted_ = true;
     }
+    /// The screen inside of which this one is shown, nullptr for one on the stack itself.
+    std::shared_ptr<Screen> host() const { return host_.lock(); }
 
     Fields fields;
 

@@ -191,5 +191,14 @@ TEST_F(TravelCalendarTest, ATextThatIsNoDateOfThePatternIsAFault) {
     EXPECT_EQ(world.takeFaults().size(), 5U);
 }
 
+TEST_F(TravelCalendarTest, AMonthThatAViewStillHoldsOutlivesItsCalendar) {
+    const auto first = month(*oneWay(), 0);
+    int told = 0;
+    const auto watch = first->cells.observe([&told] { ++told; });
+    model.departureDate = *parseIso("2026-11-24T00:00:00Z");
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(first->cells.get().size(), 30U);
+}
+
 } // namespace
 } // namespace ombrivane

@@ -32,8 +32,10 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
     if (role != rowRole || !index.isValid() || position >= rows_.size()) return {};
     auto adapter = makeAdapter(rows_.row(position));
     QObject* object = adapter.release();
-    // The delegate's engine owns the row from here, and lets it go with the delegate.
+    // The delegate's engine owns the row from here. It may let it go long after the delegate; no row, with
+    // the screens that it holds, is to outlive the list.
     QQmlEngine::setObjectOwnership(object, QQmlEngine::JavaScriptOwnership);
+    connect(this, &QObject::destroyed, object, &QObject::deleteLater);
     return QVariant::fromValue(object);
 }
 
