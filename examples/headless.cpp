@@ -9,7 +9,6 @@
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
 #include "support/Navigator.h"
-#include "support/SharedInstance.h"
 
 #include <iostream>
 
