@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
+#include "support/Api.h"
 
 #include <memory>
 #include <string>
@@ -13,7 +14,7 @@ namespace ombrivane {
 /// the port before it installs the platform.
 /// @param caFile certificates to trust in place of the platform's; empty for the platform's
 /// @param reachabilityAddress the address whose route decides whether there is a network
-Platform headlessPlatform(std::shared_ptr<RunLoop> loop, const std::string& caFile = "",
-                          const std::string& reachabilityAddress = "192.0.2.1");
+OMBRIVANE_API Platform headlessPlatform(std::shared_ptr<RunLoop> loop, const std::string& caFile = "",
+                                        const std::string& reachabilityAddress = "192.0.2.1");
 
 } // namespace ombrivane
