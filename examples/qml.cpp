@@ -5,9 +5,6 @@
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
 
 constexpr const char* wallet = R"(
 import QtQuick

@@ -5,11 +5,8 @@
 
 #include <QGuiApplication>
 #include <QQuickView>
-#include <QtQml/QQmlExtensionPlugin>
 
 #include <iostream>
-
-Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
 
 int main(int count, char** values) {
     if (count < 3) return 2;

@@ -9,9 +9,6 @@
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QVBoxLayout>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(OmbrivanePlugin)
 
 int main(int count, char** values) {
     if (count < 3) return 2;

@@ -2,10 +2,8 @@
 #include "Options.h"
 #include "Script.h"
 #include "ScriptedPorts.h"
-#include "platform/CurlNetwork.h"
 #include "platform/DirectoryBundles.h"
-#include "platform/JpegPngCodec.h"
-#include "platform/RunLoop.h"
+#include "platform/HeadlessPlatform.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
@@ -55,18 +53,14 @@ public:
 
 private:
     void installPlatform() {
-        Platform ports;
-        ports.mainQueue = loop_;
-        ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = options_.ca});
+        Platform ports = headlessPlatform(loop_, options_.ca);
         ports.reachability = reachability_;
         ports.clock = clock_;
         ports.bundles = std::make_shared<DirectoryBundles>("com.framework.Ombrivane", OMBRIVANE_FONTS);
-        ports.fonts = std::make_shared<NoFonts>();
         const auto localization = std::make_shared<SystemLocalization>();
         if (options_.locale) localization->useLocale(*options_.locale);
         if (options_.timeZone) localization->useTimeZone(*options_.timeZone);
         ports.localization = localization;
-        ports.images = std::make_shared<JpegPngCodec>();
         ports.photos = photos_;
         ports.urls = std::make_shared<ReportedUrls>(log_);
         ports.sharing = std::make_shared<ReportedSharing>(log_);

@@ -2,6 +2,7 @@
 
 #include "platform/Limits.h"
 #include "platform/Network.h"
+#include "support/Api.h"
 
 #include <memory>
 #include <string>
@@ -18,7 +19,7 @@ struct CurlSettings {
 ///
 /// A request of the service gets a connection of its own that is closed after it, so nothing is ever sent
 /// twice. The platform's trust store decides over certificates, or the file that a developer names.
-class CurlNetwork final : public Network {
+class OMBRIVANE_API CurlNetwork final : public Network {
 public:
     explicit CurlNetwork(CurlSettings settings = {});
     ~CurlNetwork() override;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Api.h"
+
 #include <string>
 #include <string_view>
 
@@ -25,7 +27,7 @@ public:
 };
 
 /// Writes each line to the standard output.
-class PrintedDiagnostics final : public Diagnostics {
+class OMBRIVANE_API PrintedDiagnostics final : public Diagnostics {
 public:
     void print(std::string_view line) override;
 };

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "platform/ResourceBundles.h"
+#include "support/Api.h"
 
 #include <string>
 
 namespace ombrivane {
 
 /// One bundle that is a folder of files.
-class DirectoryBundles final : public ResourceBundles {
+class OMBRIVANE_API DirectoryBundles final : public ResourceBundles {
 public:
     DirectoryBundles(std::string identifier, std::string folder) :
         identifier_(std::move(identifier)), folder_(std::move(folder)) {}

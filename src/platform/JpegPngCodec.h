@@ -1,12 +1,13 @@
 #pragma once
 
 #include "platform/ImageCodec.h"
+#include "support/Api.h"
 
 namespace ombrivane {
 
 /// Pictures by libjpeg-turbo and libpng. Colour profiles and metadata are left aside, but for the orientation
 /// of a JPEG. Neither library prints. Holds no state.
-class JpegPngCodec final : public ImageCodec {
+class OMBRIVANE_API JpegPngCodec final : public ImageCodec {
 public:
     std::optional<Image> decode(const std::string& bytes, const PictureLimits& limits) override;
     std::optional<std::string> jpeg(const Image& image, double quality) override;

@@ -11,6 +11,7 @@
 #include "platform/ResourceBundles.h"
 #include "platform/Sharing.h"
 #include "platform/SystemVersion.h"
+#include "support/Api.h"
 
 #include <memory>
 
@@ -18,7 +19,7 @@ namespace ombrivane {
 
 /// All that the component asks of a device. Set once, before the first use; lives until the process ends or
 /// another one is installed.
-struct Platform {
+struct OMBRIVANE_API Platform {
     std::shared_ptr<MainQueue> mainQueue;
     std::shared_ptr<Network> network;
     std::shared_ptr<ReachabilityMeasure> reachability;
@@ -43,8 +44,8 @@ struct Platform {
 
 /// The installed platform. A port that was left empty, or no platform at all, is a fault when it is used.
 /// Any thread, after `Platform::install`.
-const Platform& platform();
+OMBRIVANE_API const Platform& platform();
 
-MainQueue& mainQueue();
+OMBRIVANE_API MainQueue& mainQueue();
 
 } // namespace ombrivane

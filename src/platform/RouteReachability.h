@@ -1,13 +1,14 @@
 #pragma once
 
 #include "platform/ReachabilityMeasure.h"
+#include "support/Api.h"
 
 #include <string>
 
 namespace ombrivane {
 
 /// Asks the system's routing table for the way to one IPv4 address.
-class RouteReachability final : public ReachabilityMeasure {
+class OMBRIVANE_API RouteReachability final : public ReachabilityMeasure {
 public:
     /// @param address dotted; the default stands for "the internet" and is never sent to
     ///        (a documentation address of RFC 5737). A service on this machine is asked for as "127.0.0.1".

@@ -2,6 +2,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/TimerSchedule.h"
+#include "support/Api.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -12,7 +13,7 @@
 namespace ombrivane {
 
 /// The main queue of a program without a window: its thread turns the loop.
-class RunLoop final : public MainQueue {
+class OMBRIVANE_API RunLoop final : public MainQueue {
 public:
     void async(Step step) override;
     WorkItem after(Duration delay, Step step) override;

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "platform/Localization.h"
+#include "support/Api.h"
 
 #include <string>
 
 namespace ombrivane {
 
 /// The process's own locale and time zone, unless a developer names others; no translations.
-class SystemLocalization final : public Localization {
+class OMBRIVANE_API SystemLocalization final : public Localization {
 public:
     SystemLocalization();
 

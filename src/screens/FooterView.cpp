@@ -2,6 +2,7 @@
 
 #include "screens/AlertView.h"
 #include "services/Url.h"
+#include "support/OmbrivaneVersion.h"
 
 namespace ombrivane {
 namespace {
@@ -37,7 +38,7 @@ FooterView::FooterView() :
                  [] { open("whatsapp://send?phone=" + withoutBlanks(mobileNumber).substr(1)); }),
     callLandLine(*this, "callLandLine", [] { open("tel:" + withoutBlanks(landLineNumber)); }),
     alert_(*this, Presentation::alert, showAlert,
-           [] { return std::make_shared<AlertView>("Build Version", OMBRIVANE_VERSION); }) {}
+           [] { return std::make_shared<AlertView>("Build Version", OmbrivaneVersionString); }) {}
 
 void FooterView::countTap() {
     if (++taps_ == tapsForVersion) {

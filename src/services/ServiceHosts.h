@@ -1,12 +1,14 @@
 #pragma once
 
+#include "support/Api.h"
+
 #include <string>
 
 namespace ombrivane {
 
 /// Where the booking service stands: scheme and host without a trailing slash. Configured when the component
 /// is built; a developer may name others before the first request of the process.
-struct ServiceHosts {
+struct OMBRIVANE_API ServiceHosts {
     std::string production;
     std::string test;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/CompletionCallback.h"
+#include "support/Api.h"
 
 #include <functional>
 #include <memory>
@@ -15,7 +16,7 @@ class Navigator;
 /// after that the callback hears of one thing only, the hand-over of a reservation that was under way.
 ///
 /// The host passes all seven arguments; those that it does not have as `std::nullopt`. Main thread.
-class OmbrivaneView {
+class OMBRIVANE_API OmbrivaneView {
 public:
     /// @param clientId who the wallet is to the booking service
     /// @param clientSecret the secret to it; goes to the service and nowhere else

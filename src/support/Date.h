@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Api.h"
+
 #include <chrono>
 #include <optional>
 #include <string>
@@ -11,10 +13,10 @@ namespace ombrivane {
 using Date = std::chrono::sys_time<std::chrono::milliseconds>;
 
 /// The point as "2026-11-21T09:30:00Z".
-std::string isoText(Date date);
+OMBRIVANE_API std::string isoText(Date date);
 
 /// Reads "2026-11-21", "2026-11-21T09:30:00", with or without "Z" or an offset such as "+05:45"; without one
 /// the time is UTC. Nothing for any other form.
-std::optional<Date> parseIso(std::string_view text);
+OMBRIVANE_API std::optional<Date> parseIso(std::string_view text);
 
 } // namespace ombrivane

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Api.h"
+
 #include <exception>
 #include <functional>
 #include <string>
@@ -8,7 +10,7 @@ namespace ombrivane {
 
 /// A mistake of the program or a broken promise between its parts. It unwinds to the step that was running,
 /// after the handler has been told; nothing but `guarded` catches it.
-class Fault : public std::exception {
+class OMBRIVANE_API Fault : public std::exception {
 public:
     explicit Fault(std::string text) : text_(std::move(text)) {}
     const char* what() const noexcept override { return text_.c_str(); }
@@ -22,16 +24,16 @@ using FaultHandler = std::function<void(const std::string& text)>;
 
 /// Installs the host's handler and returns the one before. Without a handler a fault writes its text to the
 /// standard error stream and aborts the process. Any thread.
-FaultHandler setFaultHandler(FaultHandler handler);
+OMBRIVANE_API FaultHandler setFaultHandler(FaultHandler handler);
 
 /// Reports a fault and never returns: the process ends, or, where a handler is installed and returns, the
 /// step that was running is left by a `Fault`.
-[[noreturn]] void fatalFault(const std::string& what, const char* file = __builtin_FILE(),
-                             int line = __builtin_LINE());
+[[noreturn]] OMBRIVANE_API void fatalFault(const std::string& what, const char* file = __builtin_FILE(),
+                                           int line = __builtin_LINE());
 
 /// Runs one step of the component (a queued step, a tap, a completion) and keeps a `Fault` that was already
 /// reported from passing into code of the host or of a library.
 /// @return false when the step was left by a fault.
-bool guarded(const std::function<void()>& step);
+OMBRIVANE_API bool guarded(const std::function<void()>& step);
 
 } // namespace ombrivane

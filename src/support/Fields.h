@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Api.h"
 #include "support/Json.h"
 #include "support/Observable.h"
 
@@ -14,7 +15,7 @@ class Fields;
 
 /// A key that does not exist, a value of the wrong form, a member that cannot do what was asked: the mistake
 /// of whoever works a screen by its keys, never of a customer.
-class KeyedError : public std::runtime_error {
+class OMBRIVANE_API KeyedError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
@@ -22,7 +23,7 @@ public:
 enum class MemberKind { field, derived, action, model, rows };
 
 /// One keyed member of a model or a screen: a field, a derived value, an action, a model, a list of rows.
-class Member {
+class OMBRIVANE_API Member {
 public:
     Member(Fields& owner, std::string_view key, MemberKind kind);
     Member(const Member&) = delete;
@@ -54,7 +55,7 @@ private:
 
 /// The members of one model or screen in declared order. Must be declared before them, so that it outlives
 /// them.
-class Fields {
+class OMBRIVANE_API Fields {
 public:
     Fields() = default;
     Fields(const Fields&) = delete;
@@ -71,7 +72,7 @@ private:
 };
 
 /// Makes the fields of a model reachable below a key of its screen.
-class Model final : public Member {
+class OMBRIVANE_API Model final : public Member {
 public:
     Model(Fields& owner, std::string_view key, const Fields& fields) :
         Member(owner, key, MemberKind::model), fields_(fields) {}
@@ -84,6 +85,6 @@ private:
 };
 
 /// The readable members of `fields` as one object, actions left out.
-Json readAll(const Fields& fields);
+OMBRIVANE_API Json readAll(const Fields& fields);
 
 } // namespace ombrivane

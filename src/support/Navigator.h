@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Api.h"
 #include "support/Link.h"
 #include "support/Observable.h"
 #include "support/Screen.h"
@@ -12,7 +13,7 @@ namespace ombrivane {
 
 /// Keeps the stack of screens in step with the flags of their links: a flag that turns true makes the
 /// destination and shows it, one that turns false takes it away with everything above it. Main thread only.
-class Navigator {
+class OMBRIVANE_API Navigator {
 public:
     struct Entry {
         std::shared_ptr<Screen> screen;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Api.h"
+
 #include <functional>
 #include <memory>
 #include <vector>
@@ -26,7 +28,7 @@ private:
 /// Observers are told one change at a time: an assignment made while observers are being told is stored at
 /// once and told after the current one. An observer that is added while notifying hears the next change; one
 /// that is removed hears nothing more.
-class Observable : public std::enable_shared_from_this<Observable> {
+class OMBRIVANE_API Observable : public std::enable_shared_from_this<Observable> {
 public:
     Observable() = default;
     Observable(const Observable&) = delete;

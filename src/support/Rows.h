@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Api.h"
 #include "support/Observable.h"
 #include "support/Screen.h"
 
@@ -10,7 +11,7 @@
 namespace ombrivane {
 
 /// A list whose rows are small screens of their own, each made when it is drawn.
-class Rows final : public Member {
+class OMBRIVANE_API Rows final : public Member {
 public:
     using Count = std::function<std::size_t()>;
     using Make = std::function<std::shared_ptr<Screen>(std::size_t)>;

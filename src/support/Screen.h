@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Api.h"
 #include "support/Fields.h"
 
 #include <functional>
@@ -15,7 +16,7 @@ class Part;
 /// One screen: what it holds, shows and decides. It owns fields, derived texts, actions, links and parts.
 ///
 /// Screens are made by `std::make_shared` and never copied; a completion that is still out holds its screen.
-class Screen : public std::enable_shared_from_this<Screen> {
+class OMBRIVANE_API Screen : public std::enable_shared_from_this<Screen> {
 public:
     explicit Screen(std::string_view name) : name_(name) {}
     Screen(const Screen&) = delete;

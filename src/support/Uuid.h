@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Api.h"
+
 #include <array>
 #include <compare>
 #include <cstdint>
@@ -11,7 +13,7 @@
 namespace ombrivane {
 
 /// A 128-bit identity. A field that holds a fresh random one holds "nothing", since it equals no other.
-class Uuid {
+class OMBRIVANE_API Uuid {
 public:
     /// A fresh random identity (version 4). Any thread.
     static Uuid random();
@@ -32,6 +34,6 @@ private:
 
 } // namespace ombrivane
 
-template <> struct std::hash<ombrivane::Uuid> {
+template <> struct OMBRIVANE_API std::hash<ombrivane::Uuid> {
     std::size_t operator()(const ombrivane::Uuid& uuid) const noexcept;
 };

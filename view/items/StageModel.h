@@ -1,6 +1,5 @@
 #pragma once
 
-#include "adapters/ScreenAdapter.h"
 #include "support/Navigator.h"
 
 #include <QAbstractListModel>
@@ -10,6 +9,8 @@
 #include <vector>
 
 namespace ombrivane::view {
+
+class ScreenAdapter;
 
 /// The stack of screens for the stage: one row an entry, from the root up, with its page and its adapter. An
 /// entry that stays keeps its adapter, so its page stands as it was left.
