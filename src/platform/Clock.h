@@ -12,6 +12,7 @@ public:
     Clock& operator=(const Clock&) = delete;
     virtual ~Clock() = default;
 
+    /// The present moment, to the millisecond. Any thread.
     virtual Date now() = 0;
 };
 

@@ -9,10 +9,11 @@
 
 namespace ombrivane {
 
+/// What a developer may set of the network.
 struct CurlSettings {
-    std::string caFile; ///< PEM; empty for the platform's trust store
-    std::size_t answerBytes = limits::answerBytes;
-    std::size_t pictureBytes = limits::logoBytes;
+    std::string caFile;                            ///< PEM; empty for the platform's trust store
+    std::size_t answerBytes = limits::answerBytes; ///< a longer answer is an error
+    std::size_t pictureBytes = limits::logoBytes;  ///< a longer picture is an error
 };
 
 /// The network by libcurl: one thread, one handle per request.
@@ -21,6 +22,7 @@ struct CurlSettings {
 /// twice. The platform's trust store decides over certificates, or the file that a developer names.
 class OMBRIVANE_API CurlNetwork final : public Network {
 public:
+    /// Starts the network's thread.
     explicit CurlNetwork(CurlSettings settings = {});
     ~CurlNetwork() override;
 

@@ -10,6 +10,7 @@ namespace ombrivane {
 /// One bundle that is a folder of files.
 class OMBRIVANE_API DirectoryBundles final : public ResourceBundles {
 public:
+    /// `folder` is the bundle that is found by `identifier`; it need not exist before it is asked for.
     DirectoryBundles(std::string identifier, std::string folder) :
         identifier_(std::move(identifier)), folder_(std::move(folder)) {}
 

@@ -13,18 +13,18 @@ namespace ombrivane {
 
 /// One request to the booking service.
 struct HttpRequest {
-    std::string url;
-    std::string method = "GET";
+    std::string url;                                          ///< with its scheme: https
+    std::string method = "GET";                               ///< as it is sent
     std::vector<std::pair<std::string, std::string>> headers; ///< name and value, in their order
-    std::optional<std::string> body;
-    std::chrono::seconds timeoutInterval{60}; ///< the longest silence
-    std::chrono::seconds wholeInterval{180};  ///< the longest duration in all
+    std::optional<std::string> body;                          ///< sent as it stands; none with nothing
+    std::chrono::seconds timeoutInterval{60};                 ///< the longest silence
+    std::chrono::seconds wholeInterval{180};                  ///< the longest duration in all
 };
 
 /// What came back. The status is not part of it: no status code is ever read.
 struct HttpAnswer {
-    std::optional<std::string> data;
-    std::optional<Error> error;
+    std::optional<std::string> data; ///< the whole body; nothing when there was an error
+    std::optional<Error> error;      ///< why there is no body
 };
 
 /// Called exactly once, on a thread of the network.

@@ -9,10 +9,11 @@ namespace ombrivane {
 
 /// How large a picture may be, judged by its header before anything is decoded.
 struct PictureLimits {
-    std::size_t bytes;
-    long long side;
-    long long points;
+    std::size_t bytes; ///< before decoding
+    long long side;    ///< either side, in points
+    long long points;  ///< over all
 
+    /// Whether a picture of this size may be decoded.
     bool allow(long long width, long long height) const {
         return width > 0 && height > 0 && width <= side && height <= side && width <= points / height;
     }

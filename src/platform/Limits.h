@@ -6,6 +6,7 @@
 /// What the component accepts from outside. A value beyond its limit is an error, never a crash or a freeze.
 namespace ombrivane::limits {
 
+/// The unit of the sizes below.
 inline constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
 
 /// An answer of the service, after decompression. A list of 1,000 offers takes about 7 MB.

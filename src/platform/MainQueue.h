@@ -10,7 +10,9 @@ namespace ombrivane {
 /// The one queue on which everything but a client's completion runs.
 class MainQueue {
 public:
+    /// One piece of work.
     using Step = std::function<void()>;
+    /// As exact as a timer of the queue is.
     using Duration = std::chrono::milliseconds;
 
     MainQueue() = default;

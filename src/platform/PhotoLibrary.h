@@ -12,8 +12,8 @@ class PhotoLibrary {
 public:
     /// What the customer did: the edited picture when one was picked and is a picture.
     struct Picked {
-        bool cancelled = false;
-        std::optional<Image> editedImage;
+        bool cancelled = false;           ///< nothing was picked
+        std::optional<Image> editedImage; ///< after the editing step
     };
     /// Called on the main thread for each answer, until `dismiss`.
     using Handler = std::function<void(Picked)>;

@@ -20,19 +20,21 @@ namespace ombrivane {
 /// All that the component asks of a device. Set once, before the first use; lives until the process ends or
 /// another one is installed.
 struct OMBRIVANE_API Platform {
-    std::shared_ptr<MainQueue> mainQueue;
+    std::shared_ptr<MainQueue> mainQueue; ///< runs on the thread that shows the view
+    /// Reaches the booking service and the addresses of pictures.
     std::shared_ptr<Network> network;
-    std::shared_ptr<ReachabilityMeasure> reachability;
-    std::shared_ptr<Clock> clock;
-    std::shared_ptr<ResourceBundles> bundles;
-    std::shared_ptr<FontRegistry> fonts;
-    std::shared_ptr<Localization> localization;
-    std::shared_ptr<ImageCodec> images;
-    std::shared_ptr<PhotoLibrary> photos;
-    std::shared_ptr<UrlOpener> urls;
-    std::shared_ptr<ShareSheet> sharing;
+    std::shared_ptr<ReachabilityMeasure> reachability; ///< asked before each request
+    std::shared_ptr<Clock> clock;                      ///< what "today" and the session's end are read from
+    std::shared_ptr<ResourceBundles> bundles;          ///< where the fonts are found
+    std::shared_ptr<FontRegistry> fonts;               ///< told of each font once
+    std::shared_ptr<Localization> localization;        ///< texts, locale and time zone of the customer
+    std::shared_ptr<ImageCodec> images;                ///< logos, and the pictures of documents
+    std::shared_ptr<PhotoLibrary> photos;              ///< where a picture of a document is picked
+    std::shared_ptr<UrlOpener> urls;                   ///< opens the e-ticket and the contacts of the footer
+    std::shared_ptr<ShareSheet> sharing;               ///< hands an e-ticket on
+    /// Hears lines for a developer; they hold itinerary data only.
     std::shared_ptr<Diagnostics> diagnostics = std::make_shared<SilentDiagnostics>();
-    SystemVersion system;
+    SystemVersion system; ///< decides whether the component starts, and how it closes
 
     /// Main thread, with no request under way.
     static void install(Platform platform);
@@ -46,6 +48,7 @@ struct OMBRIVANE_API Platform {
 /// Any thread, after `Platform::install`.
 OMBRIVANE_API const Platform& platform();
 
+/// Its main queue. Any thread.
 OMBRIVANE_API MainQueue& mainQueue();
 
 } // namespace ombrivane

@@ -16,7 +16,9 @@ public:
     std::string locale() override { return locale_; }
     std::string timeZone() override { return timeZone_; }
 
+    /// Such as "en_US", in place of the process's own. Before the first use.
     void useLocale(std::string locale) { locale_ = std::move(locale); }
+    /// Such as "Asia/Kathmandu", in place of the device's own. Before the first use.
     void useTimeZone(std::string timeZone) { timeZone_ = std::move(timeZone); }
 
 private:

@@ -17,6 +17,8 @@ public:
     /// Time since the queue was made.
     using Time = std::chrono::milliseconds;
 
+    /// Plans `step` for `due`, and every `interval` from then on where there is one, until the item is
+    /// dropped.
     WorkItem add(Time due, std::optional<MainQueue::Duration> interval, MainQueue::Step step);
 
     /// When the next piece of work is due; nothing when none is pending.

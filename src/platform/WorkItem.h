@@ -10,9 +10,12 @@ namespace ombrivane {
 class WorkItem {
 public:
     WorkItem() = default;
+    /// For a main queue: the step, which runs only while the item holds it.
     explicit WorkItem(std::shared_ptr<std::function<void()>> step) : step_(std::move(step)) {}
 
+    /// Nothing happens when the step has run.
     void cancel() { step_.reset(); }
+    /// Whether the item still holds its step: a step that ran once is held until the item goes.
     bool isPending() const { return step_ != nullptr; }
 
 private:

@@ -9,8 +9,8 @@ namespace ombrivane {
 /// Where the booking service stands: scheme and host without a trailing slash. Configured when the component
 /// is built; a developer may name others before the first request of the process.
 struct OMBRIVANE_API ServiceHosts {
-    std::string production;
-    std::string test;
+    std::string production; ///< for every environment but "test"
+    std::string test;       ///< for the environment "test"
 
     /// The hosts that the endpoints will be built from.
     static ServiceHosts current();

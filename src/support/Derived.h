@@ -15,9 +15,11 @@ namespace ombrivane {
 /// tells when its value differs from the one told before.
 template <class T> class Derived final : public Member {
 public:
+    /// A value under `key`; `compute` reads fields and other derived values and writes nothing.
     Derived(Fields& owner, std::string_view key, std::function<T()> compute) :
         Member(owner, key, MemberKind::derived), core_(std::make_shared<Core>(std::move(compute))) {}
 
+    /// Computed anew. Main thread.
     T get() const { return core_->compute(); }
 
     Json read() const override { return Keyed<T>::toJson(get()); }

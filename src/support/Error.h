@@ -6,13 +6,15 @@ namespace ombrivane {
 
 /// A failure that is part of life: it travels through completions and, at the boundary, to the host.
 struct Error {
+    /// Who failed: the network, the booking service, a codec.
     std::string domain;
-    int code = 0;
+    int code = 0; ///< tells failures of one domain apart
     /// What a customer may read. Never holds a secret, a token or personal data.
     std::string localizedDescription;
     /// What a developer wants to know besides, for instance the key that an answer lacked. Not shown.
     std::string developerDescription = {};
 
+    /// Equal in all four.
     bool operator==(const Error&) const = default;
 };
 

@@ -12,7 +12,9 @@ namespace ombrivane {
 /// after the handler has been told; nothing but `guarded` catches it.
 class OMBRIVANE_API Fault : public std::exception {
 public:
+    /// For `fatalFault`, which reports before it throws.
     explicit Fault(std::string text) : text_(std::move(text)) {}
+    /// What was wrong and where.
     const char* what() const noexcept override { return text_.c_str(); }
 
 private:

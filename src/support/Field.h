@@ -19,11 +19,15 @@ template <class T> struct Cell final : Observable {
 /// A handle on a cell. The cell lives as long as any handle, so that a late write is harmless.
 template <class T> class Field : public Member {
 public:
+    /// The value, good until the next assignment; a computation that is being tracked follows it. Main
+    /// thread.
     const T& get() const {
         cell_->noteRead();
         return cell_->value;
     }
+    /// The same as `get`.
     operator const T&() const { return get(); }
+    /// The same as `get`, for its members.
     const T* operator->() const { return &get(); }
 
     /// Stores, then tells, also when nothing changes. Main thread.
@@ -45,10 +49,12 @@ public:
     }
 
 protected:
+    /// A handle on `cell` under `key`.
     Field(Fields& owner, std::string_view key, std::shared_ptr<Cell<T>> cell) :
         Member(owner, key, MemberKind::field), cell_(std::move(cell)) {}
     ~Field() = default;
 
+    /// What a binding shares with its source.
     static std::shared_ptr<Cell<T>> cellOf(const Field& other) { return other.cell_; }
 
 private:
@@ -58,9 +64,11 @@ private:
 /// A field of a model or a screen: `Published<bool> isLoading{fields, "isLoading", true};`
 template <class T> class Published final : public Field<T> {
 public:
+    /// A field of its own under `key`, which is text that outlives it.
     Published(Fields& owner, std::string_view key, T initial = T()) :
         Field<T>(owner, key, std::make_shared<Cell<T>>(std::move(initial))) {}
 
+    /// The same as `set`.
     Published& operator=(T value) {
         this->set(std::move(value));
         return *this;
@@ -70,9 +78,11 @@ public:
 /// A reference to somebody else's field under a key of one's own: what a sheet edits.
 template <class T> class Binding final : public Field<T> {
 public:
+    /// The value of `source` under `key`; it stays good when the source is gone.
     Binding(Fields& owner, std::string_view key, const Field<T>& source) :
         Field<T>(owner, key, Field<T>::cellOf(source)) {}
 
+    /// The same as `set`: the source has the value, too.
     Binding& operator=(T value) {
         this->set(std::move(value));
         return *this;

@@ -20,16 +20,20 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// What can be done with a member: assign and read, read, trigger, look below, look at rows.
 enum class MemberKind { field, derived, action, model, rows };
 
 /// One keyed member of a model or a screen: a field, a derived value, an action, a model, a list of rows.
 class OMBRIVANE_API Member {
 public:
+    /// Enters itself in `owner`, which outlives it as does the text of `key`.
     Member(Fields& owner, std::string_view key, MemberKind kind);
     Member(const Member&) = delete;
     Member& operator=(const Member&) = delete;
 
+    /// Its name, as a path spells it.
     std::string_view key() const { return key_; }
+    /// Which of the five it is.
     MemberKind kind() const { return kind_; }
 
     /// The value as JSON; for an action its `{"enabled": …}`.
@@ -46,6 +50,7 @@ public:
 
 protected:
     ~Member() = default;
+    /// Throws a `KeyedError` that names this member.
     [[noreturn]] void refuse(const std::string& why) const;
 
 private:
@@ -61,6 +66,7 @@ public:
     Fields(const Fields&) = delete;
     Fields& operator=(const Fields&) = delete;
 
+    /// All of them, in the order in which they were declared.
     const std::vector<Member*>& members() const { return members_; }
 
     /// The member with `key`, or nullptr.
@@ -74,6 +80,7 @@ private:
 /// Makes the fields of a model reachable below a key of its screen.
 class OMBRIVANE_API Model final : public Member {
 public:
+    /// `fields` outlive this.
     Model(Fields& owner, std::string_view key, const Fields& fields) :
         Member(owner, key, MemberKind::model), fields_(fields) {}
 

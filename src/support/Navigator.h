@@ -15,12 +15,14 @@ namespace ombrivane {
 /// destination and shows it, one that turns false takes it away with everything above it. Main thread only.
 class OMBRIVANE_API Navigator {
 public:
+    /// One screen of the stack.
     struct Entry {
-        std::shared_ptr<Screen> screen;
-        Presentation presentation = Presentation::push;
-        const Link* link = nullptr; ///< what shows the screen; nullptr for the root
+        std::shared_ptr<Screen> screen;                 ///< never nullptr
+        Presentation presentation = Presentation::push; ///< how it lies over the one below
+        const Link* link = nullptr;                     ///< what shows the screen; nullptr for the root
     };
 
+    /// A stack of `root` alone.
     explicit Navigator(std::shared_ptr<Screen> root);
     Navigator(const Navigator&) = delete;
     Navigator& operator=(const Navigator&) = delete;
@@ -32,6 +34,7 @@ public:
 
     /// The root first, the topmost screen last.
     const std::vector<Entry>& stack() const { return stack_; }
+    /// The topmost screen.
     const std::shared_ptr<Screen>& top() const { return stack_.back().screen; }
 
     /// The system's back gesture: writes false into the flag of the topmost screen. False when only the root

@@ -8,15 +8,19 @@
 
 namespace ombrivane {
 
+/// What is told of a change; it may read, assign, observe and drop subscriptions.
 using Observer = std::function<void()>;
 
 /// Keeps one observer registered; dropping it ends the observation, also while notifying.
 class Subscription {
 public:
     Subscription() = default;
+    /// For an observable: the slot that it tells while it lives.
     explicit Subscription(std::shared_ptr<void> slot) : slot_(std::move(slot)) {}
 
+    /// Ends the observation.
     void cancel() { slot_.reset(); }
+    /// Whether it still observes.
     explicit operator bool() const { return slot_ != nullptr; }
 
 private:
@@ -34,7 +38,9 @@ public:
     Observable(const Observable&) = delete;
     Observable& operator=(const Observable&) = delete;
 
+    /// `observer` is told of each later change while the subscription lives.
     Subscription observe(Observer observer);
+    /// Whether anybody would be told.
     bool isObserved() const;
 
     /// Tells every observer that the value was assigned, changed or not.

@@ -18,11 +18,13 @@ class Part;
 /// Screens are made by `std::make_shared` and never copied; a completion that is still out holds its screen.
 class OMBRIVANE_API Screen : public std::enable_shared_from_this<Screen> {
 public:
+    /// `name` is text that outlives the screen.
     explicit Screen(std::string_view name) : name_(name) {}
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
     virtual ~Screen() = default;
 
+    /// Its name, as a path spells it.
     std::string_view name() const { return name_; }
 
     /// Called each time the screen comes into view: when it is pushed, and when what covered it is taken
@@ -38,7 +40,9 @@ public:
     /// Whether a tap reaches this screen: nothing lies over it and it is part of what is shown.
     bool takesInput() const;
 
+    /// What it can show over itself, in the order of declaration.
     const std::vector<Link*>& links() const { return links_; }
+    /// What it shows inside of itself, in the order of declaration.
     const std::vector<Part*>& parts() const { return parts_; }
 
     /// For what is shown inside of another screen: a tap reaches it while one reaches `host`.
@@ -49,6 +53,7 @@ public:
     /// The screen inside of which this one is shown, nullptr for one on the stack itself.
     std::shared_ptr<Screen> host() const { return host_.lock(); }
 
+    /// All that it holds and shows, by key. Declared first, so that it outlives its members.
     Fields fields;
 
 private:

@@ -24,6 +24,7 @@ public:
     /// The 36-character form in upper case.
     std::string text() const;
 
+    /// By their bytes.
     auto operator<=>(const Uuid&) const = default;
 
 private:
@@ -34,6 +35,8 @@ private:
 
 } // namespace ombrivane
 
+/// @cond
 template <> struct OMBRIVANE_API std::hash<ombrivane::Uuid> {
     std::size_t operator()(const ombrivane::Uuid& uuid) const noexcept;
 };
+/// @endcond

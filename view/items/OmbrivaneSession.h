@@ -29,7 +29,9 @@ public:
     explicit OmbrivaneSession(QObject* parent = nullptr) : QObject(parent) {}
     ~OmbrivaneSession() override;
 
+    /// What the stage of `OmbrivaneView.qml` shows.
     StageModel* stage() { return &stage_; }
+    /// The stack of screens; nullptr while the component is not open.
     Navigator* navigator() const { return view_ ? view_->navigator() : nullptr; }
 
     /// Shows the component; shown again, it starts again.
@@ -40,12 +42,12 @@ public:
     /// Called in place of the signals, on the thread that the component reached it on. Set before `open`.
     void setCallback(CompletionCallback callback) { callback_ = std::move(callback); }
 
-    QString clientId;
-    QString clientSecret;
-    QString userType;
-    double walletBalance = std::numeric_limits<double>::quiet_NaN();
-    QString phone;
-    QString environment;
+    QString clientId;     ///< the wallet's own, from the booking service
+    QString clientSecret; ///< never shown, printed or written
+    QString userType;     ///< empty: "customer"
+    double walletBalance = std::numeric_limits<double>::quiet_NaN(); ///< in whole rupees; NaN: no limit
+    QString phone;                                                   ///< of the customer, empty where unknown
+    QString environment;                                             ///< empty: "test"
 
     /// The hand-over, or progress where "exit" in it is false; JSON. On the main thread.
     Q_SIGNAL void finished(const QString& dictionary);
