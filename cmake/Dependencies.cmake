@@ -1,6 +1,5 @@
 # Every library that the component uses, each for its own field.
 
-find_package(PkgConfig REQUIRED)
 find_package(CURL REQUIRED)
 find_package(ICU REQUIRED COMPONENTS i18n uc)
 find_package(simdjson REQUIRED)
@@ -9,4 +8,6 @@ find_package(JPEG REQUIRED)
 find_package(PNG REQUIRED)
 find_package(fmt REQUIRED)
 find_package(Threads REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick QuickControls2 Svg)
+if(OMBRIVANE_VIEW)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick QuickControls2 Svg)
+endif()

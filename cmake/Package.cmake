@@ -10,6 +10,8 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/OmbrivaneConfigVersion.cmak
 install(FILES ${CMAKE_BINARY_DIR}/OmbrivaneConfig.cmake ${CMAKE_BINARY_DIR}/OmbrivaneConfigVersion.cmake
     DESTINATION ${package_folder})
 install(EXPORT OmbrivaneCore NAMESPACE Ombrivane:: DESTINATION ${package_folder})
-install(EXPORT OmbrivaneView NAMESPACE Ombrivane:: DESTINATION ${package_folder})
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES ${CMAKE_SOURCE_DIR}/resources/fonts/OFL.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/fonts)
+if(OMBRIVANE_VIEW)
+    install(EXPORT OmbrivaneView NAMESPACE Ombrivane:: DESTINATION ${package_folder})
+    install(FILES ${CMAKE_SOURCE_DIR}/resources/fonts/OFL.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/fonts)
+endif()

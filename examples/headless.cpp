@@ -8,9 +8,10 @@
 
 int main(int count, char** values) {
     if (count < 3) return 2;
+    const std::string service = values[1], certificates = values[2];
     const auto loop = std::make_shared<ombrivane::RunLoop>();
-    ombrivane::Platform::install(ombrivane::headlessPlatform(loop, values[2], "127.0.0.1"));
-    ombrivane::ServiceHosts::use({.production = values[1], .test = values[1]});
+    ombrivane::Platform::install(ombrivane::headlessPlatform(loop, certificates, "127.0.0.1"));
+    ombrivane::ServiceHosts::use({.production = service, .test = service});
 
     ombrivane::OmbrivaneView view(
         "wallet", "wallet-secret", "customer", 250000, "9800000000", "test", [](auto reserved, auto error) {

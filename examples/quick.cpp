@@ -10,9 +10,10 @@
 
 int main(int count, char** values) {
     if (count < 3) return 2;
+    const std::string service = values[1], certificates = values[2];
     const QGuiApplication application(count, values);
-    ombrivane::Platform::install(ombrivane::view::qtPlatform(values[2], "127.0.0.1"));
-    ombrivane::ServiceHosts::use({.production = values[1], .test = values[1]});
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(certificates, "127.0.0.1"));
+    ombrivane::ServiceHosts::use({.production = service, .test = service});
 
     QQuickView window;
     window.engine()->addImportPath("qrc:/com.framework.Ombrivane/qml");

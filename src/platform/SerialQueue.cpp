@@ -15,6 +15,14 @@ namespace {
 /// Linux takes no longer name for a thread.
 constexpr std::size_t longestName = 15;
 
+void nameThisThread(const std::string& name) {
+#ifdef __APPLE__
+    pthread_setname_np(name.c_str());
+#else
+    pthread_setname_np(pthread_self(), name.substr(0, longestName).c_str());
+#endif
+}
+
 } // namespace
 
 struct SerialQueue::State {
@@ -49,8 +57,10 @@ void SerialQueue::async(Step step) {
         const std::lock_guard lock(state_->mutex);
         state_->steps.push_back(std::move(step));
         if (!thread_.joinable()) {
-            thread_ = std::thread([state = state_] { run(state); });
-            pthread_setname_np(thread_.native_handle(), name_.substr(0, longestName).c_str());
+            thread_ = std::thread([state = state_, name = name_] {
+                nameThisThread(name);
+                run(state);
+            });
         }
     }
     state_->arrived.notify_one();
