@@ -8,6 +8,8 @@ endif()
 add_library(ombrivane_warnings INTERFACE)
 target_compile_options(ombrivane_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Werror)
+# Of a text put before a text, g++ 12 believes that it may overlap itself.
+target_compile_options(ombrivane_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
 if(OMBRIVANE_SANITIZE)
     add_compile_options(-fsanitize=${OMBRIVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

@@ -23,7 +23,7 @@ tells anything else than the code.
 std::string code(std::string text) {
     // A bar would end the cell of the table.
     for (auto bar = text.find('|'); bar != std::string::npos; bar = text.find('|', bar + 2))
-        text.insert(bar, "\\");
+        text.insert(bar, 1, '\\');
     return "`" + text + "`";
 }
 
