@@ -150,7 +150,7 @@ TEST_F(OmbrivaneViewTest, TellsTheHostOfEveryFailureOnceAndClosesInTheWayOfTheSy
         EXPECT_EQ(heard.size(), 1U) << "closing is a step of the main queue";
         world.queue->drain();
     };
-    const Case cases[] = {
+    const std::vector<Case> cases{
         {{"iOS", 13, 7}, nullptr, {"nil Please update yor phone to ios 14.", "dismiss frontmost"}},
         {{"iOS", 14, 0}, answer(refusal), {"nil Unknown client", "dismiss frontmost"}},
         {{"iOS", 14, 8}, lose, {"nil The request timed out.", "dismiss frontmost"}},
