@@ -22,20 +22,19 @@ Column {
         font.weight: Font.Medium
         Accessible.role: Accessible.Heading
     }
-    Grid {
-        columns: 7
+    Item {
+        width: month.cellWidth * 7
+        height: month.cellHeight * Math.ceil(days.count / 7)
         Repeater {
+            id: days
             model: month.row.days
-            Item {
-                id: place
-                required property DayAdapter modelData
+            DayCell {
+                required property int index
+                x: index % 7 * month.cellWidth
+                y: Math.floor(index / 7) * month.cellHeight
                 width: month.cellWidth
                 height: month.cellHeight
-                DayCell {
-                    anchors.fill: parent
-                    modelData: place.modelData
-                    onClicked: month.tapped(place.modelData.date)
-                }
+                onClicked: month.tapped(modelData.date)
             }
         }
     }
