@@ -9,7 +9,6 @@ T.AbstractButton {
     required property DayAdapter modelData
 
     objectName: modelData.date
-    visible: modelData.day !== ""
     enabled: modelData.selectable
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button

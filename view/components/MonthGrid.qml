@@ -24,14 +24,15 @@ Column {
     }
     Item {
         width: month.cellWidth * 7
-        height: month.cellHeight * Math.ceil(days.count / 7)
+        height: month.cellHeight * Math.ceil((days.count + month.row.firstColumn) / 7)
         Repeater {
             id: days
             model: month.row.days
             DayCell {
                 required property int index
-                x: index % 7 * month.cellWidth
-                y: Math.floor(index / 7) * month.cellHeight
+                readonly property int position: index + month.row.firstColumn
+                x: position % 7 * month.cellWidth
+                y: Math.floor(position / 7) * month.cellHeight
                 width: month.cellWidth
                 height: month.cellHeight
                 onClicked: month.tapped(modelData.date)
