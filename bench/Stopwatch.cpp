@@ -7,13 +7,6 @@
 namespace ombrivane::bench {
 namespace {
 
-/// What the processor spent on this thread: a machine that also does something else does not count.
-double processorSeconds() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
-
 /// Lets the allocator do now what it put off while the last work freed its memory: a large request makes it
 /// merge and sort what is free, which the next work would pay for otherwise.
 void settleHeap() {
@@ -26,6 +19,18 @@ void settleHeap() {
 }
 
 } // namespace
+
+double processorSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
 
 std::vector<double> interleavedMedians(const std::vector<Timed>& works, std::size_t rounds) {
     std::vector<std::vector<double>> seconds(works.size());
@@ -42,11 +47,8 @@ std::vector<double> interleavedMedians(const std::vector<Timed>& works, std::siz
         }
     }
     std::vector<double> medians;
-    for (auto& taken : seconds) {
-        const auto middle = taken.begin() + static_cast<std::ptrdiff_t>(taken.size() / 2);
-        std::nth_element(taken.begin(), middle, taken.end());
-        medians.push_back(*middle);
-    }
+    for (auto& taken : seconds)
+        medians.push_back(median(std::move(taken)));
     return medians;
 }
 

@@ -44,6 +44,9 @@ QtObject {
     readonly property real fieldHeight: 52
     readonly property real target: 48
     readonly property real contentWidth: 560
+    // From here on a window has room for a filter beside its list.
+    readonly property real wideWidth: 840
+    readonly property real besideWidth: 360
 
     readonly property int stateDuration: reducedMotion ? 0 : 150
     readonly property int pageDuration: reducedMotion ? 0 : 250

@@ -58,12 +58,11 @@ std::optional<Uuid> Uuid::parse(std::string_view text) {
 
 std::string Uuid::text() const {
     std::string text(shape);
-    std::size_t nibble = 0;
-    for (char& character : text) {
-        if (character == '-') continue;
-        const std::uint8_t byte = bytes_[nibble / 2];
-        character = digits[nibble % 2 == 0 ? byte >> 4 : byte & 0x0F];
-        ++nibble;
+    char* character = text.data();
+    for (const std::uint8_t byte : bytes_) {
+        if (*character == '-') ++character;
+        *character++ = digits[byte >> 4];
+        *character++ = digits[byte & 0x0F];
     }
     return text;
 }

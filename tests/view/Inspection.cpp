@@ -99,6 +99,9 @@ void expectSound(Window& window) {
             expectInside(window, *item);
             texts.push_back(item);
         }
+        if (item->objectName() == "snackPanel") {
+            EXPECT_LE(item->width(), 560) << "a message wider than the content";
+        }
         if (!item->inherits("QQuickAbstractButton") && !item->inherits("QQuickTextInput")) continue;
         ++controls;
         expectControl(*item);

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QQmlProperty>
+
 #include <algorithm>
 #include <map>
 
@@ -102,6 +104,82 @@ TEST(PagesTest, WhatHappensIsSaidAloudAndTheFirstMissingFieldHasTheFocus) {
         ++looks;
     });
     EXPECT_EQ(looks, expected.size());
+}
+
+QRectF placeOf(const QQuickItem& item) { return item.mapRectToScene(QRectF(QPointF(), item.size())); }
+
+/// The offers in the window from the top down.
+std::vector<const QQuickItem*> offersOf(Window& window) {
+    std::vector<const QQuickItem*> offers;
+    for (const QQuickItem* item : window.visibleItems()) {
+        const bool inside = placeOf(*item).intersects(QRectF(QPointF(), window.window().size()));
+        if (item->objectName() == "offer" && inside) offers.push_back(item);
+    }
+    std::sort(offers.begin(), offers.end(), [](const auto* one, const auto* other) {
+        return placeOf(*one).top() < placeOf(*other).top();
+    });
+    return offers;
+}
+
+TEST(PagesTest, AWideWindowShowsTheFilterBesideTheListAndANarrowOneOverIt) {
+    struct Case {
+        int width;
+        bool covered;
+    };
+    for (const Case& look : {Case{1024, false}, Case{840, false}, Case{839, true}}) {
+        SCOPED_TRACE(look.width);
+        int looks = 0;
+        WalkPorts ports;
+        Window window(look.width, 768);
+        walk(ports, window, "tests/view/gallery/wide.script", [&](const std::string& name) {
+            window.settle();
+            if (name != "filter") return;
+            ++looks;
+            expectSound(window);
+            const QQuickItem* apply = window.item("apply");
+            ASSERT_NE(apply, nullptr);
+            const auto offers = offersOf(window);
+            ASSERT_FALSE(offers.empty());
+            for (const QQuickItem* offer : offers) {
+                const bool beside = placeOf(*apply).right() <= placeOf(*offer).left();
+                EXPECT_EQ(beside, !look.covered);
+                EXPECT_LE(placeOf(*offer).right(), look.width);
+            }
+        });
+        EXPECT_EQ(looks, 1);
+    }
+}
+
+/// Cards are used again as the list is scrolled: each shows the offer of its place, there and back again.
+TEST(PagesTest, EveryRowShowsItsOwnOfferWhileTheListIsScrolled) {
+    WalkPorts ports;
+    Window window;
+    walk(ports, window, "tests/view/gallery/wide.script", [&](const std::string& name) {
+        if (name != "list") return;
+        window.settle();
+        QQuickItem* list = window.item("offers");
+        ASSERT_NE(list, nullptr);
+        const auto shownPrices = [&] {
+            std::vector<std::string> prices;
+            for (const QQuickItem* offer : offersOf(window))
+                prices.push_back(QQmlProperty::read(offer, "row.price").toString().toStdString());
+            return prices;
+        };
+        const auto before = shownPrices();
+        ASSERT_GE(before.size(), 3U);
+        EXPECT_TRUE(
+            std::none_of(before.begin(), before.end(), [](const auto& price) { return price.empty(); }));
+        list->setProperty("pinned", false);
+        QMetaObject::invokeMethod(list, "positionViewAtEnd");
+        window.settle();
+        EXPECT_NE(shownPrices(), before);
+        QMetaObject::invokeMethod(list, "positionViewAtBeginning");
+        window.settle();
+        auto after = shownPrices();
+        ASSERT_GE(after.size(), before.size());
+        after.resize(before.size()); // the header may be out of view now, and make room for one more
+        EXPECT_EQ(after, before);
+    });
 }
 
 TEST(PagesTest, theBackControlClosesWithoutAWordToTheHost) {

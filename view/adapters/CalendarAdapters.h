@@ -12,7 +12,7 @@ class DayAdapter : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
-    Q_PROPERTY(QString day READ day CONSTANT FINAL)   ///< empty for a filler
+    Q_PROPERTY(QString day READ day CONSTANT FINAL)
     Q_PROPERTY(QString date READ date CONSTANT FINAL) ///< "yyyy-MM-dd"
     Q_PROPERTY(QString label READ label CONSTANT FINAL)
     Q_PROPERTY(bool selectable READ selectable NOTIFY changed FINAL)
@@ -24,7 +24,7 @@ class DayAdapter : public QObject {
 public:
     DayAdapter(CalendarCell cell, QObject* parent) : QObject(parent), cell_(std::move(cell)) {}
 
-    QString day() const { return cell_.day < 0 ? QString() : QString::number(cell_.day); }
+    QString day() const { return QString::number(cell_.day); }
     QString date() const { return QString::fromStdString(cell_.date); }
     /// The whole date, for assistive technology.
     QString label() const;
@@ -51,6 +51,7 @@ class MonthAdapter : public ombrivane::view::ScreenAdapter {
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(QQmlListProperty<ombrivane::view::DayAdapter> days READ days CONSTANT FINAL)
+    Q_PROPERTY(int firstColumn READ firstColumn CONSTANT FINAL) ///< where the first day stands in its week
     OMBRIVANE_TEXT(title, core().title)
 
 public:
@@ -58,11 +59,13 @@ public:
 
     TravelCalendar::Month& core() const { return static_cast<TravelCalendar::Month&>(*screen()); }
     QQmlListProperty<DayAdapter> days() { return readOnlyList(this, days_); }
+    int firstColumn() const { return firstColumn_; }
 
 private:
     void update();
 
     QList<DayAdapter*> days_; ///< children of this
+    int firstColumn_ = 0;
     Subscription watch_;
 };
 

@@ -81,7 +81,7 @@ class OfferAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
-    Q_PROPERTY(QQmlListProperty<ombrivane::view::JourneyAdapter> journeys READ journeys CONSTANT FINAL)
+    Q_PROPERTY(int journeyCount READ journeyCount CONSTANT FINAL)
     Q_PROPERTY(QString label READ label CONSTANT FINAL)
     OMBRIVANE_TEXT(price, core().price)
     OMBRIVANE_TEXT(detailsText, core().detailsText)
@@ -94,7 +94,8 @@ public:
     explicit OfferAdapter(std::shared_ptr<Screen> screen);
 
     OfferItemView& core() const { return static_cast<OfferItemView&>(*screen()); }
-    QQmlListProperty<JourneyAdapter> journeys() { return readOnlyList(this, journeys_); }
+    int journeyCount() const { return static_cast<int>(journeys_.size()); }
+    Q_INVOKABLE ombrivane::view::JourneyAdapter* journeyAt(int index) const { return journeys_.value(index); }
     /// The offer in words, for assistive technology.
     QString label() const;
 

@@ -123,6 +123,7 @@ class ResultsAdapter : public ombrivane::view::ScreenAdapter {
 
     OMBRIVANE_FLAG(showActionBar, model_.showActionBar)
     OMBRIVANE_FLAG(showSnackBar, model_.showSnackBar)
+    OMBRIVANE_FLAG(showsFilter, model_.showFilterBottomSheet)
     OMBRIVANE_FLAG(showContinueButton, model_.showContinueButton)
     OMBRIVANE_FLAG(isLoading, model_.isLoading)
     OMBRIVANE_TEXT(departCity, core().departCity)

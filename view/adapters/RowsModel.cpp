@@ -47,9 +47,36 @@ int RowsModel::positionOf(const QString& identity) const {
 void RowsModel::follow() {
     const auto next = currentIdentities();
     if (next == identities_) return;
-    removeMissing(next);
-    insertNew(next);
-    emit countChanged();
+    const int former = count();
+    if (sharesNone(next)) {
+        exchange(next);
+    } else {
+        removeMissing(next);
+        insertNew(next);
+    }
+    if (count() != former) emit countChanged();
+}
+
+bool RowsModel::sharesNone(const std::vector<std::string>& next) const {
+    const std::unordered_set<std::string> present(identities_.begin(), identities_.end());
+    return std::none_of(
+        next.begin(), next.end(), [&](const auto& identity) { return present.contains(identity); });
+}
+
+void RowsModel::exchange(const std::vector<std::string>& next) {
+    const std::size_t kept = std::min(identities_.size(), next.size());
+    if (identities_.size() > kept) {
+        beginRemoveRows({}, static_cast<int>(kept), count() - 1);
+        identities_.resize(kept);
+        endRemoveRows();
+    }
+    std::copy_n(next.begin(), kept, identities_.begin());
+    if (kept > 0) emit dataChanged(index(0), index(static_cast<int>(kept) - 1), {rowRole});
+    if (next.size() > kept) {
+        beginInsertRows({}, static_cast<int>(kept), static_cast<int>(next.size()) - 1);
+        identities_ = next;
+        endInsertRows();
+    }
 }
 
 void RowsModel::removeMissing(const std::vector<std::string>& next) {

@@ -35,6 +35,10 @@ public:
 private:
     std::vector<std::string> currentIdentities() const;
     void follow();
+    bool sharesNone(const std::vector<std::string>& next) const;
+    /// Other rows in the places of those that stand there, as offers follow their placeholders: what is drawn
+    /// stays and shows the new ones.
+    void exchange(const std::vector<std::string>& next);
     void removeMissing(const std::vector<std::string>& next);
     void insertNew(const std::vector<std::string>& next);
 

@@ -9,7 +9,6 @@ T.AbstractButton {
     required property DayAdapter modelData
 
     objectName: modelData.date
-    visible: modelData.day !== ""
     enabled: modelData.selectable
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
@@ -18,14 +17,16 @@ T.AbstractButton {
     Accessible.checked: modelData.selected
 
     background: Item {
-        Rectangle {
+        // Few days lie on the band, and a month has many days.
+        Loader {
             readonly property real from: cell.modelData.inRange || cell.modelData.joinsPrevious ? 0 : parent.width / 2
             readonly property real to: cell.modelData.inRange || cell.modelData.joinsNext ? parent.width : parent.width / 2
+            active: to > from
             x: from
+            y: disc.y
             width: to - from
             height: disc.height
-            anchors.verticalCenter: parent.verticalCenter
-            color: Theme.calenderRangeColor
+            sourceComponent: Rectangle { color: Theme.calenderRangeColor }
         }
         Rectangle {
             id: disc

@@ -22,20 +22,20 @@ Column {
         font.weight: Font.Medium
         Accessible.role: Accessible.Heading
     }
-    Grid {
-        columns: 7
+    Item {
+        width: month.cellWidth * 7
+        height: month.cellHeight * Math.ceil((days.count + month.row.firstColumn) / 7)
         Repeater {
+            id: days
             model: month.row.days
-            Item {
-                id: place
-                required property DayAdapter modelData
+            DayCell {
+                required property int index
+                readonly property int position: index + month.row.firstColumn
+                x: position % 7 * month.cellWidth
+                y: Math.floor(position / 7) * month.cellHeight
                 width: month.cellWidth
                 height: month.cellHeight
-                DayCell {
-                    anchors.fill: parent
-                    modelData: place.modelData
-                    onClicked: month.tapped(place.modelData.date)
-                }
+                onClicked: month.tapped(modelData.date)
             }
         }
     }

@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Ombrivane
 
@@ -40,7 +39,7 @@ T.AbstractButton {
     }
     contentItem: Shimmer {
         running: card.row.isPlaceholder
-        ColumnLayout {
+        Column {
             id: column
             x: Theme.margin
             y: Theme.margin
@@ -48,12 +47,11 @@ T.AbstractButton {
             spacing: Theme.margin
             Repeater {
                 id: journeys
-                model: card.row.journeys
+                model: card.row.journeyCount
                 OfferJourney {
-                    required property JourneyAdapter modelData
                     required property int index
-                    Layout.fillWidth: true
-                    journey: modelData
+                    width: column.width
+                    journey: card.row.journeyAt(index)
                     awaited: card.row.isPlaceholder
                     unfolded: card.row.isUnfolded
                     price: index === 0 ? card.row.price : ""
@@ -61,10 +59,11 @@ T.AbstractButton {
                 }
             }
             Repeater {
-                model: card.row.journeys
+                model: card.row.isUnfolded ? card.row.journeyCount : 0
                 OfferSegments {
-                    visible: card.row.isUnfolded
-                    Layout.fillWidth: true
+                    required property int index
+                    width: column.width
+                    journey: card.row.journeyAt(index)
                 }
             }
         }

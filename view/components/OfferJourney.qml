@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Layouts
 import Ombrivane
 
 // One journey of an offer card: airline and price, times around the plane on its line, places, what is included.
-ColumnLayout {
+// Placed by hand: a card is laid out anew for each row that comes into view, and layouts would be most of that.
+Column {
     id: item
 
     required property JourneyAdapter journey
@@ -12,27 +12,41 @@ ColumnLayout {
     property bool unfolded: false
     property bool awaited: false
     readonly property bool narrow: width < 270 * Theme.textScale
+    readonly property real half: (width - 8) / 2
 
     spacing: 8
 
-    GridLayout {
-        Layout.fillWidth: true
-        columns: item.narrow ? 1 : 2
-        columnSpacing: 8
-        rowSpacing: 4
-        RowLayout {
-            Layout.fillWidth: true
-            spacing: 8
-            Logo { url: item.journey.carrierLogo }
+    Item {
+        width: item.width
+        height: Math.ceil(item.narrow ? airline.height + (cost.visible ? 4 + cost.height : 0) : Math.max(airline.height, cost.visible ? cost.height : 0))
+        Item {
+            id: airline
+            y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
+            width: parent.width - (item.narrow || !cost.visible ? 0 : cost.width + 8)
+            height: Math.max(logo.height, name.height)
+            Logo {
+                id: logo
+                y: Math.round((parent.height - height) / 2)
+                width: implicitWidth
+                height: implicitHeight
+                url: item.journey.carrierLogo
+            }
             CardText {
-                Layout.fillWidth: true
+                id: name
+                x: logo.width + 8
+                y: Math.round((parent.height - height) / 2)
+                width: parent.width - x
                 awaited: item.awaited
                 text: item.journey.carrierName
                 font.weight: Font.Medium
             }
         }
         CardText {
+            id: cost
+            x: item.narrow ? 0 : parent.width - width
+            y: item.narrow ? airline.height + 4 : Math.round((parent.height - height) / 2)
             visible: item.price !== ""
+            width: Math.ceil(implicitWidth)
             awaited: item.awaited
             text: item.price
             tint: Theme.primaryColor
@@ -41,24 +55,30 @@ ColumnLayout {
         }
     }
     CardText {
-        Layout.alignment: Qt.AlignHCenter
+        x: Math.round((item.width - width) / 2)
         visible: item.narrow
         awaited: item.awaited
         text: item.journey.duration
         tint: Theme.placeHolderColor
         font.pixelSize: Theme.captionSize
     }
-    RowLayout {
-        Layout.fillWidth: true
-        spacing: 8
+    Item {
+        width: item.width
+        height: Math.ceil(Math.max(departure.height, flight.height, arrival.height))
         CardText {
+            id: departure
+            y: Math.round((parent.height - height) / 2)
+            width: Math.ceil(implicitWidth)
             awaited: item.awaited
             text: item.journey.departureTime
             font.pixelSize: Theme.timeSize
             font.weight: Font.Medium
         }
         Column {
-            Layout.fillWidth: true
+            id: flight
+            x: departure.width + 8
+            y: Math.round((parent.height - height) / 2)
+            width: arrival.x - 8 - x
             CardText {
                 visible: !item.narrow
                 width: parent.width
@@ -69,27 +89,33 @@ ColumnLayout {
                 font.pixelSize: Theme.captionSize
             }
             PlaneLine {
+                x: Math.round((parent.width - width) / 2)
                 width: Math.min(parent.width, implicitWidth)
-                anchors.horizontalCenter: parent.horizontalCenter
+                height: implicitHeight
                 lineImage: item.journey.lineImage
             }
         }
         CardText {
+            id: arrival
+            x: parent.width - width
+            y: Math.round((parent.height - height) / 2)
+            width: Math.ceil(implicitWidth)
             awaited: item.awaited
             text: item.journey.arrivalTime
             font.pixelSize: Theme.timeSize
             font.weight: Font.Medium
         }
     }
-    RowLayout {
-        Layout.fillWidth: true
-        spacing: 8
+    Item {
+        width: item.width
+        height: Math.ceil(Math.max(origin.height, destination.height))
         Column {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 1
-            CardText { width: parent.width; awaited: item.awaited; text: item.journey.departureLocation; font.weight: Font.Medium }
+            id: origin
+            y: Math.round((parent.height - height) / 2)
+            width: item.half
+            CardText { width: item.half; awaited: item.awaited; text: item.journey.departureLocation; font.weight: Font.Medium }
             CardText {
-                width: parent.width
+                width: item.half
                 awaited: item.awaited
                 text: item.journey.departureDate
                 tint: Theme.placeHolderColor
@@ -97,17 +123,19 @@ ColumnLayout {
             }
         }
         Column {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 1
+            id: destination
+            x: parent.width - width
+            y: Math.round((parent.height - height) / 2)
+            width: item.half
             CardText {
-                width: parent.width
+                width: item.half
                 horizontalAlignment: Text.AlignRight
                 awaited: item.awaited
                 text: item.journey.arrivalLocation
                 font.weight: Font.Medium
             }
             CardText {
-                width: parent.width
+                width: item.half
                 horizontalAlignment: Text.AlignRight
                 awaited: item.awaited
                 text: item.journey.arrivalDate
@@ -116,23 +144,29 @@ ColumnLayout {
             }
         }
     }
-    Rectangle { Layout.fillWidth: true; Layout.topMargin: 2; implicitHeight: 1; color: Theme.hairlineColor }
-    GridLayout {
-        Layout.fillWidth: true
-        columns: item.narrow ? 1 : 2
-        columnSpacing: 8
-        rowSpacing: 4
+    Item {
+        width: item.width
+        height: 3
+        Rectangle { y: 2; width: parent.width; height: 1; color: Theme.hairlineColor }
+    }
+    Item {
+        width: item.width
+        height: Math.ceil(item.narrow ? included.height + (details.visible ? 4 + details.height : 0) : Math.max(included.height, details.visible ? details.height : 0))
         Flow {
-            Layout.fillWidth: true
+            id: included
+            y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
+            width: parent.width - (item.narrow || !details.visible ? 0 : details.width + 8)
             spacing: 12
             CardText { awaited: item.awaited; text: item.journey.cabin; tint: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
             CardText { awaited: item.awaited; text: item.journey.refundability; tint: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
             Allowance { iconName: "handcarryIcon"; text: item.journey.cabinBaggage; awaited: item.awaited }
             Allowance { iconName: "brifcaseIcon"; text: item.journey.checkInBaggage; awaited: item.awaited }
         }
-        RowLayout {
+        Row {
+            id: details
             visible: item.detailsText !== ""
-            Layout.alignment: Qt.AlignRight | Qt.AlignBottom
+            x: parent.width - width
+            y: parent.height - height
             spacing: 2
             CardText {
                 awaited: item.awaited
@@ -142,8 +176,9 @@ ColumnLayout {
                 font.weight: Font.Medium
             }
             Icon {
-                implicitWidth: 20
-                implicitHeight: 20
+                y: Math.round((parent.height - height) / 2)
+                width: 20
+                height: 20
                 name: "showSegmentIcon"
                 color: Theme.secondaryColor
                 rotation: item.unfolded ? 180 : 0

@@ -6,7 +6,7 @@ import Ombrivane
 Rectangle {
     id: block
 
-    required property JourneyAdapter modelData
+    required property JourneyAdapter journey
 
     implicitHeight: column.implicitHeight + 2 * Theme.gap
     radius: Theme.fieldRadius
@@ -20,12 +20,12 @@ Rectangle {
             Layout.fillWidth: true
             spacing: 8
             Icon { width: 22; height: 22; name: "departureBlackIcon"; color: Theme.blackColor }
-            CardText { text: block.modelData.departureCountry; font.weight: Font.Medium }
+            CardText { text: block.journey.departureCountry; font.weight: Font.Medium }
             Icon { width: 20; height: 22; name: "toIcon"; color: Theme.placeHolderColor }
-            CardText { text: block.modelData.arrivalCountry; font.weight: Font.Medium }
+            CardText { text: block.journey.arrivalCountry; font.weight: Font.Medium }
         }
         Repeater {
-            model: block.modelData.segments
+            model: block.journey.segments
             SegmentLine { Layout.fillWidth: true }
         }
     }

@@ -8,18 +8,14 @@ FocusScope {
     required property ResultsAdapter results
     default property alias tabs: header.tabs
     readonly property real footShown: foot.arrival * foot.height
+    // A wide window moves the list aside for its filter.
+    readonly property bool besideFilter: width >= Theme.wideWidth && results.showsFilter
 
     function showContent() { content.setSource(results.contentPage, {"screen": results.content}) }
 
     Component.onCompleted: showContent()
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
-    Loader {
-        id: content
-        readonly property ResultsContent shown: item as ResultsContent
-        anchors.fill: parent
-        focus: true
-    }
     Connections {
         target: page.results
         function onContentChanged() { page.showContent() }
@@ -36,59 +32,69 @@ FocusScope {
         property: "bottomInset"
         value: page.footShown + (page.results.showsFloatingBar ? 56 + Theme.gap : 0)
     }
-    ResultsHeader {
-        id: header
-        width: parent.width
-        screen: page.results
-    }
-    Column {
-        anchors {
-            right: parent.right
-            rightMargin: Math.max(Theme.margin, (page.width - Theme.contentWidth) / 2)
-            bottom: parent.bottom
-            bottomMargin: page.footShown + Theme.gap
+    Item {
+        anchors { fill: parent; leftMargin: page.besideFilter ? Theme.besideWidth : 0 }
+
+        Loader {
+            id: content
+            readonly property ResultsContent shown: item as ResultsContent
+            anchors.fill: parent
+            focus: true
         }
-        spacing: 8
-        FloatingButton {
-            objectName: "scrollUp"
-            visible: page.results.showsScrollUp
-            iconName: "scrollupIcon"
-            label: qsTr("Back to the top")
-            onClicked: page.results.scrollUp()
+        ResultsHeader {
+            id: header
+            width: parent.width
+            screen: page.results
         }
-        FloatingButton {
-            objectName: "filter"
-            visible: page.results.showsFloatingBar
-            iconName: "filterIcon"
-            label: page.results.filterIsOn ? qsTr("Filter, on") : qsTr("Filter")
-            marked: page.results.filterIsOn
-            onClicked: page.results.openFilter()
+        Column {
+            anchors {
+                right: parent.right
+                rightMargin: Math.max(Theme.margin, (parent.width - Theme.contentWidth) / 2)
+                bottom: parent.bottom
+                bottomMargin: page.footShown + Theme.gap
+            }
+            spacing: 8
+            FloatingButton {
+                objectName: "scrollUp"
+                visible: page.results.showsScrollUp
+                iconName: "scrollupIcon"
+                label: qsTr("Back to the top")
+                onClicked: page.results.scrollUp()
+            }
+            FloatingButton {
+                objectName: "filter"
+                visible: page.results.showsFloatingBar
+                iconName: "filterIcon"
+                label: page.results.filterIsOn ? qsTr("Filter, on") : qsTr("Filter")
+                marked: page.results.filterIsOn
+                onClicked: page.results.openFilter()
+            }
         }
-    }
-    FootBar {
-        id: foot
-        objectName: "total"
-        property real arrival: page.results.showContinueButton ? 1 : 0
-        y: parent.height - page.footShown
-        width: parent.width
-        visible: arrival > 0
-        label: page.results.totalLabel
-        value: page.results.total
-        emphasised: true
-        action: page.results.continueText
-        actionIcon: "toIcon"
-        onClicked: page.results.goOn()
-        Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
-    }
-    SnackBar {
-        anchors {
-            bottom: parent.bottom
-            bottomMargin: page.footShown + Theme.gap
-            horizontalCenter: parent.horizontalCenter
+        FootBar {
+            id: foot
+            objectName: "total"
+            property real arrival: page.results.showContinueButton ? 1 : 0
+            y: parent.height - page.footShown
+            width: parent.width
+            visible: arrival > 0
+            label: page.results.totalLabel
+            value: page.results.total
+            emphasised: true
+            action: page.results.continueText
+            actionIcon: "toIcon"
+            onClicked: page.results.goOn()
+            Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
         }
-        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
-        message: page.results.errorMessage
-        shown: page.results.showSnackBar
+        SnackBar {
+            anchors {
+                bottom: parent.bottom
+                bottomMargin: page.footShown + Theme.gap
+                horizontalCenter: parent.horizontalCenter
+            }
+            width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+            message: page.results.errorMessage
+            shown: page.results.showSnackBar
+        }
     }
     Keys.onEscapePressed: page.results.back()
 }

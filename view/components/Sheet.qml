@@ -2,12 +2,14 @@ import QtQuick
 import Ombrivane
 
 // A sheet from the foot of the stage: handle, content, the rest dims. A swipe, a tap outside and Escape close it.
+// One that is `beside` stands at the leading edge instead, next to what it belongs to, and nothing dims.
 FocusScope {
     id: sheet
 
     default property alias content: holder.data
     required property string name
     property real wantedHeight: 400
+    property bool beside: false
     property real shift: 0
     signal dismissed
 
@@ -16,21 +18,24 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Theme.dimColor
+        color: sheet.beside ? "transparent" : Theme.dimColor
         TapHandler { onTapped: sheet.dismissed() }
     }
     Rectangle {
         id: panel
-        readonly property real shownHeight: Math.min(sheet.wantedHeight + 28, sheet.height - 40)
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, Theme.contentWidth)
-        height: shownHeight + Theme.cardRadius
+        readonly property real head: sheet.beside ? Theme.margin : 28
+        readonly property real shownHeight: sheet.beside ? sheet.height : Math.min(sheet.wantedHeight + head, sheet.height - 40)
+        x: sheet.beside ? 0 : (parent.width - width) / 2
+        width: sheet.beside ? Theme.besideWidth : Math.min(parent.width, Theme.contentWidth)
+        height: shownHeight + (sheet.beside ? 0 : Theme.cardRadius)
         y: parent.height - shownHeight + sheet.shift
-        radius: Theme.cardRadius
+        radius: sheet.beside ? 0 : Theme.cardRadius
         color: Theme.whiteColor
 
         TapHandler {}
+        Rectangle { visible: sheet.beside; x: parent.width; width: 1; height: parent.height; color: Theme.hairlineColor }
         Item {
+            visible: !sheet.beside
             width: parent.width
             height: 28
             Icon {
@@ -49,15 +54,15 @@ FocusScope {
         }
         Item {
             id: holder
-            y: 28
+            y: panel.head
             width: parent.width
-            height: panel.shownHeight - 28
+            height: panel.shownHeight - panel.head
         }
         NumberAnimation on y {
             from: sheet.height
             duration: Theme.pageDuration
             easing.type: Easing.OutCubic
-            running: Theme.pageDuration > 0
+            running: Theme.pageDuration > 0 && !sheet.beside
             to: sheet.height - panel.shownHeight
             onFinished: panel.y = Qt.binding(() => sheet.height - panel.shownHeight + sheet.shift)
         }

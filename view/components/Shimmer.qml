@@ -10,7 +10,6 @@ Item {
     default property alias content: holder.data
 
     implicitHeight: holder.childrenRect.height
-    clip: running
 
     Item {
         id: holder
@@ -18,26 +17,31 @@ Item {
         height: parent.height
         opacity: shimmer.running ? 0.6 : 1
     }
-    Rectangle {
-        id: band
-        visible: shimmer.running && !Theme.reducedMotion
-        x: -width
-        width: shimmer.width
-        height: shimmer.height
-        opacity: Theme.dark ? 0.12 : 0.7
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: "#00FFFFFF" }
-            GradientStop { position: 0.3; color: "#FFFFFFFF" }
-            GradientStop { position: 0.7; color: "#FFFFFFFF" }
-            GradientStop { position: 1; color: "#00FFFFFF" }
-        }
-        NumberAnimation on x {
-            running: band.visible
-            from: -shimmer.width
-            to: shimmer.width
-            duration: 2000
-            loops: Animation.Infinite
+    // Only the band is clipped: when the content comes, it stays as it is drawn.
+    Loader {
+        anchors.fill: parent
+        active: shimmer.running && !Theme.reducedMotion
+        clip: true
+        sourceComponent: Item {
+            Rectangle {
+                x: -width
+                width: shimmer.width
+                height: shimmer.height
+                opacity: Theme.dark ? 0.12 : 0.7
+                gradient: Gradient {
+                    orientation: Gradient.Horizontal
+                    GradientStop { position: 0; color: "#00FFFFFF" }
+                    GradientStop { position: 0.3; color: "#FFFFFFFF" }
+                    GradientStop { position: 0.7; color: "#FFFFFFFF" }
+                    GradientStop { position: 1; color: "#00FFFFFF" }
+                }
+                NumberAnimation on x {
+                    from: -shimmer.width
+                    to: shimmer.width
+                    duration: 2000
+                    loops: Animation.Infinite
+                }
+            }
         }
     }
 }

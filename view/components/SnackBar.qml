@@ -24,8 +24,10 @@ Item {
 
     Rectangle {
         id: panel
+        objectName: "snackPanel"
+        x: (parent.width - width) / 2
         y: Theme.reducedMotion ? 0 : (1 - bar.arrival) * (height + Theme.margin)
-        width: parent.width
+        width: Math.min(parent.width, Theme.contentWidth)
         height: Math.max(Theme.fieldHeight, text.implicitHeight + 24)
         radius: Theme.fieldRadius
         color: Theme.blackColor

@@ -1,8 +1,12 @@
 #include "items/IconItem.h"
 
+#include <QCache>
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
+
+#include <cmath>
+#include <memory>
 
 namespace ombrivane::view {
 namespace {
@@ -14,6 +18,30 @@ constexpr const char* folder = ":/com.framework.Ombrivane/images/";
 QByteArray contents(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What tells one picture of a drawing from another.
+struct PictureKey {
+    QString name;
+    QRgb color;
+    bool dark;
+    double width;
+    double height;
+    double scale;
+
+    bool operator==(const PictureKey&) const = default;
+};
+
+std::size_t qHash(const PictureKey& key, std::size_t seed) {
+    return qHashMulti(seed, key.name, key.color, key.dark, key.width, key.height, key.scale);
+}
+
+/// Drawn pictures, by thread, since each window may draw in a thread of its own. The same few icons are
+/// wanted again and again, and reading a drawing costs more than all else about an item.
+QCache<PictureKey, QImage>& pictures() {
+    constexpr qsizetype mostBytes = 4 << 20;
+    thread_local QCache<PictureKey, QImage> cache(mostBytes);
+    return cache;
 }
 
 } // namespace
@@ -48,11 +76,29 @@ QByteArray IconItem::drawing() const {
     return svg;
 }
 
-void IconItem::paint(QPainter* painter) {
-    if (name_.isEmpty()) return;
+QImage IconItem::picture(double scale) const {
+    const QRectF place = boundingRect();
+    const PictureKey key{name_, color_.rgba(), dark_, place.width(), place.height(), scale};
+    if (const QImage* kept = pictures().object(key)) return *kept;
+    QImage image(static_cast<int>(std::ceil(place.width() * scale)),
+                 static_cast<int>(std::ceil(place.height() * scale)),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
     QSvgRenderer renderer(drawing());
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-    if (renderer.isValid()) renderer.render(painter, boundingRect());
+    if (renderer.isValid()) {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        renderer.render(&painter, place);
+    }
+    pictures().insert(key, std::make_unique<QImage>(image).release(), image.sizeInBytes());
+    return image;
+}
+
+void IconItem::paint(QPainter* painter) {
+    if (name_.isEmpty()) return;
+    painter->drawImage(QPointF(), picture(painter->deviceTransform().m11()));
 }
 
 } // namespace ombrivane::view

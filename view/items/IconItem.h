@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QQmlEngine>
 #include <QQuickPaintedItem>
 
@@ -33,6 +34,8 @@ public:
 
 private:
     QByteArray drawing() const;
+    /// The drawing in the size of this item, `scale` pixels to a point.
+    QImage picture(double scale) const;
 
     QString name_;
     QColor color_ = Qt::transparent;

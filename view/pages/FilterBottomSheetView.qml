@@ -10,6 +10,7 @@ Sheet {
     signal back
 
     name: page.screen.title
+    beside: width >= Theme.wideWidth
     wantedHeight: Math.min(height * 0.9, head.height + column.implicitHeight + apply.height + 4 * Theme.margin)
     onDismissed: back()
 
@@ -76,7 +77,7 @@ Sheet {
             PlainText { Layout.fillWidth: true; Layout.topMargin: Theme.gap; text: page.screen.timeTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
             GridLayout {
                 Layout.fillWidth: true
-                columns: page.width < 220 * Theme.textScale ? 1 : 2
+                columns: parent.width < 220 * Theme.textScale ? 1 : 2
                 columnSpacing: 8
                 rowSpacing: 8
                 Repeater {

@@ -41,6 +41,7 @@ ResultsContent {
         bottomMargin: page.bottomInset + Theme.gap
         spacing: Theme.gap
         model: page.screen.rows
+        reuseItems: true
         header: Column {
             width: ListView.view.width
             topPadding: 4
@@ -68,9 +69,10 @@ ResultsContent {
                 delegate: StripCard { height: ListView.view.height; awaited: page.screen.isLoading }
             }
         }
-        delegate: Item {
+        delegate: RowHolder {
             id: place
             required property OfferAdapter row
+            held: row
             width: ListView.view.width
             height: card.implicitHeight
             OfferCard {

@@ -1,0 +1,60 @@
+#include "LongList.h"
+
+#include "Pipeline.h"
+#include "SearchAnswer.h"
+#include "adapters/PageTable.h"
+#include "support/Calendar.h"
+
+#include <QString>
+
+namespace ombrivane::bench {
+namespace {
+
+SearchRequest request() {
+    SearchRequest request;
+    request.tripType = "oneway";
+    request.departCityCode = "KTM";
+    request.departCity = "Kathmandu";
+    request.destCityCode = "LHR";
+    request.destCity = "London";
+    request.nationality = "NP";
+    request.adults = "1";
+    request.children = "0";
+    request.infants = "0";
+    return request;
+}
+
+std::string answerOf(std::size_t offers, const std::string& service) {
+    return QString::fromStdString(searchAnswer(offers))
+        .replace("https://localhost:8443", QString::fromStdString(service))
+        .toStdString();
+}
+
+} // namespace
+
+LongList::LongList(std::size_t offers, const std::string& service) :
+    offers_(pipeline(answerOf(offers, service))),
+    screen_(std::make_shared<FlightListView>(request(), nullptr)) {
+    renewAdapter();
+}
+
+void LongList::await() {
+    screen_->flightListVM.onewayFlights = OneWayOffers();
+    screen_->flightListVM.filteredOnewayFlights = OneWayOffers();
+    screen_->flightListVM.startSearch(false);
+}
+
+void LongList::fill() {
+    screen_->flightListVM.onewayFlights = offers_;
+    screen_->flightListVM.filteredOnewayFlights = offers_;
+    screen_->flightListVM.isLoading = false;
+}
+
+QUrl LongList::page() const { return view::pageOf(*screen_); }
+
+void LongList::renewAdapter() {
+    adapter_ = std::make_unique<view::FlightListAdapter>(screen_);
+    QQmlEngine::setObjectOwnership(adapter_.get(), QQmlEngine::CppOwnership);
+}
+
+} // namespace ombrivane::bench

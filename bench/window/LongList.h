@@ -1,0 +1,34 @@
+#pragma once
+
+#include "adapters/ResultAdapters.h"
+#include "search/ResultsModel.h"
+
+#include <memory>
+#include <string>
+
+namespace ombrivane::bench {
+
+/// The screen of the international results and its adapter, given its offers by hand: it sends no search.
+class LongList {
+public:
+    /// @param service where the logos are fetched from
+    LongList(std::size_t offers, const std::string& service);
+
+    /// The search is on its way: placeholders.
+    void await();
+    /// Its answer is there.
+    void fill();
+
+    QUrl page() const;
+    view::FlightListAdapter& adapter() { return *adapter_; }
+    /// A fresh adapter, as a page that opens anew has one.
+    void renewAdapter();
+    std::size_t size() const { return offers_.size(); }
+
+private:
+    OneWayOffers offers_;
+    std::shared_ptr<FlightListView> screen_;
+    std::unique_ptr<view::FlightListAdapter> adapter_;
+};
+
+} // namespace ombrivane::bench

@@ -1,0 +1,85 @@
+#include "Journey.h"
+#include "Scene.h"
+#include "Stopwatch.h"
+#include "WindowFigures.h"
+#include "adapters/PageTable.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+
+#include <fmt/core.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace ombrivane::bench {
+namespace {
+
+/// Milliseconds from the call that opens the page to its first frame, its adapter and the frame's turn
+/// included.
+double opening(Scene& scene, const QUrl& page, const std::shared_ptr<Screen>& screen) {
+    QElapsedTimer time;
+    time.start();
+    std::unique_ptr<view::ScreenAdapter> adapter;
+    if (screen) {
+        adapter = view::makeAdapter(screen);
+        QQmlEngine::setObjectOwnership(adapter.get(), QQmlEngine::CppOwnership);
+    }
+    scene.open(page, adapter.get());
+    scene.draw();
+    const double took = static_cast<double>(time.nsecsElapsed()) / 1e6;
+    scene.close();
+    return took;
+}
+
+struct Opening {
+    std::string name;
+    double milliseconds = 0;
+    double emptyMilliseconds = 0;
+
+    double ratio() const { return milliseconds / emptyMilliseconds; }
+};
+
+/// The page and an empty one in turn; the first round, which also compiles, is not counted.
+Opening measure(Scene& scene, const std::string& name, const std::shared_ptr<Screen>& screen,
+                const QUrl& empty) {
+    constexpr int rounds = 15;
+    std::vector<double> full;
+    std::vector<double> bare;
+    for (int round = 0; round <= rounds; ++round) {
+        const double one = opening(scene, view::pageOf(*screen), screen);
+        const double other = opening(scene, empty, nullptr);
+        if (round == 0) continue;
+        full.push_back(one);
+        bare.push_back(other);
+    }
+    return {name, median(full), median(bare)};
+}
+
+} // namespace
+
+void printPageFigures() {
+    QDir::setCurrent(OMBRIVANE_SOURCE); // the scripts name each other from there
+    Device device;
+    Scene scene;
+    const QUrl empty = scene.keepPage("Empty", "import QtQuick\nItem { property QtObject screen }");
+    std::vector<Opening> pages;
+    for (const char* script : {"abroad", "home", "trouble", "payment"}) {
+        Journey(device).play(std::string("tests/view/gallery/") + script + ".script",
+                             [&](const std::string& name, const std::shared_ptr<Screen>& screen) {
+                                 pages.push_back(measure(scene, name, screen, empty));
+                             });
+    }
+    std::sort(pages.begin(), pages.end(), [](const Opening& one, const Opening& other) {
+        return one.ratio() > other.ratio();
+    });
+    fmt::print("page.worst_ratio {:.2f}\npage.worst_name {}\npage.worst_ms {:.2f}\npage.empty_ms {:.2f}\n"
+               "page.median_ratio {:.2f}\n",
+               pages.front().ratio(),
+               pages.front().name,
+               pages.front().milliseconds,
+               pages.front().emptyMilliseconds,
+               pages[pages.size() / 2].ratio());
+}
+
+} // namespace ombrivane::bench

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace ombrivane::bench {
+
+/// One cold start in this process, of the bare window (`kind` is "bare") or of the component; prints its
+/// milliseconds.
+void startOnce(const QString& kind);
+
+/// Each prints its figures as lines "name value". @throws std::runtime_error when a page cannot be shown
+void printStartFigures();
+/// A result list of 2,000 offers beside a bare list.
+void printListFigures();
+/// Each page that a journey meets beside an empty one.
+void printPageFigures();
+
+} // namespace ombrivane::bench
