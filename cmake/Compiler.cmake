@@ -11,6 +11,12 @@ target_compile_options(ombrivane_warnings INTERFACE
 # Of a text put before a text, g++ 12 believes that it may overlap itself.
 target_compile_options(ombrivane_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
+# A wallet counts the bytes that it ships: a release is built for size, but for the sources that go through long answers.
+function(ombrivane_small target)
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-Os> $<$<CONFIG:Release>:-ffunction-sections>)
+    target_link_options(${target} INTERFACE $<BUILD_INTERFACE:$<$<CONFIG:Release>:$<$<NOT:$<PLATFORM_ID:Darwin>>:-Wl,--gc-sections>>>)
+endfunction()
+
 if(OMBRIVANE_SANITIZE)
     add_compile_options(-fsanitize=${OMBRIVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${OMBRIVANE_SANITIZE})
