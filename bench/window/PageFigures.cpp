@@ -25,7 +25,9 @@ double opening(Scene& scene, const QUrl& page, const std::shared_ptr<Screen>& sc
         adapter = view::makeAdapter(screen);
         QQmlEngine::setObjectOwnership(adapter.get(), QQmlEngine::CppOwnership);
     }
-    scene.open(page, adapter.get());
+    QObject* const opened = &scene.open(page, adapter.get());
+    // The adapter goes after its page, whenever the toolkit lets go of that.
+    if (adapter) QObject::connect(opened, &QObject::destroyed, adapter.release(), &QObject::deleteLater);
     scene.draw();
     const double took = static_cast<double>(time.nsecsElapsed()) / 1e6;
     scene.close();
