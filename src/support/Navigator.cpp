@@ -46,8 +46,10 @@ Navigator::~Navigator() {
     followed_.clear();
     for (auto screen = inView_.rbegin(); screen != inView_.rend(); ++screen)
         (*screen)->disappear();
-    while (!stack_.empty())
+    while (!stack_.empty()) {
+        stack_.back().screen->covered_ = true; // whoever still holds it taps in vain
         stack_.pop_back();
+    }
 }
 
 void Navigator::start() {

@@ -1,5 +1,6 @@
 #include "support/Action.h"
 #include "support/Field.h"
+#include "support/Navigator.h"
 #include "support/Rows.h"
 
 #include "fakes/World.h"
@@ -106,6 +107,7 @@ TEST_F(ActionTest, RowsAreScreensOfTheirOwnThatTakeInputWithTheirScreen) {
 
     row->tap();
     EXPECT_EQ(row->taps.get(), 1);
+    { Navigator stack(form); }
     form.reset();
     row->tap();
     EXPECT_EQ(row->taps.get(), 1) << "the list is gone";
