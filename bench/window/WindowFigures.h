@@ -14,5 +14,7 @@ void printStartFigures();
 void printListFigures();
 /// Each page that a journey meets beside an empty one.
 void printPageFigures();
+/// How long the page of the fare rules takes to show texts that are made to be slow.
+void printRulesFigures();
 
 } // namespace ombrivane::bench

@@ -1,5 +1,5 @@
 // Prints the figures of the window, one line "name value" each; all, or those of one kind: start, list,
-// pages.
+// pages, rules.
 #include "WindowFigures.h"
 
 #include <QGuiApplication>
@@ -25,6 +25,7 @@ int main(int count, char** values) {
         if (kind.isEmpty() || kind == "start") ombrivane::bench::printStartFigures();
         if (kind.isEmpty() || kind == "list") ombrivane::bench::printListFigures();
         if (kind.isEmpty() || kind == "pages") ombrivane::bench::printPageFigures();
+        if (kind.isEmpty() || kind == "rules") ombrivane::bench::printRulesFigures();
         return 0;
     } catch (const std::exception& error) {
         fmt::print(stderr, "ombrivane-window-bench: {}\n", error.what());
