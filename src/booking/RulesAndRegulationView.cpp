@@ -23,7 +23,7 @@ RulesAndRegulationView::RulesAndRegulationView(Given given) :
     itineraryType(fields, "itineraryType", std::move(given.itineraryType)),
     flight(fields, "flight", std::move(given.flight)),
     returnFlight(fields, "returnFlight", std::move(given.returnFlight)),
-    paragraphs(fields, "paragraphs", [this] { return fareRules(htmlText.get()); }),
+    paragraphs(fields, "paragraphs", [this] { return rules(); }),
     cancel(
         *this, "cancel", [this] { rulesAndRegulationViewIsActive = false; },
         [this] { return !showProgressView; }),
@@ -54,6 +54,14 @@ RulesAndRegulationView::RulesAndRegulationView(Given given) :
                                                                    destLocation,
                                                                    completionCallback_});
     }) {}
+
+/// Reading a long text takes longer than all else about showing it, and each change is read by many.
+const std::vector<RuleParagraph>& RulesAndRegulationView::rules() const {
+    if (rulesVersion_ == htmlText.version()) return rules_;
+    rulesVersion_ = htmlText.version();
+    rules_ = fareRules(htmlText.get());
+    return rules_;
+}
 
 /// An unknown letter, an empty one included, is economy.
 std::string RulesAndRegulationView::cabinName() const {

@@ -67,11 +67,14 @@ private:
     void fetch();
     void take(std::optional<std::string> message, const std::optional<Error>& error);
     std::string cabinName() const;
+    const std::vector<RuleParagraph>& rules() const;
 
     CompletionCallback completionCallback_;
     OWRestrictionProvider restrictionsOneWayProvider_;
     RTRestrictionProvider restrictionsRoundTripProvider_;
     WorkItem task_;
+    mutable std::vector<RuleParagraph> rules_;
+    mutable std::uint64_t rulesVersion_ = UINT64_MAX;
     CustomSnackBarView snackBar_{showSnackBar};
     Link oneWaySession_;
     Link roundTripSession_;
