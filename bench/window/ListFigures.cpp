@@ -112,32 +112,53 @@ std::size_t rowsAlive(const QQuickItem& offers) {
         }));
 }
 
-/// From end to end as a finger flicks.
-void printScrolling(Scene& scene, LongList& list) {
+struct Scrolling {
+    std::vector<double> seconds; ///< of each frame
+    std::size_t mostAlive = 0;
+};
+
+/// A page that waited for its offers, from their first to their last as a finger flicks.
+Scrolling scrollThrough(Scene& scene, LongList& list) {
     constexpr double pointsPerFrame = 120; // what a strong flick moves in a sixtieth of a second
-    list.fill();
     list.renewAdapter();
     QQuickItem& page = scene.open(list.page(), &list.adapter());
+    list.await();
+    scene.draw();
+    list.fill();
     drawRows(scene, page);
     QQuickItem& offers = offersIn(page);
     Scene::settle(500);
     offers.setProperty("pinned", false); // as a finger does
-    std::size_t mostAlive = 0;
-    std::vector<double> seconds;
+    Scrolling scrolling;
     while (!offers.property("atYEnd").toBool()) {
         const double start = processorSeconds();
         offers.setProperty("contentY", offers.property("contentY").toDouble() + pointsPerFrame);
         scene.draw();
-        seconds.push_back(processorSeconds() - start);
-        if (seconds.size() % 10 == 0) mostAlive = std::max(mostAlive, rowsAlive(offers));
+        scrolling.seconds.push_back(processorSeconds() - start);
+        if (scrolling.seconds.size() % 10 == 0)
+            scrolling.mostAlive = std::max(scrolling.mostAlive, rowsAlive(offers));
     }
     scene.close();
-    const double typical = median(seconds);
-    const double worst = *std::max_element(seconds.begin(), seconds.end());
+    return scrolling;
+}
+
+/// Every pass draws the same frames; of each the quickest counts, since a busy machine only slows.
+void printScrolling(Scene& scene, LongList& list) {
+    constexpr int passes = 5;
+    Scrolling best = scrollThrough(scene, list);
+    for (int pass = 1; pass < passes; ++pass) {
+        const Scrolling other = scrollThrough(scene, list);
+        if (other.seconds.size() != best.seconds.size()) throw std::runtime_error("two passes differ");
+        for (std::size_t i = 0; i < best.seconds.size(); ++i)
+            best.seconds[i] = std::min(best.seconds[i], other.seconds[i]);
+        best.mostAlive = std::max(best.mostAlive, other.mostAlive);
+    }
+    const double typical = median(best.seconds);
+    const double worst = *std::max_element(best.seconds.begin(), best.seconds.end());
     fmt::print("list.items_alive {}\nlist.scroll_frames {}\nlist.scroll_median_ms {:.2f}\n"
                "list.scroll_worst_ms {:.2f}\nlist.scroll_worst_over_median {:.2f}\n",
-               mostAlive,
-               seconds.size(),
+               best.mostAlive,
+               best.seconds.size(),
                typical * 1e3,
                worst * 1e3,
                worst / typical);

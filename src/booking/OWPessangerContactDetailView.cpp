@@ -53,7 +53,7 @@ OWPessangerContactDetailView::OWPessangerContactDetailView(ContactGiven given) :
                     travellerFormIsActive = true;
                 });
         },
-        [this](std::size_t index) { return uniquePassengersList->at(index).id.text(); }),
+        [this] { return identitiesOf(uniquePassengersList.get(), &UniquePassanger::id); }),
     travelDates_(std::move(given.travelDates)),
     contactForm_(*this, Presentation::push, contactFormIsActive,
                  [this] {

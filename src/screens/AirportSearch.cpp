@@ -23,7 +23,7 @@ AirportSearch::AirportSearch(std::string_view screenName, std::string_view textK
             const Airport& airport = airports->at(index);
             return std::make_shared<FlightListItemView>(airport, [this, airport] { choose(airport); });
         },
-        [this](std::size_t index) { return airports->at(index).code; }),
+        [this] { return identitiesOf(airports.get(), &Airport::code); }),
     type(*this, "type",
          [this](const std::string& typed) {
              text = typed;

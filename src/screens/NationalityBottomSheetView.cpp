@@ -19,7 +19,7 @@ NationalityBottomSheetView::NationalityBottomSheetView(MainViewModel& model) :
             return std::make_shared<NationalityRow>(country.nationality,
                                                     [this, country] { choose(country); });
         },
-        [this](std::size_t index) { return shown().at(index).shortName; }),
+        [this] { return identitiesOf(shown(), &Country::shortName); }),
     type(*this, "type", [this](const std::string& typed) {
         nationalityText = typed;
         std::vector<Country> found;

@@ -12,6 +12,13 @@ namespace {
 /// As many as fill a tall phone.
 constexpr std::size_t placeholderCount = 6;
 
+std::vector<RowIdentity> placeholders() {
+    std::vector<RowIdentity> identities;
+    for (std::size_t index = 0; index < placeholderCount; ++index)
+        identities.emplace_back("placeholder" + std::to_string(index));
+    return identities;
+}
+
 } // namespace
 
 template <class Traits>
@@ -30,9 +37,7 @@ OfferListView<Traits>::OfferListView(const Field<Offers>& shown, OfferListBindin
     rows(
         *this, "rows", [this] { return isLoading ? placeholderCount : offers->size(); },
         [this](std::size_t index) { return makeRow(index); },
-        [this](std::size_t index) {
-            return isLoading ? "placeholder" + std::to_string(index) : offers->at(index)->id.text();
-        }),
+        [this] { return isLoading ? placeholders() : identitiesOf(offers.get(), &Offer::id); }),
     strip(
         *this, "strip",
         [this] {
@@ -40,8 +45,9 @@ OfferListView<Traits>::OfferListView(const Field<Offers>& shown, OfferListBindin
             return isLoading ? placeholderCount : stripOffers().size();
         },
         [this](std::size_t index) { return makeCard(index); },
-        [this](std::size_t index) {
-            return isLoading ? "placeholder" + std::to_string(index) : stripOffers().at(index)->id.text();
+        [this] {
+            if (!withStrip_) return std::vector<RowIdentity>();
+            return isLoading ? placeholders() : identitiesOf(stripOffers(), &Offer::id);
         }),
     selection_(bindings.selection),
     withStrip_(withStrip) {}

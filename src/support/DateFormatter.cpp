@@ -65,11 +65,15 @@ std::optional<Date> parseDate(const std::string& text, const std::string& patter
 }
 
 std::string formatNumber(std::int64_t number) {
+    thread_local std::optional<std::string> made; // the locale of the formatter that this thread keeps
+    thread_local icu::number::LocalizedNumberFormatter formatter;
+    if (const std::string locale = platform().localization->locale(); made != locale) {
+        formatter = icu::number::NumberFormatter::withLocale(deviceLocale());
+        made = locale;
+    }
     UErrorCode status = U_ZERO_ERROR;
-    const auto text =
-        icu::number::NumberFormatter::withLocale(deviceLocale()).formatInt(number, status).toString(status);
     std::string utf8;
-    return text.toUTF8String(utf8);
+    return formatter.formatInt(number, status).toString(status).toUTF8String(utf8);
 }
 
 } // namespace ombrivane

@@ -11,12 +11,17 @@ struct RowWithHosts {
 
 } // namespace
 
-Rows::Rows(Screen& owner, std::string_view key, Count count, Make make, Identity identity) :
+std::string textOf(const RowIdentity& identity) {
+    const auto* uuid = std::get_if<Uuid>(&identity);
+    return uuid != nullptr ? uuid->text() : std::get<std::string>(identity);
+}
+
+Rows::Rows(Screen& owner, std::string_view key, Count count, Make make, Identities identities) :
     Member(owner.fields, key, MemberKind::rows),
     owner_(owner),
     core_(std::make_shared<Core>(std::move(count))),
     make_(std::move(make)),
-    identity_(std::move(identity)) {}
+    identities_(std::move(identities)) {}
 
 std::shared_ptr<Screen> Rows::row(std::size_t index) const {
     if (index >= size()) refuse("has no row " + std::to_string(index));
@@ -28,8 +33,12 @@ std::shared_ptr<Screen> Rows::row(std::size_t index) const {
     return {held, held->row.get()};
 }
 
-std::string Rows::identity(std::size_t index) const {
-    return identity_ ? identity_(index) : std::to_string(index);
+std::vector<RowIdentity> Rows::identities() const {
+    if (identities_) return identities_();
+    std::vector<RowIdentity> positions;
+    for (std::size_t index = 0; index < size(); ++index)
+        positions.emplace_back(std::to_string(index));
+    return positions;
 }
 
 Subscription Rows::observe(Observer observer) {

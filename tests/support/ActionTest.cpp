@@ -37,7 +37,7 @@ public:
               "rows",
               [this] { return isOpen.get() ? names.get().size() : 0; },
               [this](std::size_t index) { return std::make_shared<Row>(names.get().at(index)); },
-              [this](std::size_t index) { return names.get().at(index); }};
+              [this] { return std::vector<RowIdentity>(names.get().begin(), names.get().end()); }};
     Rows plain{
         *this, "plain", [] { return std::size_t(3); }, [](std::size_t) { return std::make_shared<Row>(""); }};
 };
@@ -101,8 +101,8 @@ TEST_F(ActionTest, RowsAreScreensOfTheirOwnThatTakeInputWithTheirScreen) {
     const auto row = std::static_pointer_cast<Row>(form->rows.row(1));
     EXPECT_EQ(row->title.get(), "y");
     EXPECT_NE(form->rows.row(1), row) << "a row is made when it is drawn";
-    EXPECT_EQ(form->rows.identity(1), "y");
-    EXPECT_EQ(form->plain.identity(2), "2");
+    EXPECT_EQ(textOf(form->rows.identities().at(1)), "y");
+    EXPECT_EQ(textOf(form->plain.identities().at(2)), "2");
     EXPECT_THROW((void)form->rows.row(2), KeyedError);
 
     row->tap();

@@ -82,6 +82,8 @@ class OfferAdapter : public ombrivane::view::ScreenAdapter {
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(int journeyCount READ journeyCount CONSTANT FINAL)
+    Q_PROPERTY(ombrivane::view::JourneyAdapter* outbound READ outbound CONSTANT FINAL)
+    Q_PROPERTY(ombrivane::view::JourneyAdapter* inbound READ inbound CONSTANT FINAL)
     Q_PROPERTY(QString label READ label CONSTANT FINAL)
     OMBRIVANE_TEXT(price, core().price)
     OMBRIVANE_TEXT(detailsText, core().detailsText)
@@ -95,7 +97,9 @@ public:
 
     OfferItemView& core() const { return static_cast<OfferItemView&>(*screen()); }
     int journeyCount() const { return static_cast<int>(journeys_.size()); }
-    Q_INVOKABLE ombrivane::view::JourneyAdapter* journeyAt(int index) const { return journeys_.value(index); }
+    JourneyAdapter* outbound() const { return journeys_.value(0); }
+    /// Null for a one-way offer.
+    JourneyAdapter* inbound() const { return journeys_.value(1); }
     /// The offer in words, for assistive technology.
     QString label() const;
 

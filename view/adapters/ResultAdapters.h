@@ -116,6 +116,7 @@ class ResultsAdapter : public ombrivane::view::ScreenAdapter {
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(QObject* content READ content NOTIFY contentChanged FINAL)
     Q_PROPERTY(QUrl contentPage READ contentPage NOTIFY contentChanged FINAL)
+    Q_PROPERTY(double offset READ offset WRITE setOffset FINAL)
 
     ResultsModel& model_;
 
@@ -151,7 +152,6 @@ class ResultsAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_INTENT(openFilter, core().openFilter)
     OMBRIVANE_INTENT(scrollUp, core().scrollUp)
     OMBRIVANE_INTENT(goOn, core().continue_)
-    OMBRIVANE_AMOUNT(scrolled, core().scrolled)
 
 public:
     ResultsAdapter(std::shared_ptr<Screen> screen, ResultsModel& model);
@@ -159,6 +159,8 @@ public:
     QObject* content() const { return contentAdapter_.get(); }
     QUrl contentPage() const;
     Q_SIGNAL void contentChanged();
+    double offset() const { return core().offset.get(); }
+    void setOffset(double points) { core().scrolled(points); }
 
 private:
     void followContent();

@@ -15,15 +15,8 @@ constexpr int rowRole = Qt::UserRole + 1;
 RowsModel::RowsModel(std::shared_ptr<Screen> owner, Rows& rows) :
     owner_(std::move(owner)),
     rows_(rows),
-    identities_(currentIdentities()),
+    identities_(rows.identities()),
     watch_(rows.observe([this] { follow(); })) {}
-
-std::vector<std::string> RowsModel::currentIdentities() const {
-    std::vector<std::string> identities(rows_.size());
-    for (std::size_t i = 0; i < identities.size(); ++i)
-        identities[i] = rows_.identity(i);
-    return identities;
-}
 
 QHash<int, QByteArray> RowsModel::roleNames() const { return {{rowRole, "row"}}; }
 
@@ -40,12 +33,15 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
 }
 
 int RowsModel::positionOf(const QString& identity) const {
-    const auto found = std::find(identities_.begin(), identities_.end(), identity.toStdString());
+    const auto found =
+        std::find_if(identities_.begin(),
+                     identities_.end(),
+                     [text = identity.toStdString()](const auto& each) { return textOf(each) == text; });
     return found == identities_.end() ? -1 : static_cast<int>(found - identities_.begin());
 }
 
 void RowsModel::follow() {
-    const auto next = currentIdentities();
+    const auto next = rows_.identities();
     if (next == identities_) return;
     const int former = count();
     if (sharesNone(next)) {
@@ -57,13 +53,13 @@ void RowsModel::follow() {
     if (count() != former) emit countChanged();
 }
 
-bool RowsModel::sharesNone(const std::vector<std::string>& next) const {
-    const std::unordered_set<std::string> present(identities_.begin(), identities_.end());
+bool RowsModel::sharesNone(const std::vector<RowIdentity>& next) const {
+    const std::unordered_set<RowIdentity> present(identities_.begin(), identities_.end());
     return std::none_of(
         next.begin(), next.end(), [&](const auto& identity) { return present.contains(identity); });
 }
 
-void RowsModel::exchange(const std::vector<std::string>& next) {
+void RowsModel::exchange(const std::vector<RowIdentity>& next) {
     const std::size_t kept = std::min(identities_.size(), next.size());
     if (identities_.size() > kept) {
         beginRemoveRows({}, static_cast<int>(kept), count() - 1);
@@ -79,8 +75,8 @@ void RowsModel::exchange(const std::vector<std::string>& next) {
     }
 }
 
-void RowsModel::removeMissing(const std::vector<std::string>& next) {
-    const std::unordered_set<std::string> kept(next.begin(), next.end());
+void RowsModel::removeMissing(const std::vector<RowIdentity>& next) {
+    const std::unordered_set<RowIdentity> kept(next.begin(), next.end());
     for (std::size_t end = identities_.size(); end > 0;) {
         if (kept.contains(identities_[end - 1])) {
             --end;
@@ -97,7 +93,7 @@ void RowsModel::removeMissing(const std::vector<std::string>& next) {
     }
 }
 
-void RowsModel::insertNew(const std::vector<std::string>& next) {
+void RowsModel::insertNew(const std::vector<RowIdentity>& next) {
     for (std::size_t i = 0; i < next.size(); ++i) {
         if (i < identities_.size() && identities_[i] == next[i]) continue;
         const auto from =
@@ -112,7 +108,7 @@ void RowsModel::insertNew(const std::vector<std::string>& next) {
             continue;
         }
         std::size_t end = i + 1;
-        const std::unordered_set<std::string> present(identities_.begin(), identities_.end());
+        const std::unordered_set<RowIdentity> present(identities_.begin(), identities_.end());
         while (end < next.size() && !present.contains(next[end]))
             ++end;
         beginInsertRows({}, static_cast<int>(i), static_cast<int>(end) - 1);

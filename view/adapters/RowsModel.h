@@ -7,7 +7,6 @@
 #include <QQmlEngine>
 
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace ombrivane::view {
@@ -33,18 +32,17 @@ public:
     Q_SIGNAL void countChanged();
 
 private:
-    std::vector<std::string> currentIdentities() const;
     void follow();
-    bool sharesNone(const std::vector<std::string>& next) const;
+    bool sharesNone(const std::vector<RowIdentity>& next) const;
     /// Other rows in the places of those that stand there, as offers follow their placeholders: what is drawn
     /// stays and shows the new ones.
-    void exchange(const std::vector<std::string>& next);
-    void removeMissing(const std::vector<std::string>& next);
-    void insertNew(const std::vector<std::string>& next);
+    void exchange(const std::vector<RowIdentity>& next);
+    void removeMissing(const std::vector<RowIdentity>& next);
+    void insertNew(const std::vector<RowIdentity>& next);
 
     std::shared_ptr<Screen> owner_;
     Rows& rows_;
-    std::vector<std::string> identities_;
+    std::vector<RowIdentity> identities_;
     Subscription watch_;
 };
 

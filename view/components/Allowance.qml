@@ -3,24 +3,20 @@ import Ombrivane
 
 // What may be carried along: an icon and a weight.
 Row {
-    id: allowance
-
-    required property string iconName
-    required property string text
-    property bool awaited: false
+    property alias iconName: icon.name
+    property alias text: weight.text
 
     spacing: 4
     Icon {
+        id: icon
+        y: Math.round((parent.height - height) / 2)
         width: 18
         height: 18
-        anchors.verticalCenter: parent.verticalCenter
-        name: allowance.iconName
         color: Theme.placeHolderColor
     }
     CardText {
-        awaited: allowance.awaited
-        text: allowance.text
-        tint: Theme.placeHolderColor
+        id: weight
+        color: Theme.placeHolderColor
         font.pixelSize: Theme.captionSize
     }
 }

@@ -12,8 +12,6 @@ ResultsContent {
     property string action: ""
     signal acted
 
-    Component.onCompleted: state.scrolled(0)
-
     Flickable {
         anchors { fill: parent; topMargin: state.topInset; bottomMargin: state.bottomInset }
         contentHeight: Math.max(height, column.implicitHeight + 2 * Theme.sectionGap)

@@ -5,7 +5,7 @@ import Ombrivane
 Item {
     id: logo
 
-    required property string url
+    property alias url: picture.url
     property real size: 28
 
     implicitWidth: size
@@ -27,6 +27,5 @@ Item {
     Picture {
         id: picture
         anchors.fill: parent
-        url: logo.url
     }
 }

@@ -51,8 +51,7 @@ T.AbstractButton {
                 OfferJourney {
                     required property int index
                     width: column.width
-                    journey: card.row.journeyAt(index)
-                    awaited: card.row.isPlaceholder
+                    journey: index === 0 ? card.row.outbound : card.row.inbound
                     unfolded: card.row.isUnfolded
                     price: index === 0 ? card.row.price : ""
                     detailsText: index === journeys.count - 1 ? card.row.detailsText : ""
@@ -63,7 +62,7 @@ T.AbstractButton {
                 OfferSegments {
                     required property int index
                     width: column.width
-                    journey: card.row.journeyAt(index)
+                    journey: index === 0 ? card.row.outbound : card.row.inbound
                 }
             }
         }

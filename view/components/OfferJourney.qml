@@ -7,10 +7,10 @@ Column {
     id: item
 
     required property JourneyAdapter journey
-    property string price: ""
-    property string detailsText: ""
+    // Aliases, since a text that QML itself keeps is a copy for its engine to collect.
+    property alias price: cost.text
+    property alias detailsText: detailsLabel.text
     property bool unfolded: false
-    property bool awaited: false
     readonly property bool narrow: width < 270 * Theme.textScale
     readonly property real half: (width - 8) / 2
 
@@ -36,7 +36,6 @@ Column {
                 x: logo.width + 8
                 y: Math.round((parent.height - height) / 2)
                 width: parent.width - x
-                awaited: item.awaited
                 text: item.journey.carrierName
                 font.weight: Font.Medium
             }
@@ -45,11 +44,10 @@ Column {
             id: cost
             x: item.narrow ? 0 : parent.width - width
             y: item.narrow ? airline.height + 4 : Math.round((parent.height - height) / 2)
-            visible: item.price !== ""
+            visible: text !== ""
             width: Math.ceil(implicitWidth)
-            awaited: item.awaited
-            text: item.price
-            tint: Theme.primaryColor
+            wrapMode: Text.NoWrap
+            color: Theme.primaryColor
             font.pixelSize: Theme.priceSize
             font.weight: Font.DemiBold
         }
@@ -57,9 +55,8 @@ Column {
     CardText {
         x: Math.round((item.width - width) / 2)
         visible: item.narrow
-        awaited: item.awaited
-        text: item.journey.duration
-        tint: Theme.placeHolderColor
+        text: visible ? item.journey.duration : ""
+        color: Theme.placeHolderColor
         font.pixelSize: Theme.captionSize
     }
     Item {
@@ -69,7 +66,7 @@ Column {
             id: departure
             y: Math.round((parent.height - height) / 2)
             width: Math.ceil(implicitWidth)
-            awaited: item.awaited
+            wrapMode: Text.NoWrap
             text: item.journey.departureTime
             font.pixelSize: Theme.timeSize
             font.weight: Font.Medium
@@ -83,9 +80,8 @@ Column {
                 visible: !item.narrow
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                awaited: item.awaited
-                text: item.journey.duration
-                tint: Theme.placeHolderColor
+                text: visible ? item.journey.duration : ""
+                color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
             }
             PlaneLine {
@@ -100,7 +96,7 @@ Column {
             x: parent.width - width
             y: Math.round((parent.height - height) / 2)
             width: Math.ceil(implicitWidth)
-            awaited: item.awaited
+            wrapMode: Text.NoWrap
             text: item.journey.arrivalTime
             font.pixelSize: Theme.timeSize
             font.weight: Font.Medium
@@ -113,12 +109,11 @@ Column {
             id: origin
             y: Math.round((parent.height - height) / 2)
             width: item.half
-            CardText { width: item.half; awaited: item.awaited; text: item.journey.departureLocation; font.weight: Font.Medium }
+            CardText { width: item.half; text: item.journey.departureLocation; font.weight: Font.Medium }
             CardText {
                 width: item.half
-                awaited: item.awaited
                 text: item.journey.departureDate
-                tint: Theme.placeHolderColor
+                color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
             }
         }
@@ -130,16 +125,14 @@ Column {
             CardText {
                 width: item.half
                 horizontalAlignment: Text.AlignRight
-                awaited: item.awaited
                 text: item.journey.arrivalLocation
                 font.weight: Font.Medium
             }
             CardText {
                 width: item.half
                 horizontalAlignment: Text.AlignRight
-                awaited: item.awaited
                 text: item.journey.arrivalDate
-                tint: Theme.placeHolderColor
+                color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
             }
         }
@@ -157,21 +150,20 @@ Column {
             y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
             width: parent.width - (item.narrow || !details.visible ? 0 : details.width + 8)
             spacing: 12
-            CardText { awaited: item.awaited; text: item.journey.cabin; tint: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
-            CardText { awaited: item.awaited; text: item.journey.refundability; tint: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
-            Allowance { iconName: "handcarryIcon"; text: item.journey.cabinBaggage; awaited: item.awaited }
-            Allowance { iconName: "brifcaseIcon"; text: item.journey.checkInBaggage; awaited: item.awaited }
+            CardText { text: item.journey.cabin; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
+            CardText { text: item.journey.refundability; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
+            Allowance { iconName: "handcarryIcon"; text: item.journey.cabinBaggage }
+            Allowance { iconName: "brifcaseIcon"; text: item.journey.checkInBaggage }
         }
         Row {
             id: details
-            visible: item.detailsText !== ""
+            visible: detailsLabel.text !== ""
             x: parent.width - width
             y: parent.height - height
             spacing: 2
             CardText {
-                awaited: item.awaited
-                text: item.detailsText
-                tint: Theme.secondaryColor
+                id: detailsLabel
+                color: Theme.secondaryColor
                 font.pixelSize: Theme.captionSize
                 font.weight: Font.Medium
             }

@@ -3,16 +3,14 @@ import Ombrivane
 
 // The plane on its line: straight for a direct flight, dotted for a connection.
 Item {
-    id: line
-
-    required property string lineImage
+    property alias lineImage: line.name
 
     implicitWidth: 120
     implicitHeight: 24
 
     Icon {
+        id: line
         anchors.fill: parent
-        name: line.lineImage
         color: Theme.formBorderColor
     }
     Icon {

@@ -6,5 +6,6 @@ Item {
     property real topInset: 0
     property real collapsedInset: 0
     property real bottomInset: 0
-    signal scrolled(points: real)
+    // How far it is scrolled from its start.
+    property real offset: 0
 }

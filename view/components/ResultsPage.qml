@@ -11,6 +11,10 @@ FocusScope {
     // A wide window moves the list aside for its filter.
     readonly property bool besideFilter: width >= Theme.wideWidth && results.showsFilter
 
+    // Assigned, where a call would leave something to collect behind every frame of a movement.
+    readonly property real offset: content.shown === null ? 0 : content.shown.offset
+    onOffsetChanged: results.offset = offset
+
     function showContent() { content.setSource(results.contentPage, {"screen": results.content}) }
 
     Component.onCompleted: showContent()
@@ -19,10 +23,8 @@ FocusScope {
     Connections {
         target: page.results
         function onContentChanged() { page.showContent() }
-    }
-    Connections {
-        target: content.shown
-        function onScrolled(points: real) { page.results.scrolled(points) }
+        // What former pages left is collected while the customer waits, not while a list is scrolled.
+        function onIsLoadingChanged() { if (page.results.isLoading) gc() }
     }
     Binding { target: content.shown; when: content.shown !== null; property: "topInset"; value: header.fullHeight }
     Binding { target: content.shown; when: content.shown !== null; property: "collapsedInset"; value: header.collapsedHeight }

@@ -26,7 +26,7 @@ Column {
         x: 28
         width: parent.width - x
         text: item.modelData.operatedBy
-        tint: Theme.placeHolderColor
+        color: Theme.placeHolderColor
         font.pixelSize: Theme.captionSize
     }
     Item {
@@ -74,7 +74,7 @@ Column {
                 width: item.width - 48
                 anchors.verticalCenter: parent.verticalCenter
                 text: item.modelData.connection
-                tint: Theme.placeHolderColor
+                color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
             }
         }

@@ -5,8 +5,8 @@ import Ombrivane
 Item {
     id: stop
 
-    required property string place
-    required property string time
+    property alias place: place.text
+    property alias time: time.text
     readonly property real dotPosition: Theme.captionSize * 0.6 + 2
 
     implicitHeight: texts.implicitHeight
@@ -25,7 +25,7 @@ Item {
         id: texts
         x: 28
         width: parent.width - x
-        CardText { width: parent.width; text: stop.place; font.pixelSize: Theme.captionSize }
-        CardText { width: parent.width; text: stop.time; tint: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
+        CardText { id: place; width: parent.width; font.pixelSize: Theme.captionSize }
+        CardText { id: time; width: parent.width; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
     }
 }

@@ -1,8 +1,8 @@
 import QtQuick
 import Ombrivane
 
-// What is not there yet: the content pales, and a band of light sweeps over it from before its leading edge to beyond
-// its trailing one.
+// What is not there yet: shapes stand in the places of the content, and a band of light sweeps over them from before
+// their leading edge to beyond their trailing one.
 Item {
     id: shimmer
 
@@ -15,7 +15,12 @@ Item {
         id: holder
         width: parent.width
         height: parent.height
-        opacity: shimmer.running ? 0.6 : 1
+        opacity: shimmer.running ? 0 : 1
+    }
+    Loader {
+        anchors.fill: parent
+        active: shimmer.running
+        sourceComponent: Silhouette { of: holder; color: Theme.hairlineColor }
     }
     // Only the band is clipped: when the content comes, it stays as it is drawn.
     Loader {

@@ -36,11 +36,10 @@ T.AbstractButton {
             spacing: 8
             Logo { url: card.row.carrierLogo }
             Column {
-                CardText { awaited: card.awaited; text: card.row.carrierName; font.pixelSize: Theme.captionSize; wrapMode: Text.NoWrap }
+                CardText { text: card.row.carrierName; font.pixelSize: Theme.captionSize; wrapMode: Text.NoWrap }
                 CardText {
-                    awaited: card.awaited
                     text: card.row.price
-                    tint: Theme.primaryColor
+                    color: Theme.primaryColor
                     font.weight: Font.Medium
                     wrapMode: Text.NoWrap
                 }

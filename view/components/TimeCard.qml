@@ -40,7 +40,7 @@ T.AbstractButton {
             Column {
                 Layout.fillWidth: true
                 CardText { width: parent.width; text: card.row.title; font.weight: Font.Medium }
-                CardText { width: parent.width; text: card.row.subTitle; tint: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
+                CardText { width: parent.width; text: card.row.subTitle; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
             }
         }
     }

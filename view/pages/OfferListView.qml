@@ -9,6 +9,8 @@ ResultsContent {
 
     readonly property real contentMargin: Math.max(Theme.margin, (width - Theme.contentWidth) / 2)
 
+    offset: list.contentY - list.originY + list.topMargin
+
     function showTop() {
         scroll.stop()
         list.pinned = false
@@ -42,6 +44,10 @@ ResultsContent {
         spacing: Theme.gap
         model: page.screen.rows
         reuseItems: true
+        // A list that has come to rest makes rows ahead, which a movement then uses again. In a movement it is enough
+        // that the next row is there when Tab leaves the last one.
+        readonly property bool waits: page.screen.isLoading || arrival.running || !pinned
+        cacheBuffer: waits ? Theme.target : height
         header: Column {
             width: ListView.view.width
             topPadding: 4
@@ -83,12 +89,16 @@ ResultsContent {
                 row: place.row
             }
         }
-        onContentYChanged: page.scrolled(contentY - originY + topMargin)
         onOriginYChanged: pin()
         onTopMarginChanged: pin()
         onContentHeightChanged: pin()
         onMovementStarted: pinned = false
         onMovementEnded: pinned = atYBeginning
+    }
+    Timer {
+        id: arrival
+        interval: 300
+        running: !page.screen.isLoading
     }
     NumberAnimation {
         id: scroll
