@@ -24,7 +24,10 @@ WalkPorts::WalkPorts() : device_(platform()) {
     Platform::install(std::move(ports));
 }
 
-WalkPorts::~WalkPorts() { Platform::install(std::move(device_)); }
+WalkPorts::~WalkPorts() {
+    dropSharedInstances(); // and leaves an empty one
+    Platform::install(std::move(device_));
+}
 
 void walk(WalkPorts& ports, Window& window, const std::string& file,
           const std::function<void(const std::string& name)>& look) {

@@ -7,20 +7,10 @@
 #include "booking/JourneyCard.h"
 #include "booking/TicketTravellerInfo.h"
 #include "platform/Image.h"
+#include "support/DateFormatter.h"
 #include "support/RuleParagraph.h"
 
-#include <QDate>
-
 #include <optional>
-
-/// One intent that takes a day.
-#define OMBRIVANE_DAY(name, source)                                                                          \
-public:                                                                                                      \
-    Q_INVOKABLE void name(const QString& day) {                                                              \
-        if (QDate::fromString(day, Qt::ISODate).isValid()) source(day.toStdString());                        \
-    }                                                                                                        \
-                                                                                                             \
-private:
 
 namespace ombrivane::view {
 
@@ -35,6 +25,10 @@ QList<Value*> makeValues(const std::vector<Lines>& lines, QObject* owner) {
 
 /// A marked field is told by the name of its colour.
 inline QString shown(FormColour colour) { return formColourNames.at(static_cast<std::size_t>(colour)); }
+/// A day as "yyyy-MM-dd", empty while there is none.
+inline QString shown(const std::optional<Date>& date) {
+    return date ? QString::fromStdString(formatDate(*date, datePattern::wire)) : QString();
+}
 inline bool shown(const std::optional<Image>& image) { return image.has_value(); }
 
 /// One paragraph of the fare rules.

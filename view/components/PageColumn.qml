@@ -13,11 +13,16 @@ Flickable {
         if (place < contentY) contentY = Math.max(0, place - Theme.gap)
         else if (place + item.height > contentY + height) contentY = place + item.height - height + Theme.gap
     }
+    function isMissing(item: Item): bool {
+        const field = item as FormField
+        const button = item as FieldButton
+        return field !== null && field.missing || button !== null && button.missing
+    }
     function showFirstMissing() {
         for (let i = 0; i < column.children.length; ++i) {
-            const field = column.children[i] as FormField
-            if (field === null || !field.visible || !field.missing) continue
-            field.forceActiveFocus(Qt.OtherFocusReason)
+            const item = column.children[i] as Item
+            if (item === null || !item.visible || !isMissing(item)) continue
+            item.forceActiveFocus(Qt.OtherFocusReason)
             return
         }
     }

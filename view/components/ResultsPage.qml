@@ -11,11 +11,7 @@ FocusScope {
     // A wide window moves the list aside for its filter.
     readonly property bool besideFilter: width >= Theme.wideWidth && results.showsFilter
 
-    // Assigned, where a call would leave something to collect behind every frame of a movement.
-    readonly property real offset: content.shown === null ? 0 : content.shown.offset
-    onOffsetChanged: results.offset = offset
-
-    function showContent() { content.setSource(results.contentPage, {"screen": results.content}) }
+    function showContent() { content.setSource(results.contentPage, {"screen": results.content, "results": results}) }
 
     Component.onCompleted: showContent()
 

@@ -9,20 +9,24 @@ T.AbstractButton {
     required property string iconName
     required property string placeholder
     property string value: ""
+    property string mark: "formBorderColor"
+    readonly property bool missing: mark === "primaryColor"
+    readonly property bool inOrder: mark === "secondaryColor"
     property bool framed: true
     property real leastHeight: Theme.fieldHeight
 
-    implicitHeight: Math.max(leastHeight, texts.implicitHeight + 16)
+    implicitHeight: Math.max(leastHeight, texts.implicitHeight + 12)
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
-    Accessible.name: placeholder
+    Accessible.name: missing ? qsTr("%1, missing").arg(placeholder) : placeholder
     Accessible.description: value
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: field.down ? Theme.segmentColor : (field.framed ? Theme.formBackgroundColor : "transparent")
-        border.width: field.visualFocus ? 2 : (field.framed ? 1 : 0)
-        border.color: field.visualFocus ? Theme.secondaryColor : Theme.formBorderColor
+        border.width: field.visualFocus || field.missing ? 2 : (field.framed ? 1 : 0)
+        border.color: field.missing ? Theme.primaryColor
+                    : field.visualFocus || field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
     }
     contentItem: Item {
         Icon {
@@ -37,7 +41,13 @@ T.AbstractButton {
         }
         Column {
             id: texts
-            anchors { left: icon.right; leftMargin: icon.visible ? 12 : 0; right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+            anchors {
+                left: icon.right
+                leftMargin: icon.visible ? 12 : 0
+                right: parent.right
+                rightMargin: field.missing || field.inOrder ? 44 : 12
+                verticalCenter: parent.verticalCenter
+            }
             PlainText {
                 visible: field.value !== ""
                 width: parent.width
@@ -56,6 +66,7 @@ T.AbstractButton {
             }
         }
     }
+    FieldMark { missing: field.missing; inOrder: field.inOrder }
     Keys.onReturnPressed: field.clicked()
     Keys.onEnterPressed: field.clicked()
 }

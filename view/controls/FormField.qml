@@ -10,7 +10,6 @@ T.TextField {
     required property string iconName
     required property string placeholder
     required property string value
-    property string hint: ""
     property string mark: "formBorderColor"
     readonly property bool missing: mark === "primaryColor"
     readonly property bool inOrder: mark === "secondaryColor"
@@ -30,7 +29,6 @@ T.TextField {
     selectByMouse: true
     Accessible.role: Accessible.EditableText
     Accessible.name: missing ? qsTr("%1, missing").arg(placeholder) : placeholder
-    Accessible.description: hint
 
     background: Rectangle {
         radius: Theme.fieldRadius
@@ -50,19 +48,12 @@ T.TextField {
             x: 48
             y: field.raised ? 6 : (parent.height - height) / 2
             width: parent.width - 92
-            text: field.hint !== "" && !field.raised ? qsTr("%1 (%2)").arg(field.placeholder).arg(field.hint) : field.placeholder
+            text: field.placeholder
             color: Theme.placeHolderColor
             font.pixelSize: field.raised ? Theme.smallSize : Theme.bodySize
             spread: 1.1
             Accessible.ignored: true
         }
-        Icon {
-            anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
-            visible: field.missing || field.inOrder
-            width: 22
-            height: 22
-            name: field.missing ? "warningIcon" : "doneIcon"
-            color: field.missing ? Theme.primaryColor : Theme.secondaryColor
-        }
+        FieldMark { missing: field.missing; inOrder: field.inOrder }
     }
 }

@@ -11,6 +11,7 @@ Item {
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     PageHeader {
         id: header
+        enabled: !picker.shown
         width: parent.width
         iconName: "crossIcon"
         leaveLabel: qsTr("Close")
@@ -19,6 +20,7 @@ Item {
     }
     PageColumn {
         id: fields
+        enabled: !picker.shown
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
         FormField {
             objectName: "name"
@@ -53,29 +55,33 @@ Item {
             Choice { objectName: "male"; Layout.fillWidth: true; text: "Male"; marked: page.screen.gender === text; onClicked: page.screen.chooseGender(text) }
             Choice { objectName: "female"; Layout.fillWidth: true; text: "Female"; marked: page.screen.gender === text; onClicked: page.screen.chooseGender(text) }
         }
-        FormField {
+        DateField {
+            id: dateOfBirth
             objectName: "dateOfBirth"
             Layout.fillWidth: true
-            iconName: "calendarIcon"
             placeholder: qsTr("Date of Birth")
-            hint: "YYYY-MM-DD"
             value: page.screen.dateOfBirth
             mark: page.screen.dateOfBirthColor
-            inputMethodHints: Qt.ImhDate
-            onTextEdited: page.screen.pickDateOfBirth(text)
+            earliest: page.screen.earliestDateOfBirth
+            latest: page.screen.latestDateOfBirth
+            day: page.screen.dayOfBirth
+            onClicked: picker.open(dateOfBirth)
+            onPicked: day => page.screen.pickDateOfBirth(day)
         }
         LabelledLine { Layout.fillWidth: true; iconName: "globeIcon"; label: qsTr("Nationality"); value: page.screen.nationality }
-        FormField {
+        DateField {
+            id: expiryDate
             objectName: "expiryDate"
             visible: page.screen.showsExpiryDate
             Layout.fillWidth: true
             iconName: "numberIcon"
             placeholder: qsTr("Document Expiry Date")
-            hint: "YYYY-MM-DD"
             value: page.screen.expiryDate
             mark: page.screen.expiryDateColor
-            inputMethodHints: Qt.ImhDate
-            onTextEdited: page.screen.pickExpiryDate(text)
+            earliest: page.screen.earliestExpiryDate
+            day: page.screen.expiryDay
+            onClicked: picker.open(expiryDate)
+            onPicked: day => page.screen.pickExpiryDate(day)
         }
         FormField {
             objectName: "documentNumber"
@@ -113,6 +119,7 @@ Item {
     }
     MainButton {
         id: save
+        enabled: !picker.shown
         objectName: "save"
         anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
         width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
@@ -127,5 +134,9 @@ Item {
         anchors { left: parent.left; right: parent.right; bottom: save.top; margins: Theme.margin }
         message: page.screen.message
         shown: page.screen.showSnackBar
+    }
+    DatePicker {
+        id: picker
+        anchors.fill: parent
     }
 }

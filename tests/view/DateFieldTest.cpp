@@ -1,0 +1,112 @@
+#include "Inspection.h"
+#include "Walk.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest/QTest>
+
+#include <array>
+#include <cstdlib>
+
+namespace ombrivane::view {
+namespace {
+
+struct Turn {
+    const char* wheel;
+    Qt::Key key;
+    const char* day; ///< what the three wheels show then
+};
+
+/// From the proposal on, for a traveller who may be a hundred years old at the end of the journey.
+constexpr const char* proposal = "1976-01-10";
+constexpr std::array turns{
+    Turn{"year", Qt::Key_PageUp, "1966-01-10"},
+    Turn{"day", Qt::Key_End, "1966-01-31"},
+    Turn{"month", Qt::Key_Down, "1966-02-28"}, // the month lacks the day
+    Turn{"year", Qt::Key_End, "2026-02-28"},
+    Turn{"month", Qt::Key_End, "2026-11-21"}, // today is the limit
+    Turn{"year", Qt::Key_Home, "1927-11-21"},
+    Turn{"month", Qt::Key_Home, "1927-01-21"},
+    Turn{"day", Qt::Key_Home, "1927-01-10"}, // the earliest
+    Turn{"day", Qt::Key_Up, "1927-01-10"},
+};
+
+int shownBy(Window& window, const char* wheel) {
+    const QQuickItem* item = window.item(wheel);
+    return item == nullptr ? -1 : item->property("currentIndex").toInt();
+}
+
+void expectWheels(Window& window, const char* day) {
+    const QDate date = QDate::fromString(day, Qt::ISODate);
+    EXPECT_EQ(shownBy(window, "year"), date.year() - 1927) << day;
+    EXPECT_EQ(shownBy(window, "month"), date.month() - 1) << day;
+    EXPECT_EQ(shownBy(window, "day"), date.day() - 1) << day;
+}
+
+std::string fieldDay(Window& window) {
+    return window.item("dateOfBirth")->property("day").toString().toStdString();
+}
+
+void keepPicture(Window& window, const std::string& look) {
+    if (const char* folder = std::getenv("OMBRIVANE_PICTURES"))
+        window.window().grabWindow().save(QString::fromStdString(folder + ("/" + look) + "/date.png"));
+}
+
+void openWheels(Window& window) {
+    window.item("dateOfBirth")->forceActiveFocus(); // which brings it into view
+    window.settle();
+    window.click("dateOfBirth");
+    EXPECT_TRUE(window.waitFor([&] { return window.item("year") != nullptr; }));
+    window.settle();
+}
+
+void chooseDate(Window& window, const std::string& look) {
+    openWheels(window);
+    expectSound(window);
+    keepPicture(window, look);
+    expectWheels(window, proposal);
+    QTest::keyClick(&window.window(), Qt::Key_Escape);
+    ASSERT_TRUE(window.waitFor([&] { return window.item("year") == nullptr; }));
+    EXPECT_EQ(fieldDay(window), "") << "left without a choice";
+    EXPECT_EQ(window.window().activeFocusItem(), window.item("dateOfBirth"));
+
+    openWheels(window);
+    for (const auto& turn : turns) {
+        window.item(turn.wheel)->forceActiveFocus();
+        QTest::keyClick(&window.window(), turn.key);
+        window.settle();
+        expectWheels(window, turn.day);
+    }
+    window.click("done");
+    ASSERT_TRUE(window.waitFor([&] { return window.item("year") == nullptr; }));
+    EXPECT_EQ(fieldDay(window), turns.back().day);
+    EXPECT_EQ(window.item("dateOfBirth")->property("value").toString().toStdString(), "Jan 10, 1927");
+}
+
+/// Wheels stay between the limits and show what is chosen; nothing is chosen before Done.
+TEST(DateFieldTest, ADateIsTurnedWithinItsLimits) {
+    struct Look {
+        const char* name;
+        int width;
+        int height;
+        double textScale;
+    };
+    for (const auto& look : {Look{"phone", 390, 844, 1}, Look{"narrow-large-text", 320, 568, 2}}) {
+        SCOPED_TRACE(look.name);
+        WalkPorts ports;
+        Window window(look.width, look.height);
+        window.setLook(false, look.textScale);
+        int looks = 0;
+        walk(ports, window, "tests/view/gallery/abroad.script", [&](const std::string& name) {
+            if (name != "traveller") return;
+            window.settle();
+            ++looks;
+            chooseDate(window, look.name);
+        });
+        EXPECT_EQ(looks, 1);
+        EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
+    }
+}
+
+} // namespace
+} // namespace ombrivane::view

@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Layouts
+import Ombrivane
+
+// Three wheels for a date within its limits.
+Sheet {
+    id: sheet
+
+    required property string title
+    required property string earliest
+    required property string latest
+    required property string day
+    signal picked(day: string)
+
+    name: title
+    wantedHeight: column.implicitHeight + 2 * Theme.margin
+
+    DateChoice {
+        id: choice
+        earliest: sheet.earliest
+        latest: sheet.latest
+        onChanged: {
+            monthWheel.show()
+            dayWheel.show()
+            yearWheel.show()
+        }
+        Component.onCompleted: choice.day = sheet.day
+    }
+    ColumnLayout {
+        id: column
+        x: Theme.margin
+        width: parent.width - 2 * x
+        spacing: Theme.margin
+        PlainText {
+            Layout.fillWidth: true
+            text: sheet.title
+            font.pixelSize: Theme.titleSize
+            font.weight: Font.DemiBold
+            spread: 1.1
+            Accessible.role: Accessible.Heading
+        }
+        RowLayout {
+            spacing: 8
+            Wheel {
+                id: monthWheel
+                objectName: "month"
+                Layout.fillWidth: true
+                focus: true
+                label: qsTr("Month")
+                model: choice.months
+                chosen: choice.monthIndex
+                onTurned: index => choice.turnMonth(index)
+            }
+            Wheel {
+                id: dayWheel
+                objectName: "day"
+                Layout.fillWidth: true
+                label: qsTr("Day")
+                model: choice.days
+                chosen: choice.dayIndex
+                onTurned: index => choice.turnDay(index)
+            }
+            Wheel {
+                id: yearWheel
+                objectName: "year"
+                Layout.fillWidth: true
+                label: qsTr("Year")
+                model: choice.years
+                chosen: choice.yearIndex
+                onTurned: index => choice.turnYear(index)
+            }
+        }
+        MainButton {
+            objectName: "done"
+            Layout.fillWidth: true
+            text: qsTr("Done")
+            onClicked: sheet.picked(choice.day)
+        }
+    }
+}
