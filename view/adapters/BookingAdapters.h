@@ -1,6 +1,7 @@
 #pragma once
 
 #include "adapters/BookingValues.h"
+#include "adapters/ParagraphsModel.h"
 #include "adapters/RowsModel.h"
 #include "adapters/ScreenAdapter.h"
 #include "booking/BookingConfirmationView.h"
@@ -25,8 +26,7 @@ class RulesAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
-    Q_PROPERTY(QQmlListProperty<ombrivane::view::ParagraphValue> paragraphs READ paragraphs NOTIFY
-                   paragraphsChanged FINAL)
+    Q_PROPERTY(ombrivane::view::ParagraphsModel* paragraphs READ paragraphs CONSTANT FINAL)
     OMBRIVANE_SCREEN(RulesAdapter, RulesAndRegulationView)
     OMBRIVANE_TEXT(title, core().title)
     OMBRIVANE_TEXT(cancelText, core().cancelText)
@@ -39,15 +39,12 @@ class RulesAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_INTENT(proceed, core().continue_)
 
 public:
-    QQmlListProperty<ParagraphValue> paragraphs() { return readOnlyList(this, values_); }
-    Q_SIGNAL void paragraphsChanged();
+    ParagraphsModel* paragraphs() { return &paragraphs_; }
 
 private:
-    QList<ParagraphValue*> values_ = makeValues<ParagraphValue>(core().paragraphs.get(), this);
-    Subscription paragraphsWatch_ = watch(core().paragraphs, [this] {
-        values_ = makeValues<ParagraphValue>(core().paragraphs.get(), this);
-        emit paragraphsChanged();
-    });
+    ParagraphsModel paragraphs_{core().paragraphs.get()};
+    Subscription paragraphsWatch_ =
+        watch(core().paragraphs, [this] { paragraphs_.show(core().paragraphs.get()); });
 };
 
 /// The journeys leg by leg.

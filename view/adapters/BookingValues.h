@@ -8,7 +8,6 @@
 #include "booking/TicketTravellerInfo.h"
 #include "platform/Image.h"
 #include "support/DateFormatter.h"
-#include "support/RuleParagraph.h"
 
 #include <optional>
 
@@ -30,27 +29,6 @@ inline QString shown(const std::optional<Date>& date) {
     return date ? QString::fromStdString(formatDate(*date, datePattern::wire)) : QString();
 }
 inline bool shown(const std::optional<Image>& image) { return image.has_value(); }
-
-/// One paragraph of the fare rules.
-class ParagraphValue : public QObject {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("made by the component")
-    Q_PROPERTY(QString text READ text CONSTANT FINAL)
-    Q_PROPERTY(bool isListItem READ isListItem CONSTANT FINAL)
-    Q_PROPERTY(bool isUnderlined READ isUnderlined CONSTANT FINAL)
-
-public:
-    ParagraphValue(RuleParagraph paragraph, QObject* parent) :
-        QObject(parent), lines_(std::move(paragraph)) {}
-
-    QString text() const;
-    bool isListItem() const { return lines_.kind == RuleParagraph::Kind::listItem; }
-    bool isUnderlined() const;
-
-private:
-    RuleParagraph lines_;
-};
 
 /// One leg of a journey.
 class LegValue : public QObject {

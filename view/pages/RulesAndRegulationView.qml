@@ -24,11 +24,13 @@ Item {
         model: page.screen.paragraphs
         onContentHeightChanged: page.screen.measured(contentHeight)
         delegate: PlainText {
-            required property ParagraphValue modelData
+            required property string content
+            required property bool listItem
+            required property bool underlined
             width: ListView.view.width
-            leftPadding: modelData.isListItem ? 16 : 0
-            text: modelData.text
-            font.underline: modelData.isUnderlined
+            leftPadding: listItem ? 16 : 0
+            text: content
+            font.underline: underlined
             font.pixelSize: Theme.sectionSize
         }
         ProgressLine {

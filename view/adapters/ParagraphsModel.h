@@ -1,0 +1,33 @@
+#pragma once
+
+#include "support/RuleParagraph.h"
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+#include <utility>
+#include <vector>
+
+namespace ombrivane::view {
+
+/// The paragraphs of the fare rules, of which there may be tens of thousands: `content` is made when it is
+/// drawn.
+class ParagraphsModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    explicit ParagraphsModel(std::vector<RuleParagraph> paragraphs) : paragraphs_(std::move(paragraphs)) {}
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// Other paragraphs in the place of all.
+    void show(std::vector<RuleParagraph> paragraphs);
+
+private:
+    std::vector<RuleParagraph> paragraphs_;
+};
+
+} // namespace ombrivane::view
