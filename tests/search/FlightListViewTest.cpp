@@ -342,7 +342,8 @@ TEST_F(FlightListViewTest, TheStripOfARoundTripHasACardForEachPairOfTotalAndAirl
     EXPECT_EQ(shown->rows.size(), 4U);
     ASSERT_EQ(shown->strip.size(), 3U);
     shown->strip.row(2)->fields.find("tap")->trigger({});
-    EXPECT_EQ(shown->scrollToId.get(), textOf(shown->rows.identities().at(3))) << "the dearer offer of the same airline";
+    EXPECT_EQ(shown->scrollToId.get(), textOf(shown->rows.identities().at(3)))
+        << "the dearer offer of the same airline";
     model().filteredRoundtripFlights =
         RoundTripOffers(model().roundtripFlights->begin(), model().roundtripFlights->begin() + 1);
     EXPECT_EQ(shown->strip.size(), 1U) << "the strip follows the filtered list";

@@ -61,14 +61,16 @@ void openWheels(Window& window) {
 }
 
 void chooseDate(Window& window, const std::string& look) {
-    openWheels(window);
-    expectSound(window);
-    keepPicture(window, look);
-    expectWheels(window, proposal);
-    QTest::keyClick(&window.window(), Qt::Key_Escape);
-    ASSERT_TRUE(window.waitFor([&] { return window.item("year") == nullptr; }));
-    EXPECT_EQ(fieldDay(window), "") << "left without a choice";
-    EXPECT_EQ(window.window().activeFocusItem(), window.item("dateOfBirth"));
+    for (const Qt::Key leave : {Qt::Key_Escape, Qt::Key_Back}) {
+        openWheels(window);
+        expectSound(window);
+        keepPicture(window, look);
+        expectWheels(window, proposal);
+        QTest::keyClick(&window.window(), leave);
+        ASSERT_TRUE(window.waitFor([&] { return window.item("year") == nullptr; }));
+        EXPECT_EQ(fieldDay(window), "") << "left without a choice";
+        EXPECT_EQ(window.window().activeFocusItem(), window.item("dateOfBirth"));
+    }
 
     openWheels(window);
     for (const auto& turn : turns) {

@@ -1,7 +1,7 @@
 import QtQuick
 import Ombrivane
 
-// A sheet from the foot of the stage: handle, content, the rest dims. A swipe, a tap outside and Escape close it.
+// A sheet from the foot of the stage: handle, content, the rest dims. A swipe, a tap outside, Escape and Back close it.
 // One that is `beside` stands at the leading edge instead, next to what it belongs to, and nothing dims.
 FocusScope {
     id: sheet
@@ -68,4 +68,5 @@ FocusScope {
         }
     }
     Keys.onEscapePressed: dismissed()
+    Keys.onBackPressed: dismissed()
 }
