@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QtTest/QTest>
 
 #include <array>
@@ -48,8 +49,10 @@ std::string fieldDay(Window& window) {
 }
 
 void keepPicture(Window& window, const std::string& look) {
-    if (const char* folder = std::getenv("OMBRIVANE_PICTURES"))
-        window.window().grabWindow().save(QString::fromStdString(folder + ("/" + look) + "/date.png"));
+    const char* pictures = std::getenv("OMBRIVANE_PICTURES");
+    if (pictures == nullptr) return;
+    const QString folder = QString(pictures) + "/" + QString::fromStdString(look);
+    EXPECT_TRUE(QDir().mkpath(folder) && window.window().grabWindow().save(folder + "/traveller-date.png"));
 }
 
 void openWheels(Window& window) {
