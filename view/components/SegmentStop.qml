@@ -5,8 +5,8 @@ import Ombrivane
 Item {
     id: stop
 
-    property alias place: place.text
-    property alias time: time.text
+    property alias place: placeText.text
+    property alias time: timeText.text
     readonly property real dotPosition: Theme.captionSize * 0.6 + 2
 
     implicitHeight: texts.implicitHeight
@@ -25,7 +25,7 @@ Item {
         id: texts
         x: 28
         width: parent.width - x
-        CardText { id: place; width: parent.width; font.pixelSize: Theme.captionSize }
-        CardText { id: time; width: parent.width; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
+        CardText { id: placeText; width: parent.width; font.pixelSize: Theme.captionSize }
+        CardText { id: timeText; width: parent.width; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
     }
 }

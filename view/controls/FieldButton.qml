@@ -9,9 +9,9 @@ T.AbstractButton {
     required property string iconName
     required property string placeholder
     property string value: ""
-    property string mark: "formBorderColor"
-    readonly property bool missing: mark === "primaryColor"
-    readonly property bool inOrder: mark === "secondaryColor"
+    property alias mark: fieldMark.mark
+    readonly property alias missing: fieldMark.missing
+    readonly property alias inOrder: fieldMark.inOrder
     property bool framed: true
     property real leastHeight: Theme.fieldHeight
 
@@ -66,7 +66,7 @@ T.AbstractButton {
             }
         }
     }
-    FieldMark { missing: field.missing; inOrder: field.inOrder }
+    FieldMark { id: fieldMark }
     Keys.onReturnPressed: field.clicked()
     Keys.onEnterPressed: field.clicked()
 }

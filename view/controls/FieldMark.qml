@@ -3,8 +3,10 @@ import Ombrivane
 
 // At the end of a field: whether it is missing or in order.
 Icon {
-    required property bool missing
-    required property bool inOrder
+    // The colour by whose name the form tells it.
+    property string mark: "formBorderColor"
+    readonly property bool missing: mark === "primaryColor"
+    readonly property bool inOrder: mark === "secondaryColor"
 
     anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
     visible: missing || inOrder

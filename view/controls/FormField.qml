@@ -10,9 +10,9 @@ T.TextField {
     required property string iconName
     required property string placeholder
     required property string value
-    property string mark: "formBorderColor"
-    readonly property bool missing: mark === "primaryColor"
-    readonly property bool inOrder: mark === "secondaryColor"
+    property alias mark: fieldMark.mark
+    readonly property alias missing: fieldMark.missing
+    readonly property alias inOrder: fieldMark.inOrder
     readonly property bool raised: length > 0 || preeditText !== ""
 
     text: value
@@ -54,6 +54,6 @@ T.TextField {
             spread: 1.1
             Accessible.ignored: true
         }
-        FieldMark { missing: field.missing; inOrder: field.inOrder }
+        FieldMark { id: fieldMark }
     }
 }
