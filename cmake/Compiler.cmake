@@ -17,6 +17,14 @@ function(ombrivane_small target)
     target_link_options(${target} INTERFACE $<BUILD_INTERFACE:$<$<CONFIG:Release>:$<$<NOT:$<PLATFORM_ID:Darwin>>:-Wl,--gc-sections>>>)
 endfunction()
 
+# Where one file is built again and again, the headers that nearly all of them read are read once.
+function(ombrivane_precompiled target)
+    if(OMBRIVANE_PRECOMPILED)
+        target_precompile_headers(${target} PRIVATE
+            <nlohmann/json.hpp> <algorithm> <chrono> <functional> <map> <memory> <mutex> <optional> <string> <vector>)
+    endif()
+endfunction()
+
 if(OMBRIVANE_SANITIZE)
     add_compile_options(-fsanitize=${OMBRIVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${OMBRIVANE_SANITIZE})

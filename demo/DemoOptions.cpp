@@ -20,6 +20,8 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--picture", [&](Value value) { options.picture = value; }},
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
         {"--now", [&](Value value) { options.now = value; }},
+        {"--locale", [&](Value value) { options.locale = value; }},
+        {"--time-zone", [&](Value value) { options.timeZone = value; }},
         {"--text-scale", [&](Value value) { options.textScale = std::stod(value); }},
         {"--width", [&](Value value) { options.width = std::stoi(value); }},
         {"--height", [&](Value value) { options.height = std::stoi(value); }},
@@ -53,6 +55,7 @@ std::string DemoOptions::usage() {
            "trust\n"
            "  --client-id TEXT     --client-secret TEXT\n"
            "  --wallet-balance N   --now ISO-TIME\n"
+           "  --locale NAME        --time-zone NAME   in place of the system's own\n"
            "  --dark               --text-scale N     --width N   --height N   --still (no motion)\n"
            "  --slow               --fault TEXT       trouble of the own booking service, see "
            "docs/sandbox.md\n"

@@ -18,6 +18,8 @@ struct DemoOptions {
     std::string picture;        ///< takes a picture of the first screen and ends
     std::vector<std::string> faults;
     std::string now;
+    std::string locale;   ///< such as "ne_NP"; empty for the system's
+    std::string timeZone; ///< such as "Asia/Kathmandu"; empty for the system's
     bool dark = false;
     double textScale = 1;
     int width = 390;

@@ -1,6 +1,7 @@
 #include "DemoWallet.h"
 
 #include "device/QtPlatform.h"
+#include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 #include "support/Fault.h"
 #include "support/SharedInstance.h"
@@ -67,6 +68,12 @@ void DemoWallet::installPlatform() {
     ports.mainQueue = queue_;
     ports.clock = clock_;
     ports.reachability = reachability_;
+    if (!options_.locale.empty() || !options_.timeZone.empty()) {
+        const auto localization = std::make_shared<SystemLocalization>();
+        if (!options_.locale.empty()) localization->useLocale(options_.locale);
+        if (!options_.timeZone.empty()) localization->useTimeZone(options_.timeZone);
+        ports.localization = localization;
+    }
     if (!options_.script.empty()) {
         ports.photos = photos_;
         ports.urls = std::make_shared<journey::ReportedUrls>(log_);

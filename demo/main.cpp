@@ -1,3 +1,4 @@
+#include "Complaints.h"
 #include "DemoOptions.h"
 #include "DemoWallet.h"
 #include "sandbox/Sandbox.h"
@@ -28,6 +29,16 @@ std::unique_ptr<ombrivane::sandbox::Sandbox> startService(ombrivane::demo::DemoO
     return sandbox;
 }
 
+constexpr int broken = 3;
+
+/// The wallet from its window to its end. @return the exit status
+int run(const ombrivane::demo::DemoOptions& options) {
+    ombrivane::demo::DemoWallet wallet(options);
+    if (!wallet.isReady()) return broken;
+    if (!options.picture.empty()) return wallet.takePicture(options.picture);
+    return options.script.empty() ? QGuiApplication::exec() : wallet.playScript();
+}
+
 } // namespace
 
 int main(int count, char** values) {
@@ -44,9 +55,8 @@ int main(int count, char** values) {
     }
     const QGuiApplication application(count, values);
     const auto service = startService(options);
-    ombrivane::demo::DemoWallet wallet(options);
-    if (!wallet.isReady()) return 3;
-    if (!options.picture.empty()) return wallet.takePicture(options.picture);
-    if (!options.script.empty()) return wallet.playScript();
-    return QGuiApplication::exec();
+    if (options.script.empty()) return run(options);
+    const ombrivane::demo::Complaints complaints;
+    const int ending = run(options);
+    return ending == 0 && ombrivane::demo::Complaints::count() > 0 ? broken : ending;
 }

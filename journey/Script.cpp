@@ -4,6 +4,7 @@
 #include "Resources.h"
 #include "ScreenPath.h"
 #include "platform/JpegPngCodec.h"
+#include "platform/Platform.h"
 #include "support/Fault.h"
 
 #include <fstream>
@@ -75,6 +76,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"tap", [this](const std::string& arguments) { tap(arguments); }},
         {"back", [this](const std::string&) { back(); }},
         {"expect", [this](const std::string& arguments) { expect(arguments); }},
+        {"in", [this](const std::string& arguments) { inLocale(arguments); }},
         {"wait", [this](const std::string& arguments) { wait(arguments); }},
         {"wait-screen", [this](const std::string& arguments) { waitScreen(arguments); }},
         {"wait-event", [this](const std::string& arguments) { waitEvent(arguments); }},
@@ -104,6 +106,9 @@ std::string Script::help() {
            "  back                          the system's back gesture\n"
            "  expect PATH JSON              ends the script unless the value is this one; records may hold "
            "more members\n"
+           "  in LOCALE COMMAND             the command, where the device speaks this: what is shown of "
+           "dates and "
+           "numbers\n"
            "  wait PATH JSON [SECONDS]      waits until it is (10 s unless told)\n"
            "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
            "  wait-event NAME [OBJECT] [SECONDS]\n"
@@ -279,6 +284,11 @@ void Script::noEvent(const std::string& name) {
     stage_.runUntil([] { return false; }, std::chrono::milliseconds(0));
     const Json events = stage_.log.waiting(name);
     if (!events.empty()) throw ExpectationFailed("there was an event " + name + ": " + events.dump());
+}
+
+void Script::inLocale(const std::string& arguments) {
+    const auto [locale, command] = split(arguments);
+    if (platform().localization->locale() == locale) run(command);
 }
 
 void Script::pause(const std::string& arguments) {

@@ -65,6 +65,7 @@ private:
     void tap(const std::string& arguments);
     void back();
     void expect(const std::string& arguments);
+    void inLocale(const std::string& arguments);
     void wait(const std::string& arguments);
     void waitScreen(const std::string& arguments);
     void waitEvent(const std::string& arguments);

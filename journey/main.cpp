@@ -1,4 +1,5 @@
 #include "EventLog.h"
+#include "Onlooker.h"
 #include "Options.h"
 #include "Script.h"
 #include "ScriptedPorts.h"
@@ -39,7 +40,7 @@ public:
     Wallet& operator=(const Wallet&) = delete;
 
     ~Wallet() {
-        view_.reset();
+        drop();
         Platform::endNetwork();
         loop_->runUntil([] { return false; }, std::chrono::milliseconds(0));
         dropSharedInstances();
@@ -76,7 +77,7 @@ private:
             .runUntil = [this](const auto& done, auto limit) { return loop_->runUntil(done, limit); },
             .advance = [this](auto duration) { loop_->advance(duration); },
             .open = [this] { open(); },
-            .destroy = [this] { view_.reset(); },
+            .destroy = [this] { drop(); },
             .navigator = [this] { return view_ ? view_->navigator() : nullptr; },
             .faulted = [this] { return faulted_.load(); },
             .log = log_,
@@ -86,7 +87,14 @@ private:
         };
     }
 
+    /// As a page is let go of before its component.
+    void drop() {
+        onlooker_.follow(nullptr);
+        view_.reset();
+    }
+
     void open() {
+        drop();
         view_ = std::make_unique<OmbrivaneView>(
             options_.clientId,
             options_.clientSecret,
@@ -97,10 +105,11 @@ private:
             [this](auto dictionary, auto error) { receive(dictionary, error); });
         const auto close = [this] {
             log_.event(Json{{"event", "closed"}});
-            view_.reset();
+            drop();
         };
         view_->onClose(close, close);
         guarded([this] { view_->show(); });
+        if (view_) onlooker_.follow(view_->navigator());
     }
 
     void receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
@@ -124,6 +133,7 @@ private:
     std::shared_ptr<ScriptedPhotos> photos_ = std::make_shared<ScriptedPhotos>();
     std::atomic<bool> faulted_ = false;
     std::unique_ptr<OmbrivaneView> view_;
+    Onlooker onlooker_;
 };
 
 } // namespace

@@ -73,7 +73,8 @@ SessionPhase BookingSession::phase() const {
 }
 
 void BookingSession::appear() {
-    if (!hasAvailability()) requestAvailability();
+    // A form that is left while the availability loads brings the screen into view again.
+    if (!hasAvailability() && !isAsking_) isAsking_ = requestAvailability();
 }
 
 void BookingSession::tick() {
@@ -84,7 +85,13 @@ void BookingSession::tick() {
     }
 }
 
+bool BookingSession::lendsInput() const {
+    const SessionPhase now = phase();
+    return now != SessionPhase::reserving && now != SessionPhase::expired;
+}
+
 void BookingSession::failAvailability(const std::optional<Error>& error) {
+    if (hasAvailability()) return; // a price that is held is not thrown away
     task_ = mainQueue().after(messageDuration, [this] { dismiss(); });
     refuse(error ? error->localizedDescription : "");
 }
@@ -94,11 +101,21 @@ void BookingSession::refuse(std::string message) {
     showSnackBar = true;
 }
 
+bool BookingSession::everySlotIsFilled() const {
+    const auto& passengers = passengersList.get();
+    const auto& slots = uniquePassangerList.get();
+    const auto isFilled = [&](const UniquePassanger& slot) {
+        return std::any_of(passengers.begin(), passengers.end(), [&](const Passenger& passenger) {
+            return passenger.id == slot.id && !passenger.dob.empty(); // without one it is the contact's stub
+        });
+    };
+    return !slots.empty() && passengers.size() == slots.size() &&
+           std::all_of(slots.begin(), slots.end(), isFilled);
+}
+
 void BookingSession::proceed() {
     if (!emergencyContact.get()) return refuse(contactMissing);
-    if (passengersList->size() != uniquePassangerList->size()) return refuse(passengersMissing);
-    if (passengersList->empty()) fatalFault("a booking without passengers was continued");
-    if (passengersList->front().dob.empty()) return refuse(passengersMissing);
+    if (!everySlotIsFilled()) return refuse(passengersMissing);
     showProgressView = true;
     reserve();
 }

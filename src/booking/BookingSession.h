@@ -89,8 +89,12 @@ public:
 protected:
     BookingSession(std::string_view name, BookingGiven given);
 
-    /// Asks for the availability; called when the screen appears and none is held.
-    virtual void requestAvailability() = 0;
+    /// What lies under the progress and the expiry takes no input.
+    bool lendsInput() const override;
+
+    /// Asks for the availability; called when the screen appears, none is held and none is under way.
+    /// @return whether there was something to ask for
+    virtual bool requestAvailability() = 0;
     virtual bool hasAvailability() const = 0;
     virtual std::optional<AvailabilitySummary> availabilitySummary() const = 0;
     virtual bool documentsRequired() const = 0;
@@ -106,6 +110,7 @@ protected:
     template <class Availability>
     void takeAvailability(std::optional<Availability> record, const std::optional<Error>& error,
                           Field<std::optional<Availability>>& held) {
+        isAsking_ = false;
         if (error || !record) return failAvailability(error);
         isLoading = false;
         held.set(std::move(record));
@@ -117,6 +122,7 @@ protected:
 private:
     SessionPhase phase() const;
     bool allowsNow(SessionControl control) const { return allows(phase(), control); }
+    bool everySlotIsFilled() const;
     void tick();
     void failAvailability(const std::optional<Error>& error);
     void refuse(std::string message);
@@ -128,6 +134,7 @@ private:
     void handOver(const FlightBooking& booking);
     Dictionary handOverDictionary(const FlightBooking& booking) const;
 
+    bool isAsking_ = false; ///< an availability is under way
     CompletionCallback completionCallback_;
     FlightBookingProvider flightBookingProvider_;
     PassengerDocumentsProvider passengerDocumentsProvider_;

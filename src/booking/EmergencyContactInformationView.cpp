@@ -3,6 +3,8 @@
 #include "state/AppState.h"
 #include "support/Fault.h"
 
+#include <algorithm>
+
 namespace ombrivane {
 namespace {
 
@@ -79,24 +81,27 @@ void EmergencyContactInformationView::saveDetails() {
     dismiss();
 }
 
-/// The person becomes the first passenger: a new one without a date of birth, or in place of the old one,
-/// whose date of birth and document stay.
+/// The person becomes the passenger of the first slot: a new one without a date of birth, or the one of that
+/// slot, whose date of birth and document stay. No other passenger is touched.
 void EmergencyContactInformationView::writePassenger() {
     auto passengers = passengersList.get();
-    if (passengers.empty()) {
-        Passenger& stub = passengers.emplace_back();
+    auto first = std::find_if(passengers.begin(), passengers.end(), [this](const Passenger& passenger) {
+        return passenger.id == uuid.get();
+    });
+    if (first == passengers.end()) {
+        first = passengers.emplace(first);
+        Passenger& stub = *first;
+        stub.id = uuid;
         stub.documentIssuedDateSerialNo = "";
         stub.documentNumber = "";
         stub.documentType = allowedDocuments->empty() ? std::string() : allowedDocuments->front();
         stub.gender = "Male";
     }
-    Passenger& first = passengers.front();
-    first.id = uuid;
-    first.firstName = ECIVM.name;
-    first.lastName = ECIVM.surname;
-    first.email = ECIVM.email;
-    first.nationality = AppState::shared().nationality;
-    first.type = type;
+    first->firstName = ECIVM.name;
+    first->lastName = ECIVM.surname;
+    first->email = ECIVM.email;
+    first->nationality = AppState::shared().nationality;
+    first->type = type;
     passengersList = std::move(passengers);
 }
 

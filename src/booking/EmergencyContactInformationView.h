@@ -15,7 +15,7 @@
 
 namespace ombrivane {
 
-/// The form of the emergency contact. Its box makes the person typed here the first passenger of the booking.
+/// The form of the emergency contact. Its box makes the person typed here the passenger of the first slot.
 class EmergencyContactInformationView final : public Screen {
 public:
     /// @param uuid identity given to a passenger written from this form

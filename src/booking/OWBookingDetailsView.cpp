@@ -20,8 +20,8 @@ OWBookingDetailsView::OWBookingDetailsView(BookingGiven given) :
             owFlightAvailability, bookingSummary, bookingClass, passengersList, completionCallback());
     }) {}
 
-void OWBookingDetailsView::requestAvailability() {
-    if (!flight.get()) return;
+bool OWBookingDetailsView::requestAvailability() {
+    if (!flight.get()) return false;
     using Answer = std::optional<OWFlightAvailability>;
     flightAvailabilityProvider_.fetchAvailability(
         itineraryType,
@@ -29,6 +29,7 @@ void OWBookingDetailsView::requestAvailability() {
         onMain<Answer>([hold = shared_from_this(), this](Answer record, std::optional<Error> error) {
             takeAvailability(std::move(record), error, owFlightAvailability);
         }));
+    return true;
 }
 
 std::optional<AvailabilitySummary> OWBookingDetailsView::availabilitySummary() const {
@@ -53,8 +54,7 @@ std::optional<std::int64_t> OWBookingDetailsView::totalCost() const {
 
 std::optional<TravelDates> OWBookingDetailsView::travelDates() const {
     const auto& held = owFlightAvailability.get();
-    if (!held) return std::nullopt;
-    return TravelDates{held->flightsSummary.deptDate, held->flightsSummary.deptDate};
+    return held ? std::optional(travelDatesOf(held->flightsSummary)) : std::nullopt;
 }
 
 Dictionary OWBookingDetailsView::flightSummary() const {

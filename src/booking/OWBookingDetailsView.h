@@ -18,7 +18,7 @@ public:
     Published<std::optional<OWFlightAvailability>> owFlightAvailability{fields, "owFlightAvailability"};
 
 protected:
-    void requestAvailability() override;
+    bool requestAvailability() override;
     bool hasAvailability() const override { return owFlightAvailability->has_value(); }
     std::optional<AvailabilitySummary> availabilitySummary() const override;
     bool documentsRequired() const override;

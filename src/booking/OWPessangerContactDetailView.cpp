@@ -15,12 +15,13 @@ std::function<std::string()> constant(const char* text) {
 } // namespace
 
 ContactLine::ContactLine(std::string_view lineName, std::function<std::string()> titleText,
-                         std::function<std::optional<std::string>()> filledIn, std::function<void()> open) :
+                         std::function<std::optional<std::string>()> filledIn, std::function<void()> open,
+                         std::function<bool()> isReady) :
     Screen(lineName),
     title(fields, "title", std::move(titleText)),
     detail(fields, "detail", [filledIn] { return filledIn().value_or(toDo); }),
     isFilled(fields, "isFilled", [filledIn] { return filledIn().has_value(); }),
-    tap(*this, "tap", std::move(open)) {}
+    tap(*this, "tap", std::move(open), std::move(isReady)) {}
 
 OWPessangerContactDetailView::OWPessangerContactDetailView(ContactGiven given) :
     Screen("OWPessangerContactDetailView"),
@@ -39,7 +40,7 @@ OWPessangerContactDetailView::OWPessangerContactDetailView(ContactGiven given) :
             const auto& contact = emergencyContact.get();
             return contact ? std::optional(contact->name) : std::nullopt;
         },
-        [this] { contactFormIsActive = true; })),
+        [this] { contactFormIsActive = true; }, [this] { return !isLoading; })),
     rows(
         *this, "rows", [this] { return uniquePassengersList->size(); },
         [this](std::size_t index) {
@@ -51,7 +52,8 @@ OWPessangerContactDetailView::OWPessangerContactDetailView(ContactGiven given) :
                 [this, index] {
                     tapped_ = index;
                     travellerFormIsActive = true;
-                });
+                },
+                [this] { return !isLoading; });
         },
         [this] { return identitiesOf(uniquePassengersList.get(), &UniquePassanger::id); }),
     travelDates_(std::move(given.travelDates)),

@@ -33,11 +33,13 @@ struct ContactGiven {
     const Field<std::vector<UniquePassanger>>& uniquePassengersList;
 };
 
-/// One line of the list: the contact or a passenger, filled in or still to do.
+/// One line of the list: the contact or a passenger, filled in or still to do. Its form opens once the
+/// availability says for whom: before, nobody could be given the identity of a slot.
 class ContactLine final : public Screen {
 public:
     ContactLine(std::string_view name, std::function<std::string()> titleText,
-                std::function<std::optional<std::string>()> filledIn, std::function<void()> open);
+                std::function<std::optional<std::string>()> filledIn, std::function<void()> open,
+                std::function<bool()> isReady);
 
     Derived<std::string> title;
     Derived<std::string> detail;

@@ -52,7 +52,9 @@ PaymentView::PaymentView(PaymentGiven given) :
                return order ? OfferFormat::price(order->currency, order->amount) : std::string("NPR 80,000");
            }),
     otpPlaceholder(fields, "otpPlaceholder", constant("Enter OTP")),
-    typeOtp(*this, "typeOtp", [this](const std::string& text) { otpText = text; }),
+    typeOtp(
+        *this, "typeOtp", [this](const std::string& text) { otpText = text; },
+        [this] { return !showProgressView; }),
     button(
         *this, "button", [this] { confirmOrder(); }, [this] { return !showProgressView; }) {}
 

@@ -21,8 +21,8 @@ RTBookingDetailsView::RTBookingDetailsView(BookingGiven given) :
             rtFlightAvailability, bookingSummary, bookingClass, passengersList, completionCallback());
     }) {}
 
-void RTBookingDetailsView::requestAvailability() {
-    if (!flight.get()) return;
+bool RTBookingDetailsView::requestAvailability() {
+    if (!flight.get()) return false;
     using Answer = std::optional<RTFlightAvailability>;
     const auto answered =
         onMain<Answer>([hold = shared_from_this(), this](Answer record, std::optional<Error> error) {
@@ -34,6 +34,7 @@ void RTBookingDetailsView::requestAvailability() {
     } else {
         flightAvailabilityProvider_.fetchAvailability(itineraryType, *flight.get(), answered);
     }
+    return true;
 }
 
 std::optional<AvailabilitySummary> RTBookingDetailsView::availabilitySummary() const {
@@ -58,8 +59,7 @@ std::optional<std::int64_t> RTBookingDetailsView::totalCost() const {
 
 std::optional<TravelDates> RTBookingDetailsView::travelDates() const {
     const auto& held = rtFlightAvailability.get();
-    if (!held) return std::nullopt;
-    return TravelDates{held->flightsSummary.deptDate, held->flightsSummary.returnDeptDate};
+    return held ? std::optional(travelDatesOf(held->flightsSummary)) : std::nullopt;
 }
 
 void RTBookingDetailsView::willUpload() const { platform().diagnostics->print("documents requird"); }

@@ -18,7 +18,7 @@ public:
     Published<std::optional<RTFlightAvailability>> rtFlightAvailability{fields, "rtFlightAvailability"};
 
 protected:
-    void requestAvailability() override;
+    bool requestAvailability() override;
     bool hasAvailability() const override { return rtFlightAvailability->has_value(); }
     std::optional<AvailabilitySummary> availabilitySummary() const override;
     bool documentsRequired() const override;

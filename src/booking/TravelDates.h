@@ -1,14 +1,20 @@
 #pragma once
 
-#include <string>
+#include "records/FlightsSummary.h"
+#include "records/RTFlightsSummary.h"
+#include "support/Day.h"
 
 namespace ombrivane {
 
-/// The first and the last day of travel as the service tells them, "yyyy-MM-dd": of one way the same day
-/// twice.
+/// The first and the last day of travel: of one way the same day twice. They limit what a traveller form
+/// takes.
 struct TravelDates {
-    std::string first;
-    std::string last;
+    Day first;
+    Day last;
 };
+
+/// Of an availability, which names days or is refused when it arrives.
+TravelDates travelDatesOf(const FlightsSummary& flights);
+TravelDates travelDatesOf(const RTFlightsSummary& flights);
 
 } // namespace ombrivane

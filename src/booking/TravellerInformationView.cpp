@@ -1,8 +1,6 @@
 #include "booking/TravellerInformationView.h"
 
 #include "booking/DocumentType.h"
-#include "platform/Platform.h"
-#include "search/CustomDateHelper.h"
 #include "services/FlightsSummarySlots.h"
 #include "state/AppState.h"
 #include "support/Calendar.h"
@@ -26,14 +24,9 @@ int oldest(const std::string& type) {
 /// Of the session's own availability, else of the last one that the process has seen.
 TravelDates heldDates(const std::optional<TravelDates>& session) {
     if (session) return *session;
-    if (const auto oneWay = owFlightsSummary()) return {oneWay->deptDate, oneWay->deptDate};
-    if (const auto roundTrip = rtFlightsSummary()) return {roundTrip->deptDate, roundTrip->returnDeptDate};
+    if (const auto oneWay = owFlightsSummary()) return travelDatesOf(*oneWay);
+    if (const auto roundTrip = rtFlightsSummary()) return travelDatesOf(*roundTrip);
     fatalFault("a traveller form was opened without an availability");
-}
-
-std::optional<Date> dateOf(const std::string& text) {
-    if (text.empty()) return std::nullopt;
-    return CustomDateHelper::parse(text, datePattern::wire);
 }
 
 std::string capitalised(std::string text) {
@@ -42,15 +35,14 @@ std::string capitalised(std::string text) {
     return text;
 }
 
-std::string shownDate(const std::optional<Date>& date) {
-    return date ? formatDate(*date, datePattern::form) : "";
+std::string shownDate(const std::optional<Day>& date) {
+    return date ? formatDay(*date, dayPattern::form) : "";
 }
 
-std::optional<Date> pickedDate(const std::string& text) {
-    if (text.empty()) return std::nullopt;
-    const auto date = parseDate(text, datePattern::wire);
-    if (!date) throw KeyedError("wants a day such as \"2026-11-21\"");
-    return date;
+Day pickedDate(const std::string& text) {
+    const auto day = Day::parse(text);
+    if (!day) throw KeyedError("wants a day such as \"2026-11-21\"");
+    return *day;
 }
 
 std::function<std::string()> constant(const char* text) {
@@ -87,7 +79,7 @@ TravellerInformationView::TravellerInformationView(TravellerGiven given) :
     showsDocuments(fields, "showsDocuments", [this] { return documentsRequired.get(); }),
     showsExpiryDate(fields, "showsExpiryDate",
                     [this] { return documentsRequired && TIVM.documentType.get() == passportType; }),
-    latestDateOfBirth(fields, "latestDateOfBirth", [] { return platform().clock->now(); }),
+    latestDateOfBirth(fields, "latestDateOfBirth", [] { return calendar::today(); }),
     nameColor(fields, "nameColor", [this] { return TIVM.nameColor(); }),
     surnameColor(fields, "surnameColor", [this] { return TIVM.surnameColor(); }),
     emailColor(fields, "emailColor", [this] { return TIVM.emailColor(); }),
@@ -113,16 +105,14 @@ TravellerInformationView::TravellerInformationView(TravellerGiven given) :
                  }),
     pickDateOfBirth(*this, "pickDateOfBirth",
                     [this](const std::string& day) {
-                        const auto date = pickedDate(day);
-                        const bool within =
-                            date && *date >= calendar::startOfDay(minDOB) && *date <= platform().clock->now();
-                        if (within) TIVM.dateOfBirth = date;
+                        const Day born = pickedDate(day);
+                        if (born >= minDOB && born <= latestDateOfBirth.get()) TIVM.dateOfBirth = born;
                     }),
     pickExpiryDate(
         *this, "pickExpiryDate",
         [this](const std::string& day) {
-            const auto date = pickedDate(day);
-            if (date && *date >= calendar::startOfDay(minPpDate)) TIVM.expiryDate = date;
+            const Day expires = pickedDate(day);
+            if (expires >= minPpDate) TIVM.expiryDate = expires;
         },
         [this] { return showsExpiryDate.get(); }),
     openPhotoPicker(
@@ -142,10 +132,8 @@ TravellerInformationView::TravellerInformationView(TravellerGiven given) :
 
 void TravellerInformationView::setLimits(const std::optional<TravelDates>& dates) {
     const TravelDates held = heldDates(dates);
-    const Date first = CustomDateHelper::parse(held.first, datePattern::wire);
-    const Date last = CustomDateHelper::parse(held.last, datePattern::wire);
-    minDOB = calendar::addYears(last, -oldest(type));
-    minPpDate = calendar::addMonths(first, passportMonths);
+    minDOB = held.last.plusYears(-oldest(type));
+    minPpDate = held.first.plusMonths(passportMonths);
 }
 
 std::optional<std::size_t> TravellerInformationView::position() const {
@@ -165,20 +153,18 @@ void TravellerInformationView::load() {
     TIVM.surname = passenger.lastName;
     TIVM.email = passenger.email;
     TIVM.gender = capitalised(passenger.gender);
-    TIVM.dateOfBirth = dateOf(passenger.dob);
+    TIVM.dateOfBirth = Day::parse(passenger.dob);
     TIVM.documentType = passenger.documentType;
     TIVM.documentNumber = passenger.documentNumber.value_or("");
-    TIVM.expiryDate = dateOf(passenger.documentExpiryDate.value_or(""));
+    TIVM.expiryDate = Day::parse(passenger.documentExpiryDate.value_or(""));
     TIVM.documentImage = *saved < documents.size() ? documents.at(*saved) : std::nullopt;
 }
 
 Passenger TravellerInformationView::compose() const {
     Passenger passenger;
     passenger.id = uuid;
-    passenger.dob = formatDate(*TIVM.dateOfBirth.get(), datePattern::wire);
-    if (const auto& expiry = TIVM.expiryDate.get()) {
-        passenger.documentExpiryDate = formatDate(*expiry, datePattern::wire);
-    }
+    passenger.dob = TIVM.dateOfBirth.get()->text();
+    if (const auto& expiry = TIVM.expiryDate.get()) passenger.documentExpiryDate = expiry->text();
     passenger.documentIssuedDateSerialNo = "";
     if (!TIVM.documentNumber->empty()) passenger.documentNumber = TIVM.documentNumber.get();
     passenger.documentType = TIVM.documentType;

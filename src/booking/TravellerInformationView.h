@@ -47,7 +47,7 @@ private:
 /// The form of one traveller. Nothing is saved before "Save Details" passes.
 class TravellerInformationView final : public Screen {
 public:
-    /// A session without travel dates, or with ones that are no dates, is a fault.
+    /// A session without travel dates is a fault.
     explicit TravellerInformationView(TravellerGiven given);
 
     void appear() override { load(); }
@@ -59,8 +59,8 @@ public:
     Binding<std::vector<Passenger>> passengersList;
     Binding<std::vector<std::optional<Image>>> documentList;
     /// The earliest expiry date and the earliest date of birth that can be picked.
-    Published<Date> minPpDate;
-    Published<Date> minDOB;
+    Published<Day> minPpDate;
+    Published<Day> minDOB;
     TravellerInformationViewModel TIVM;
 
     Derived<std::string> title;
@@ -71,7 +71,7 @@ public:
     Derived<std::string> expiryDateText;
     Derived<bool> showsDocuments;
     Derived<bool> showsExpiryDate;
-    Derived<Date> latestDateOfBirth;
+    Derived<Day> latestDateOfBirth;
     Derived<FormColour> nameColor;
     Derived<FormColour> surnameColor;
     Derived<FormColour> emailColor;

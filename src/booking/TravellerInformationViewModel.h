@@ -2,6 +2,7 @@
 
 #include "booking/FormMarks.h"
 #include "platform/Image.h"
+#include "support/Day.h"
 #include "support/Field.h"
 #include "support/KeyedImage.h"
 
@@ -37,11 +38,11 @@ public:
     Published<std::string> surname{fields, "surname"};
     Published<std::string> email{fields, "email"};
     Published<std::string> gender{fields, "gender", "Male"};
-    Published<std::optional<Date>> dateOfBirth{fields, "dateOfBirth"};
+    Published<std::optional<Day>> dateOfBirth{fields, "dateOfBirth"};
     Published<std::string> nationality{fields, "nationality"};
     Published<std::string> documentType{fields, "documentType"};
     Published<std::string> documentNumber{fields, "documentNumber"};
-    Published<std::optional<Date>> expiryDate{fields, "expiryDate"};
+    Published<std::optional<Day>> expiryDate{fields, "expiryDate"};
     Published<std::string> type{fields, "type"};
     Published<bool> documentsRequired{fields, "documentsRequired"};
     FormMarks marks{fields};

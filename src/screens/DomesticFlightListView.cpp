@@ -1,6 +1,5 @@
 #include "screens/DomesticFlightListView.h"
 
-#include "platform/OnMain.h"
 #include "screens/FilterBottomSheetView.h"
 #include "search/WholeNumber.h"
 
@@ -78,30 +77,23 @@ void DomesticFlightListView::clearForSearch() {
 }
 
 void DomesticFlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {
-    const auto hold = shared_from_this();
     if (roundTrip) {
         using Flights = FlightSearchRoundTripProvider::SpecialRoundFlights;
-        flightSearchRoundTripProvider_.searchSpecialRoundFlights(
-            query, onMain<Flights>([this, hold](Flights flights, std::optional<Error> error) {
-                if (!takeIn(error)) return;
+        return flightSearchRoundTripProvider_.searchSpecialRoundFlights(
+            query, answered<Flights>([this](Flights flights) {
                 sortByTotalCost(flights.departureFlights);
                 flightListVM.departureFlights = flights.departureFlights;
                 flightListVM.filteredDepartureFlights = std::move(flights.departureFlights);
                 sortByTotalCost(flights.returnFlights);
                 flightListVM.returnFlights = flights.returnFlights;
                 flightListVM.filteredReturnFlights = std::move(flights.returnFlights);
-                flightListVM.isLoading = false;
             }));
-        return;
     }
-    flightSearchOneWayProvider_.searchFlights(
-        query, onMain<OneWayOffers>([this, hold](OneWayOffers offers, std::optional<Error> error) {
-            if (!takeIn(error)) return;
-            sortByTotalCost(offers);
-            flightListVM.onewayFlights = offers;
-            flightListVM.filteredOnewayFlights = std::move(offers);
-            flightListVM.isLoading = false;
-        }));
+    flightSearchOneWayProvider_.searchFlights(query, answered<OneWayOffers>([this](OneWayOffers offers) {
+                                                  sortByTotalCost(offers);
+                                                  flightListVM.onewayFlights = offers;
+                                                  flightListVM.filteredOnewayFlights = std::move(offers);
+                                              }));
 }
 
 std::shared_ptr<Screen> DomesticFlightListView::list() const {

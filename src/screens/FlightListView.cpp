@@ -1,6 +1,5 @@
 #include "screens/FlightListView.h"
 
-#include "platform/OnMain.h"
 #include "screens/FilterBottomSheetView.h"
 #include "search/WholeNumber.h"
 
@@ -40,26 +39,19 @@ OfferSelection FlightListView::selection() {
 }
 
 void FlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {
-    const auto hold = shared_from_this();
     if (roundTrip) {
-        flightSearchRoundTripProvider_.searchFlights(
-            query, onMain<RoundTripOffers>([this, hold](RoundTripOffers offers, std::optional<Error> error) {
-                if (!takeIn(error)) return;
+        return flightSearchRoundTripProvider_.searchFlights(
+            query, answered<RoundTripOffers>([this](RoundTripOffers offers) {
                 sortByTotalCost(offers);
                 flightListVM.roundtripFlights = offers;
                 flightListVM.filteredRoundtripFlights = std::move(offers);
-                flightListVM.isLoading = false;
             }));
-        return;
     }
-    flightSearchOneWayProvider_.searchFlights(
-        query, onMain<OneWayOffers>([this, hold](OneWayOffers offers, std::optional<Error> error) {
-            if (!takeIn(error)) return;
-            sortByTotalCost(offers);
-            flightListVM.onewayFlights = offers;
-            flightListVM.filteredOnewayFlights = std::move(offers);
-            flightListVM.isLoading = false;
-        }));
+    flightSearchOneWayProvider_.searchFlights(query, answered<OneWayOffers>([this](OneWayOffers offers) {
+                                                  sortByTotalCost(offers);
+                                                  flightListVM.onewayFlights = offers;
+                                                  flightListVM.filteredOnewayFlights = std::move(offers);
+                                              }));
 }
 
 std::shared_ptr<Screen> FlightListView::list() const {

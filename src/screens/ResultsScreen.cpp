@@ -5,7 +5,6 @@
 #include "search/OfferFormat.h"
 #include "services/CustomError.h"
 #include "services/ItineraryType.h"
-#include "support/Calendar.h"
 #include "support/DateFormatter.h"
 
 namespace ombrivane {
@@ -45,9 +44,9 @@ ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view model
                            model_->departDate.get(), model_->returnDate.get(), adults, children, infants);
                    }),
     departDateText(fields, "departDateText",
-                   [this] { return formatDate(model_->departDate, datePattern::calendar); }),
+                   [this] { return formatDay(model_->departDate, dayPattern::calendar); }),
     returnDateText(fields, "returnDateText",
-                   [this] { return formatDate(model_->returnDate, datePattern::calendar); }),
+                   [this] { return formatDay(model_->returnDate, dayPattern::calendar); }),
     addReturnDateText(fields, "addReturnDateText", constant("Add Return Date")),
     showsReturnDate(fields, "showsReturnDate", [this] { return model_->hasReturnDate.get(); }),
     showsFloatingBar(fields, "showsFloatingBar",
@@ -120,6 +119,7 @@ ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view model
 void ResultsScreen::appear() { search(request_.returnDate.has_value()); }
 
 void ResultsScreen::search(bool roundTrip) {
+    ++searches_;
     clearForSearch();
     model_->startSearch(roundTrip);
     FlightQuery query;
@@ -136,6 +136,7 @@ void ResultsScreen::search(bool roundTrip) {
     sendSearch(query, roundTrip);
 }
 
+/// Takes the three kinds of errors in; false when there was one.
 bool ResultsScreen::takeIn(const std::optional<Error>& error) {
     if (!error) return true;
     if (is(error, CustomError::noInternetConnection)) {
@@ -155,12 +156,12 @@ void ResultsScreen::refuse(const char* message) {
 }
 
 void ResultsScreen::stepDeparture(int days) {
-    model_->departDate = calendar::addDays(model_->departDate, days);
+    model_->departDate = model_->departDate->plusDays(days);
     search(model_->hasReturnDate);
 }
 
 void ResultsScreen::stepReturn(int days) {
-    model_->returnDate = calendar::addDays(model_->returnDate, days);
+    model_->returnDate = model_->returnDate->plusDays(days);
     search(true);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/OnMain.h"
 #include "screens/EmptyStates.h"
 #include "screens/OfferListView.h"
 #include "search/ResultsModel.h"
@@ -13,6 +14,7 @@
 #include "support/Link.h"
 #include "support/Screen.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,7 +24,7 @@ namespace ombrivane {
 /// What both result lists share: the search when the screen appears and when a date is stepped, the header,
 /// the total, the wallet's limit, the filter, the empty states and the way on to the fare rules.
 ///
-/// Two overlapping searches are not guarded against: the last answer wins.
+/// An answer to a former search of the same list is dropped: what stands under the header is what it says.
 class ResultsScreen : public Screen {
 public:
     void appear() override;
@@ -83,8 +85,15 @@ protected:
     virtual std::optional<AnyFlight> returningFlight() const { return std::nullopt; }
     virtual void proceed() = 0;
 
-    /// Takes the three kinds of errors in; false when there was one.
-    bool takeIn(const std::optional<Error>& error);
+    /// What a client completes with: `take` gets the offers of the search that was sent last.
+    template <class Offers, class Take> auto answered(Take take) {
+        return onMain<Offers>([this, hold = shared_from_this(), search = searches_, take](
+                                  Offers offers, std::optional<Error> error) {
+            if (search != searches_ || !takeIn(error)) return;
+            take(std::move(offers));
+            model_->isLoading = false;
+        });
+    }
     /// Says why the way on is closed.
     void refuse(const char* message);
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }
@@ -93,11 +102,13 @@ protected:
 
 private:
     void search(bool roundTrip);
+    bool takeIn(const std::optional<Error>& error);
     void stepDeparture(int days);
     void stepReturn(int days);
     void follow(double points);
     std::shared_ptr<Screen> content() const;
 
+    std::uint64_t searches_ = 0; ///< sent so far
     SearchRequest request_;
     std::shared_ptr<ResultsModel> model_;
     CompletionCallback completionCallback_;

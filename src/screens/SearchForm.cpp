@@ -20,8 +20,8 @@ std::function<std::string()> constant(const char* text) {
 }
 
 /// A date of the form, which is shown once its text has been chosen.
-std::string shownDate(const std::string& text, Date date) {
-    return text.empty() ? "" : formatDate(date, datePattern::form);
+std::string shownDate(const std::string& text, Day date) {
+    return text.empty() ? "" : formatDay(date, dayPattern::form);
 }
 
 } // namespace
@@ -84,9 +84,11 @@ void SearchForm::chooseNationality() {
         model_.showNationalitySheet = !model_.showNationalitySheet.get();
         return;
     }
+    if (model_.showProgressView) return; // one request answers every tap
     model_.showProgressView = true;
+    const std::weak_ptr<Screen> form = weak_from_this();
     countriesProvider_.fetchCountries(
-        onMain<std::vector<Country>>([](std::vector<Country> countries, std::optional<Error> error) {
+        onMain<std::vector<Country>>([form](std::vector<Country> countries, std::optional<Error> error) {
             auto& model = MainViewModel::shared();
             if (error) {
                 model.showProgressView = false;
@@ -95,7 +97,9 @@ void SearchForm::chooseNationality() {
             }
             model.countries = std::move(countries);
             model.showProgressView = false;
-            model.showNationalitySheet = true;
+            // The customer may have gone on meanwhile: nothing opens over another screen.
+            const auto asking = std::static_pointer_cast<SearchForm>(form.lock());
+            if (asking && asking->isInView_ && asking->takesInput()) model.showNationalitySheet = true;
         }));
 }
 

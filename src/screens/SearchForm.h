@@ -33,6 +33,9 @@ class SearchForm : public Screen {
 public:
     SearchForm(const SearchFormTraits& traits, CompletionCallback completionCallback);
 
+    void appear() override { isInView_ = true; }
+    void disappear() override { isInView_ = false; }
+
     Published<std::string> errorMessage{fields, "errorMessage", "Please select all the fields."};
     /// The calendar is pushed.
     Published<bool> datePickerIsActive{fields, "datePickerIsActive"};
@@ -66,6 +69,7 @@ private:
     SearchRequest request() const;
     std::shared_ptr<Screen> makeDatePicker();
 
+    bool isInView_ = false;
     const SearchFormTraits traits_;
     CompletionCallback completionCallback_;
     AppState& appState_;

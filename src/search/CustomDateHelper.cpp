@@ -2,23 +2,16 @@
 
 #include "support/Calendar.h"
 #include "support/DateFormatter.h"
-#include "support/Fault.h"
 
 namespace ombrivane {
 
-Date CustomDateHelper::parse(const std::string& text, const std::string& pattern) {
-    const auto date = parseDate(text, pattern);
-    if (!date) fatalFault("the date \"" + text + "\" is not of the pattern " + pattern);
-    return *date;
+std::pair<std::string, std::string> CustomDateHelper::monthWords(Day day) {
+    // "MMMM YYYY", but that ICU writes the year of a week as a Gregorian one in calendars that count from
+    // elsewhere.
+    const Day weekYear = calendar::startOfYear(calendar::weekYearOf(day));
+    return {formatDay(day, dayPattern::month), formatDay(weekYear, dayPattern::year)};
 }
 
-std::pair<std::string, std::string> CustomDateHelper::monthWords(Date date) {
-    const std::string title = formatDate(date, datePattern::month);
-    const auto blank = title.find(' ');
-    if (blank == std::string::npos) return {title, ""};
-    return {title.substr(0, blank), title.substr(blank + 1)};
-}
-
-std::vector<Date> CustomDateHelper::datesOfMonth(Date date) { return calendar::daysOfMonth(date); }
+std::vector<Day> CustomDateHelper::datesOfMonth(Day day) { return calendar::daysOfMonth(day); }
 
 } // namespace ombrivane

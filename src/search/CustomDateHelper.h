@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Date.h"
+#include "support/Day.h"
 
 #include <string>
 #include <utility>
@@ -8,17 +8,17 @@
 
 namespace ombrivane {
 
-/// The date arithmetic that the calendars share, in the device's calendar and time zone.
+/// The date arithmetic that the calendars share, in the device's calendar.
 class CustomDateHelper {
 public:
-    /// A text that is not of the pattern is a fault: the system never makes one.
-    static Date parse(const std::string& text, const std::string& pattern);
+    /// The day that `text` is, exactly "yyyy-MM-dd"; nothing for any other text.
+    static std::optional<Day> parse(const std::string& text) { return Day::parse(text); }
 
     /// Month and year of the month title, for instance {"June", "2022"}. The year is the week-based one.
-    static std::pair<std::string, std::string> monthWords(Date date);
+    static std::pair<std::string, std::string> monthWords(Day day);
 
-    /// One date for each day of the month of `date`.
-    static std::vector<Date> datesOfMonth(Date date);
+    /// One day for each day of the month of `day`.
+    static std::vector<Day> datesOfMonth(Day day);
 };
 
 } // namespace ombrivane

@@ -5,16 +5,16 @@
 namespace ombrivane {
 
 CustomOneWayDatePickerView::CustomOneWayDatePickerView(const Field<std::string>& departureField,
-                                                       const Field<Date>& departure,
+                                                       const Field<Day>& departure,
                                                        std::function<void()> function) :
     TravelCalendar("CustomOneWayDatePickerView"),
     onewayDepartureDateField(fields, "onewayDepartureDateField", departureField),
     onewayDepartureDate(fields, "onewayDepartureDate", departure),
     function_(std::move(function)) {}
 
-void CustomOneWayDatePickerView::choose(Date day) {
+void CustomOneWayDatePickerView::choose(Day day) {
     onewayDepartureDate = day;
-    onewayDepartureDateField = formatDate(day, datePattern::calendar);
+    onewayDepartureDateField = formatDay(day, dayPattern::calendar);
     function_();
 }
 
@@ -23,10 +23,10 @@ void CustomOneWayDatePickerView::fillEmptyFields() {
 }
 
 std::string CustomOneWayDatePickerView::describeChosen() const {
-    return formatDate(onewayDepartureDate, datePattern::calendar);
+    return formatDay(onewayDepartureDate, dayPattern::calendar);
 }
 
-std::pair<Date, Date> CustomOneWayDatePickerView::chosen() const {
+std::pair<Day, Day> CustomOneWayDatePickerView::chosen() const {
     return {onewayDepartureDate, onewayDepartureDate};
 }
 

@@ -10,17 +10,17 @@ namespace ombrivane {
 class CustomOneWayDatePickerView final : public TravelCalendar {
 public:
     /// @param function called on every tap on a day
-    CustomOneWayDatePickerView(const Field<std::string>& departureField, const Field<Date>& departure,
+    CustomOneWayDatePickerView(const Field<std::string>& departureField, const Field<Day>& departure,
                                std::function<void()> function);
 
     Binding<std::string> onewayDepartureDateField;
-    Binding<Date> onewayDepartureDate;
+    Binding<Day> onewayDepartureDate;
 
 protected:
-    void choose(Date day) override;
+    void choose(Day day) override;
     void fillEmptyFields() override;
     std::string describeChosen() const override;
-    std::pair<Date, Date> chosen() const override;
+    std::pair<Day, Day> chosen() const override;
 
 private:
     std::function<void()> function_;

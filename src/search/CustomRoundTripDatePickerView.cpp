@@ -6,9 +6,9 @@
 namespace ombrivane {
 
 CustomRoundTripDatePickerView::CustomRoundTripDatePickerView(const Field<std::string>& departureField,
-                                                             const Field<Date>& departure,
+                                                             const Field<Day>& departure,
                                                              const Field<std::string>& returnField,
-                                                             const Field<Date>& returning,
+                                                             const Field<Day>& returning,
                                                              std::function<void()> callback) :
     TravelCalendar("CustomRoundTripDatePickerView"),
     roundTripDepartureDateField(fields, "roundTripDepartureDateField", departureField),
@@ -17,17 +17,17 @@ CustomRoundTripDatePickerView::CustomRoundTripDatePickerView(const Field<std::st
     roundTripReturnDate(fields, "roundTripReturnDate", returning),
     callback_(std::move(callback)) {}
 
-void CustomRoundTripDatePickerView::setDeparture(Date day) {
+void CustomRoundTripDatePickerView::setDeparture(Day day) {
     roundTripDepartureDate = day;
-    roundTripDepartureDateField = formatDate(day, datePattern::calendar);
+    roundTripDepartureDateField = formatDay(day, dayPattern::calendar);
 }
 
-void CustomRoundTripDatePickerView::setReturn(Date day) {
+void CustomRoundTripDatePickerView::setReturn(Day day) {
     roundTripReturnDate = day;
-    roundTripReturnDateField = formatDate(day, datePattern::calendar);
+    roundTripReturnDateField = formatDay(day, dayPattern::calendar);
 }
 
-void CustomRoundTripDatePickerView::choose(Date day) {
+void CustomRoundTripDatePickerView::choose(Day day) {
     if (!departureDateSelected) {
         setDeparture(day);
         setReturn(defaultReturn(day));
@@ -49,11 +49,11 @@ void CustomRoundTripDatePickerView::fillEmptyFields() {
 }
 
 std::string CustomRoundTripDatePickerView::describeChosen() const {
-    return formatDate(roundTripDepartureDate, datePattern::calendar) + " - " +
-           formatDate(roundTripReturnDate, datePattern::calendar);
+    return formatDay(roundTripDepartureDate, dayPattern::calendar) + " - " +
+           formatDay(roundTripReturnDate, dayPattern::calendar);
 }
 
-std::pair<Date, Date> CustomRoundTripDatePickerView::chosen() const {
+std::pair<Day, Day> CustomRoundTripDatePickerView::chosen() const {
     return {roundTripDepartureDate, roundTripReturnDate};
 }
 

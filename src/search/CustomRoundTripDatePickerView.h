@@ -11,27 +11,27 @@ namespace ombrivane {
 class CustomRoundTripDatePickerView final : public TravelCalendar {
 public:
     /// @param callback called by Done, may be empty
-    CustomRoundTripDatePickerView(const Field<std::string>& departureField, const Field<Date>& departure,
-                                  const Field<std::string>& returnField, const Field<Date>& returning,
+    CustomRoundTripDatePickerView(const Field<std::string>& departureField, const Field<Day>& departure,
+                                  const Field<std::string>& returnField, const Field<Day>& returning,
                                   std::function<void()> callback);
 
     Binding<std::string> roundTripDepartureDateField;
-    Binding<Date> roundTripDepartureDate;
+    Binding<Day> roundTripDepartureDate;
     Binding<std::string> roundTripReturnDateField;
-    Binding<Date> roundTripReturnDate;
+    Binding<Day> roundTripReturnDate;
     Published<bool> departureDateSelected{fields, "departureDateSelected"};
     Published<bool> returnDateSelected{fields, "returnDateSelected"};
 
 protected:
-    void choose(Date day) override;
+    void choose(Day day) override;
     void fillEmptyFields() override;
     std::string describeChosen() const override;
-    std::pair<Date, Date> chosen() const override;
+    std::pair<Day, Day> chosen() const override;
     void afterDone() override;
 
 private:
-    void setDeparture(Date day);
-    void setReturn(Date day);
+    void setDeparture(Day day);
+    void setReturn(Day day);
 
     std::function<void()> callback_;
 };

@@ -5,19 +5,19 @@
 
 namespace ombrivane {
 
-std::vector<DateValue> monthGrid(Date now, int months) {
-    const auto dates = CustomDateHelper::datesOfMonth(calendar::addMonths(now, months));
-    const int fillers = calendar::weekday(dates.empty() ? now : dates.front()) - 1;
+std::vector<DateValue> monthGrid(Day today, int months) {
+    const auto days = CustomDateHelper::datesOfMonth(calendar::addMonths(today, months));
+    const int fillers = (days.empty() ? today : days.front()).weekday() - 1;
     std::vector<DateValue> grid(static_cast<std::size_t>(fillers));
     for (auto& filler : grid) {
-        filler.date = now;
+        filler.date = today;
         filler.offsetDay = true;
     }
-    int day = 0;
-    for (const Date date : dates) {
+    int count = 0;
+    for (const Day day : days) {
         DateValue& cell = grid.emplace_back();
-        cell.day = ++day;
-        cell.date = date;
+        cell.day = ++count;
+        cell.date = day;
     }
     return grid;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Date.h"
+#include "support/Day.h"
 #include "support/Keyed.h"
 #include "support/Uuid.h"
 
@@ -13,17 +13,18 @@ namespace ombrivane {
 struct DateValue {
     std::string id = Uuid::random().text();
     int day = -1;           ///< of the month; -1 for a filler before the first day
-    Date date;              ///< for a filler simply now
+    Day date;               ///< for a filler simply today
     bool offsetDay = false; ///< a filler
 };
 
-/// The grid of the month that lies `months` after the month of `now`. It starts on a Sunday.
-std::vector<DateValue> monthGrid(Date now, int months);
+/// The grid of the month that lies `months` after the month of `today`. It starts on a Sunday.
+std::vector<DateValue> monthGrid(Day today, int months);
 
 /// A cell as it is drawn.
 struct CalendarCell {
     int day = -1;
-    std::string date; ///< "yyyy-MM-dd"; empty for a filler
+    std::string date;  ///< "yyyy-MM-dd"; empty for a filler
+    std::string label; ///< the day of the month in the device's digits; empty for a filler
     bool selectable = false;
     bool selected = false;
     bool inRange = false; ///< between departure and return
@@ -35,6 +36,7 @@ template <> struct Keyed<CalendarCell> {
     static Json toJson(const CalendarCell& cell) {
         return Json{{"day", cell.day},
                     {"date", cell.date},
+                    {"label", cell.label},
                     {"selectable", cell.selectable},
                     {"selected", cell.selected},
                     {"inRange", cell.inRange}};

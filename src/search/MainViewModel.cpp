@@ -1,8 +1,8 @@
 #include "search/MainViewModel.h"
 
-#include "platform/Platform.h"
 #include "search/CabinClass.h"
 #include "search/TripDates.h"
+#include "support/Calendar.h"
 #include "support/SharedInstance.h"
 
 namespace ombrivane {
@@ -15,7 +15,7 @@ constexpr const char* homeCountry = "Nepal";
 MainViewModel& MainViewModel::shared() { return SharedInstance<MainViewModel>::get(); }
 
 MainViewModel::MainViewModel() {
-    const Date now = platform().clock->now();
+    const Day now = calendar::today();
     departureDate = now;
     returnDate = defaultReturn(now);
 }

@@ -2,7 +2,7 @@
 
 #include "records/Country.h"
 #include "records/KeyedRecords.h"
-#include "support/Date.h"
+#include "support/Day.h"
 #include "support/Field.h"
 
 #include <string>
@@ -42,9 +42,9 @@ public:
     Published<std::string> originText{fields, "originText"};
     Published<std::string> destinationText{fields, "destinationText"};
     Published<std::string> departureDateText{fields, "departureDateText"};
-    Published<Date> departureDate{fields, "departureDate"};
+    Published<Day> departureDate{fields, "departureDate"};
     Published<std::string> returnDateText{fields, "returnDateText"};
-    Published<Date> returnDate{fields, "returnDate"};
+    Published<Day> returnDate{fields, "returnDate"};
     Published<std::string> nationalityText{fields, "nationalityText"};
     Published<std::string> travellerText{fields, "travellerText", "1, All Class"};
     Published<bool> showNationalitySheet{fields, "showNationalitySheet"};

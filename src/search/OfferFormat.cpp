@@ -1,13 +1,13 @@
 #include "search/OfferFormat.h"
 
 #include "search/CabinClass.h"
-#include "search/CustomDateHelper.h"
 #include "support/DateFormatter.h"
 
 namespace ombrivane {
 
 std::string OfferFormat::formatDate(const std::string& text) {
-    return ombrivane::formatDate(CustomDateHelper::parse(text, datePattern::wire), datePattern::calendar);
+    const auto day = Day::parse(text);
+    return day ? formatDay(*day, dayPattern::calendar) : text;
 }
 
 std::string OfferFormat::cabinClassName(const std::string& code) { return cabinNameOfCode(code); }

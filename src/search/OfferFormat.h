@@ -8,7 +8,7 @@ namespace ombrivane {
 /// Formatting that both kinds of result items offer. Stateless.
 class OfferFormat {
 public:
-    /// "yyyy-MM-dd" as "E, MMM d, yyyy". Another form is a fault.
+    /// "yyyy-MM-dd" as "E, MMM d, yyyy". What is no such day is only shown here, so it stays as it was sent.
     static std::string formatDate(const std::string& text);
     /// The name of a cabin class code; empty for an unknown one.
     static std::string cabinClassName(const std::string& code);

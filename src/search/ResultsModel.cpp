@@ -1,8 +1,8 @@
 #include "search/ResultsModel.h"
 
-#include "platform/Platform.h"
 #include "services/FlightQuery.h"
 #include "services/ItineraryType.h"
+#include "support/Calendar.h"
 #include "support/DateFormatter.h"
 
 #include <algorithm>
@@ -38,15 +38,15 @@ std::string counted(const std::string& before, const std::string& count, const c
 } // namespace
 
 ResultsModel::ResultsModel() {
-    departDate = platform().clock->now();
-    returnDate = platform().clock->now();
+    departDate = calendar::today();
+    returnDate = calendar::today();
 }
 
-std::string ResultsModel::formatHeaderSubtitle(std::optional<Date> departure, std::optional<Date> returning,
+std::string ResultsModel::formatHeaderSubtitle(std::optional<Day> departure, std::optional<Day> returning,
                                                const std::string& adults, const std::string& children,
                                                const std::string& infants) const {
-    std::string line = departure ? formatDate(*departure, datePattern::calendar) : "";
-    if (hasReturnDate && returning) line += " - " + formatDate(*returning, datePattern::calendar);
+    std::string line = departure ? formatDay(*departure, dayPattern::calendar) : "";
+    if (hasReturnDate && returning) line += " - " + formatDay(*returning, dayPattern::calendar);
     return line + " | " + counted("", adults, "A", "the adult count") +
            counted(", ", children, "C", "the child count") + counted(", ", infants, "I", "the infant count");
 }

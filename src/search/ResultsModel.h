@@ -1,7 +1,7 @@
 #pragma once
 
 #include "records/KeyedRecords.h"
-#include "support/Date.h"
+#include "support/Day.h"
 #include "support/Field.h"
 
 #include <optional>
@@ -16,7 +16,7 @@ public:
 
     /// The line under the route: dates and travellers, as `Thu, Jun 23, 2022 - Sat, Jun 25, 2022 | 2A, 1C`.
     /// The return date counts only in round-trip mode. A count that is no number is a fault.
-    std::string formatHeaderSubtitle(std::optional<Date> departure, std::optional<Date> returning,
+    std::string formatHeaderSubtitle(std::optional<Day> departure, std::optional<Day> returning,
                                      const std::string& adults, const std::string& children,
                                      const std::string& infants) const;
 
@@ -36,8 +36,8 @@ public:
     Published<bool> showContinueButton{fields, "showContinueButton"};
     Published<bool> noInternetConnection{fields, "noInternetConnection"};
     Published<bool> flightsListIsEmpty{fields, "flightsListIsEmpty"};
-    Published<Date> departDate{fields, "departDate"};
-    Published<Date> returnDate{fields, "returnDate"};
+    Published<Day> departDate{fields, "departDate"};
+    Published<Day> returnDate{fields, "returnDate"};
     Published<std::string> returnDateText{fields, "returnDateText"};
     Published<OneWayOffers> onewayFlights{fields, "onewayFlights"};
     Published<OneWayOffers> filteredOnewayFlights{fields, "filteredOnewayFlights"};

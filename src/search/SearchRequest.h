@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Date.h"
+#include "support/Day.h"
 
 #include <optional>
 #include <string>
@@ -14,8 +14,8 @@ struct SearchRequest {
     std::string departCity;
     std::string destCityCode;
     std::string destCity;
-    Date departDate;
-    std::optional<Date> returnDate; ///< of a round trip
+    Day departDate;
+    std::optional<Day> returnDate; ///< of a round trip
     std::string nationality;
     std::string adults;
     std::string children;

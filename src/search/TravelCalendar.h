@@ -29,12 +29,12 @@ public:
 
     private:
         std::vector<DateValue> grid_;
-        std::vector<std::string> days_;
+        std::vector<std::string> labels_;
     };
 
     void appear() override;
 
-    Published<Date> currentDate{fields, "currentDate"};
+    Published<Day> currentDate{fields, "currentDate"};
     Published<int> currentMonth{fields, "currentMonth", 0};
     Published<int> scrollToIndex{fields, "scrollToIndex", 1};
     Derived<std::string> title{fields, "title", [] { return std::string("Select Travel Date"); }};
@@ -56,11 +56,11 @@ public:
 protected:
     explicit TravelCalendar(std::string_view name);
 
-    virtual void choose(Date day) = 0;
+    virtual void choose(Day day) = 0;
     virtual void fillEmptyFields() = 0;
     virtual std::string describeChosen() const = 0;
     /// The first and the last chosen day; the same one twice where there is one only.
-    virtual std::pair<Date, Date> chosen() const = 0;
+    virtual std::pair<Day, Day> chosen() const = 0;
     virtual void afterDone() {}
 
 private:

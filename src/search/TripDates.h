@@ -1,10 +1,13 @@
 #pragma once
 
-#include "support/Date.h"
+#include "support/Day.h"
 
 namespace ombrivane {
 
 /// The return that goes with a departure until the customer chooses another: three days later.
-Date defaultReturn(Date departure);
+inline Day defaultReturn(Day departure) {
+    constexpr int days = 3;
+    return departure.plusDays(days);
+}
 
 } // namespace ombrivane

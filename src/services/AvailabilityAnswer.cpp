@@ -1,11 +1,20 @@
 #include "services/AvailabilityAnswer.h"
 
 #include "records/DecodeError.h"
+#include "support/Day.h"
 
 namespace ombrivane {
 namespace {
 
 constexpr std::int64_t mostOfOneType = 1000;
+
+void checkDay(const std::string& text, const char* key) {
+    if (Day::parse(text)) return;
+    DecodeError error(notUnderstood, "is no day");
+    error.within(key);
+    error.within("data.flightsSummary");
+    throw error;
+}
 
 } // namespace
 
@@ -16,6 +25,13 @@ void checkTravellers(const AvailabilitySummary& summary) {
         error.within("data.availabilitySummary");
         throw error;
     }
+}
+
+void checkTravelDays(const FlightsSummary& flights) { checkDay(flights.deptDate, "dept_date"); }
+
+void checkTravelDays(const RTFlightsSummary& flights) {
+    checkDay(flights.deptDate, "dept_date");
+    checkDay(flights.returnDeptDate, "return_dept_date");
 }
 
 } // namespace ombrivane

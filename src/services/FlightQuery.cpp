@@ -4,7 +4,6 @@
 #include "services/Body.h"
 #include "services/Endpoints.h"
 #include "state/AppState.h"
-#include "support/DateFormatter.h"
 #include "support/Fault.h"
 
 #include <charconv>
@@ -18,8 +17,8 @@ Body bodyOf(const FlightQuery& query) {
         .add("trip_type", query.tripType)
         .add("depart_city", query.departCity)
         .add("dest_city", query.destCity)
-        .add("depart_date", formatDate(query.departDate, datePattern::wire));
-    if (query.returnDate) body.add("return_date", formatDate(*query.returnDate, datePattern::wire));
+        .add("depart_date", query.departDate.text());
+    if (query.returnDate) body.add("return_date", query.returnDate->text());
     body.add("nationality", query.nationality)
         .add("adults", countFrom(query.adults, "the adult count"))
         .add("children", countFrom(query.children, "the child count"))

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "services/Frame.h"
-#include "support/Date.h"
+#include "support/Day.h"
 
 #include <optional>
 #include <string>
@@ -13,8 +13,8 @@ struct FlightQuery {
     std::string tripType;   ///< "oneway" or "round"
     std::string departCity; ///< IATA code
     std::string destCity;   ///< IATA code
-    Date departDate;
-    std::optional<Date> returnDate; ///< of round searches
+    Day departDate;
+    std::optional<Day> returnDate; ///< of round searches
     std::string nationality;
     std::string adults;
     std::string children;

@@ -1,5 +1,6 @@
 #include "support/Calendar.h"
 
+#include "platform/Platform.h"
 #include "support/Fault.h"
 #include "support/IcuCalendar.h"
 
@@ -10,70 +11,88 @@ void check(UErrorCode status) {
     if (U_FAILURE(status)) fatalFault(std::string("the calendar fails: ") + u_errorName(status));
 }
 
-void toMidnight(icu::Calendar& calendar) {
-    // Where clocks go back over midnight, the day begins with the first of the two.
-    calendar.setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
-    for (const auto field : {UCAL_HOUR_OF_DAY, UCAL_MINUTE, UCAL_SECOND, UCAL_MILLISECOND})
-        calendar.set(field, 0);
-}
-
-Date add(Date date, UCalendarDateFields field, int amount) {
+int read(Day day, UCalendarDateFields field) {
     UErrorCode status = U_ZERO_ERROR;
-    const auto calendar = calendarAt(date);
-    calendar->add(field, amount, status);
-    const UDate time = calendar->getTime(status);
-    check(status);
-    return dateOf(time);
-}
-
-int read(Date date, UCalendarDateFields field) {
-    UErrorCode status = U_ZERO_ERROR;
-    const int value = calendarAt(date)->get(field, status);
+    const int value = calendarAt(day)->get(field, status);
     check(status);
     return value;
 }
 
+Day dayAt(const icu::Calendar& calendar) {
+    UErrorCode status = U_ZERO_ERROR;
+    const UDate time = calendar.getTime(status);
+    check(status);
+    return Day(std::chrono::floor<std::chrono::days>(dateOf(time)));
+}
+
+int daysInMonth(Day day) {
+    UErrorCode status = U_ZERO_ERROR;
+    const int length = calendarAt(day)->getActualMaximum(UCAL_DATE, status);
+    check(status);
+    return length;
+}
+
 } // namespace
 
-Date addDays(Date date, int days) { return add(date, UCAL_DATE, days); }
-
-Date addMonths(Date date, int months) { return add(date, UCAL_MONTH, months); }
-
-Date addYears(Date date, int years) { return add(date, UCAL_YEAR, years); }
-
-Date startOfDay(Date date) {
+Day dayOf(Date date) {
+    std::int32_t raw = 0;
+    std::int32_t saving = 0;
     UErrorCode status = U_ZERO_ERROR;
-    const auto calendar = calendarAt(date);
-    toMidnight(*calendar);
-    const UDate time = calendar->getTime(status);
+    deviceTimeZone()->getOffset(icuTime(date), false, raw, saving, status);
     check(status);
-    return dateOf(time);
+    return Day(std::chrono::floor<std::chrono::days>(date + std::chrono::milliseconds(raw + saving)));
 }
 
-int weekday(Date date) { return read(date, UCAL_DAY_OF_WEEK); }
+Day today() { return dayOf(platform().clock->now()); }
 
-int dayOfMonth(Date date) { return read(date, UCAL_DATE); }
-
-int monthsBetween(Date from, Date to) {
-    constexpr int monthsOfYear = 12;
-    return (read(to, UCAL_EXTENDED_YEAR) - read(from, UCAL_EXTENDED_YEAR)) * monthsOfYear +
-           read(to, UCAL_MONTH) - read(from, UCAL_MONTH);
+Day addMonths(Day day, int months) {
+    UErrorCode status = U_ZERO_ERROR;
+    const auto calendar = calendarAt(day);
+    calendar->add(UCAL_MONTH, months, status);
+    check(status);
+    return dayAt(*calendar);
 }
 
-std::vector<Date> daysOfMonth(Date date) {
-    UErrorCode status = U_ZERO_ERROR;
-    const auto calendar = calendarAt(date);
-    const int length = calendar->getActualMaximum(UCAL_DATE, status);
-    calendar->set(UCAL_DATE, 1);
-    toMidnight(*calendar);
-    const Date first = dateOf(calendar->getTime(status));
-    check(status);
+int monthsBetween(Day from, Day to) {
+    // Months are counted through: a year has not the same number of them in every calendar.
+    int months = 0;
+    const Day target = daysOfMonth(to).front();
+    for (Day month = daysOfMonth(from).front(); month < target; month = addMonths(month, 1))
+        ++months;
+    for (Day month = daysOfMonth(from).front(); month > target; month = addMonths(month, -1))
+        --months;
+    return months;
+}
 
-    std::vector<Date> days;
+std::vector<Day> daysOfMonth(Day day) {
+    const Day first = day.plusDays(1 - read(day, UCAL_DATE));
+    std::vector<Day> days;
+    const int length = daysInMonth(first);
     days.reserve(static_cast<std::size_t>(length));
-    for (int day = 0; day < length; ++day)
-        days.push_back(addDays(first, day));
+    for (int each = 0; each < length; ++each)
+        days.push_back(first.plusDays(each));
     return days;
+}
+
+std::vector<Day> monthsOfYear(Day day) {
+    const int year = yearOf(day);
+    std::vector<Day> months;
+    for (Day month = startOfYear(year); yearOf(month) == year; month = month.plusDays(daysInMonth(month)))
+        months.push_back(month);
+    return months;
+}
+
+int yearOf(Day day) { return read(day, UCAL_EXTENDED_YEAR); }
+
+int weekYearOf(Day day) { return read(day, UCAL_YEAR_WOY); }
+
+Day startOfYear(int year) {
+    const auto calendar = calendarAt(Day());
+    calendar->clear();
+    calendar->set(UCAL_EXTENDED_YEAR, year);
+    calendar->set(UCAL_MONTH, 0);
+    calendar->set(UCAL_DATE, 1);
+    return dayAt(*calendar);
 }
 
 } // namespace ombrivane::calendar

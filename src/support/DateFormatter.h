@@ -1,26 +1,24 @@
 #pragma once
 
-#include "support/Date.h"
+#include "support/Day.h"
 
-#include <optional>
+#include <cstdint>
 #include <string>
 
 namespace ombrivane {
 
-/// The date patterns of the system, in the syntax of ICU. There are no others.
-namespace datePattern {
+/// The patterns in which days are shown, in the syntax of ICU.
+namespace dayPattern {
 inline constexpr const char* calendar = "E, MMM d, yyyy"; ///< what a calendar writes, and dates of results
 inline constexpr const char* form = "MMM d, yyyy";        ///< on the search forms and in date fields
-inline constexpr const char* wire = "yyyy-MM-dd";         ///< sent to the service
-inline constexpr const char* month = "MMMM YYYY";         ///< month title; the year is the week-based one
-} // namespace datePattern
+inline constexpr const char* month = "MMMM";              ///< title of a calendar's month
+inline constexpr const char* year = "yyyy";               ///< behind it, and on the wheels of a date field
+inline constexpr const char* shortMonth = "LLL";          ///< on the wheels
+inline constexpr const char* dayOfMonth = "d";            ///< there, and on the cells of a calendar
+} // namespace dayPattern
 
-/// Formats in the device's locale and time zone. Any thread.
-std::string formatDate(Date date, const std::string& pattern);
-
-/// Reads `text` in the locale "en_US_POSIX" and the device's time zone. Nothing when it is not of the
-/// pattern.
-std::optional<Date> parseDate(const std::string& text, const std::string& pattern);
+/// A day as the customer reads it: in the device's language, calendar and digits. Any thread.
+std::string formatDay(Day day, const std::string& pattern);
 
 /// A whole number in the device's decimal style, with grouping: "88,222".
 std::string formatNumber(std::int64_t number);

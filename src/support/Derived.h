@@ -10,9 +10,9 @@
 
 namespace ombrivane {
 
-/// A text, a flag or a list computed from fields: what a screen shows. It is computed at every read, so
-/// nobody ever sees half an update; while it is observed it follows whatever its computation read last and
-/// tells when its value differs from the one told before.
+/// A text, a flag or a list computed from fields: what a screen shows. It is computed at every read; while it
+/// is observed it follows whatever its computation read last, and when the turn that changed some of it ends,
+/// it is computed once and tells when its value differs from the one told before.
 template <class T> class Derived final : public Member {
 public:
     /// A value under `key`; `compute` reads fields and other derived values and writes nothing.
@@ -35,10 +35,9 @@ private:
 
         void follow() {
             const std::weak_ptr<Observable> weak = weak_from_this();
-            sources = track([this] { told = compute(); },
-                            [weak] {
+            sources = track([this] { told = compute(); }, settled([weak] {
                                 if (const auto core = weak.lock()) static_cast<Core&>(*core).sourceChanged();
-                            });
+                            }));
         }
 
         void sourceChanged() {

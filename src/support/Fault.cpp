@@ -1,5 +1,7 @@
 #include "support/Fault.h"
 
+#include "support/Turn.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
@@ -46,6 +48,7 @@ void fatalFault(const std::string& what, const char* file, int line) {
 
 bool guarded(const std::function<void()>& step) {
     try {
+        const Turn turn;
         step();
         return true;
     } catch (const Fault&) {

@@ -33,8 +33,8 @@ OMBRIVANE_API FaultHandler setFaultHandler(FaultHandler handler);
 [[noreturn]] OMBRIVANE_API void fatalFault(const std::string& what, const char* file = __builtin_FILE(),
                                            int line = __builtin_LINE());
 
-/// Runs one step of the component (a queued step, a tap, a completion) and keeps a `Fault` that was already
-/// reported from passing into code of the host or of a library.
+/// Runs one step of the component (a queued step, a tap, a completion) as a `Turn` and keeps a `Fault` that
+/// was already reported from passing into code of the host or of a library.
 /// @return false when the step was left by a fault.
 OMBRIVANE_API bool guarded(const std::function<void()>& step);
 

@@ -14,12 +14,12 @@ std::unique_ptr<icu::TimeZone> deviceTimeZone() {
     return std::unique_ptr<icu::TimeZone>(icu::TimeZone::createTimeZone(zone));
 }
 
-std::unique_ptr<icu::Calendar> calendarAt(Date date) {
+std::unique_ptr<icu::Calendar> calendarAt(Day day) {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::Calendar> calendar(
-        icu::Calendar::createInstance(deviceTimeZone().release(), deviceLocale(), status));
+        icu::Calendar::createInstance(*icu::TimeZone::getGMT(), deviceLocale(), status));
     if (U_FAILURE(status) || !calendar) fatalFault("the device's calendar cannot be made");
-    calendar->setTime(icuTime(date), status);
+    calendar->setTime(icuTime(day.days()), status);
     return calendar;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Date.h"
+#include "support/Day.h"
 
 #include <unicode/calendar.h>
 #include <unicode/locid.h>
@@ -14,8 +15,8 @@ namespace ombrivane {
 icu::Locale deviceLocale();
 std::unique_ptr<icu::TimeZone> deviceTimeZone();
 
-/// The device's own calendar, set to `date`.
-std::unique_ptr<icu::Calendar> calendarAt(Date date);
+/// The device's own calendar, set to midnight of `day`. A day has no time zone, so the calendar's is UTC.
+std::unique_ptr<icu::Calendar> calendarAt(Day day);
 
 UDate icuTime(Date date);
 Date dateOf(UDate time);

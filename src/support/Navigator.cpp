@@ -82,10 +82,10 @@ std::shared_ptr<Screen> Navigator::find(std::string_view name) const {
 /// the flag of a shallow one.
 void Navigator::follow() {
     const std::weak_ptr<Navigator*> self = self_;
-    const auto changed = [self] {
+    const auto changed = settled([self] {
         const auto navigator = self.lock();
         if (navigator && *navigator != nullptr) (*navigator)->synchronise();
-    };
+    });
     followed_ = Observable::track(
         [this] {
             for (const auto& entry : stack_) {

@@ -12,7 +12,8 @@
 namespace ombrivane {
 
 /// Keeps the stack of screens in step with the flags of their links: a flag that turns true makes the
-/// destination and shows it, one that turns false takes it away with everything above it. Main thread only.
+/// destination and shows it, one that turns false takes it away with everything above it. What several
+/// assignments of one turn say together is done when the turn ends. Main thread only.
 class OMBRIVANE_API Navigator {
 public:
     /// One screen of the stack.

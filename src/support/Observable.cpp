@@ -1,7 +1,10 @@
 #include "support/Observable.h"
 
+#include "support/Turn.h"
+
 #include <algorithm>
 #include <deque>
+#include <utility>
 
 namespace ombrivane {
 namespace {
@@ -31,6 +34,23 @@ private:
 
 } // namespace
 
+Observer settled(Observer told) {
+    struct Waiting {
+        Observer told;
+        bool isWaiting = false;
+    };
+    auto waiting = std::make_shared<Waiting>(Waiting{std::move(told)});
+    return [waiting = std::move(waiting)] {
+        if (std::exchange(waiting->isWaiting, true)) return;
+        Turn::atEnd([weak = std::weak_ptr<Waiting>(waiting)] {
+            const auto still = weak.lock();
+            if (!still) return;
+            still->isWaiting = false;
+            still->told();
+        });
+    };
+}
+
 Subscription Observable::observe(Observer observer) {
     auto slot = std::make_shared<Slot>(Slot{std::move(observer)});
     std::erase_if(slots_, [](const auto& weak) { return weak.expired(); });
@@ -43,9 +63,10 @@ bool Observable::isObserved() const {
 }
 
 void Observable::notify() {
+    const Turn turn; // an assignment outside of any step is a step of its own
     pending.push_back(weak_from_this());
     if (delivering) return;
-    const Restored<bool> turn(delivering, true);
+    const Restored<bool> deliveringNow(delivering, true);
     while (!pending.empty()) {
         const auto next = pending.front().lock();
         pending.pop_front();

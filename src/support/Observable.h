@@ -27,11 +27,15 @@ private:
     std::shared_ptr<void> slot_;
 };
 
+/// An observer for whoever computes from what changed or shows it: `told` is called once, when the turn of
+/// the change ends, unless the observation has ended by then.
+OMBRIVANE_API Observer settled(Observer told);
+
 /// Something that can change and tells. Main thread only.
 ///
-/// Observers are told one change at a time: an assignment made while observers are being told is stored at
-/// once and told after the current one. An observer that is added while notifying hears the next change; one
-/// that is removed hears nothing more.
+/// Observers are told of each assignment as it happens, one change at a time: an assignment made while
+/// observers are being told is stored at once and told after the current one. An observer that is added while
+/// notifying hears the next change; one that is removed hears nothing more.
 class OMBRIVANE_API Observable : public std::enable_shared_from_this<Observable> {
 public:
     Observable() = default;

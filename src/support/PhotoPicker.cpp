@@ -1,6 +1,7 @@
 #include "support/PhotoPicker.h"
 
 #include "platform/Platform.h"
+#include "support/Fault.h"
 
 #include <memory>
 
@@ -12,7 +13,7 @@ PhotoPicker::PhotoPicker(const Field<std::optional<Image>>& source) :
 void PhotoPicker::appear() {
     platform().photos->present([weak = weak_from_this()](const PhotoLibrary::Picked& picked) {
         const auto screen = weak.lock();
-        if (screen) static_cast<PhotoPicker&>(*screen).didFinishPicking(picked);
+        if (screen) guarded([&] { static_cast<PhotoPicker&>(*screen).didFinishPicking(picked); });
     });
 }
 

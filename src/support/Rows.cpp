@@ -49,14 +49,13 @@ Subscription Rows::observe(Observer observer) {
 
 void Rows::Core::follow() {
     const std::weak_ptr<Observable> weak = weak_from_this();
-    sources = track([this] { count(); },
-                    [weak] {
+    sources = track([this] { count(); }, settled([weak] {
                         const auto hold = weak.lock();
                         if (!hold) return;
                         auto& core = static_cast<Core&>(*hold);
                         core.follow();
                         core.notify();
-                    });
+                    }));
 }
 
 } // namespace ombrivane

@@ -53,7 +53,7 @@ public:
 
     /// The number of rows.
     Json read() const override { return size(); }
-    /// Tells whenever something that the number of rows was counted from is assigned.
+    /// Tells at the end of a turn in which something that the number of rows was counted from was assigned.
     Subscription observe(Observer observer) override;
 
 private:

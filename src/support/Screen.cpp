@@ -16,7 +16,7 @@ bool Screen::takesInput() const {
     if (covered_) return false;
     if (!hosted_) return true;
     const auto host = host_.lock();
-    return host && host->takesInput();
+    return host && host->takesInput() && host->lendsInput();
 }
 
 } // namespace ombrivane

@@ -39,13 +39,15 @@ public:
 
     /// Whether a tap reaches this screen: nothing lies over it and it is part of what is shown.
     bool takesInput() const;
+    /// Whether a tap reaches what is shown inside of this screen; not while progress or an end lies over it.
+    virtual bool lendsInput() const { return true; }
 
     /// What it can show over itself, in the order of declaration.
     const std::vector<Link*>& links() const { return links_; }
     /// What it shows inside of itself, in the order of declaration.
     const std::vector<Part*>& parts() const { return parts_; }
 
-    /// For what is shown inside of another screen: a tap reaches it while one reaches `host`.
+    /// For what is shown inside of another screen: a tap reaches it while `host` takes input and lends it.
     void setHost(const std::weak_ptr<Screen>& host) {
         host_ = host;
         hosted_ = true;

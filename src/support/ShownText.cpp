@@ -2,6 +2,8 @@
 
 #include "support/Utf8.h"
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 
 namespace ombrivane {
@@ -9,6 +11,8 @@ namespace {
 
 /// A layout engine looks for a place to break through the whole of a word, at every width anew.
 constexpr std::size_t longestWord = 500;
+/// A script stacks four marks on a letter at most; thousands of them keep a layout engine busy for frames.
+constexpr std::size_t mostMarks = 8;
 constexpr char32_t breakingPlace = 0x200B;
 constexpr std::string_view ellipsis = "\u2026";
 
@@ -30,6 +34,8 @@ bool isHidden(char32_t c) {
     return isControl || turnsDirection;
 }
 
+bool isMark(char32_t c) { return (U_GET_GC_MASK(static_cast<UChar32>(c)) & U_GC_M_MASK) != 0; }
+
 } // namespace
 
 std::string shownText(std::string_view text, std::size_t maximumBytes) {
@@ -37,11 +43,14 @@ std::string shownText(std::string_view text, std::size_t maximumBytes) {
 
     std::string shown;
     std::size_t word = 0;
+    std::size_t marks = 0;
     std::size_t fitting = 0;
     for (std::size_t index = 0; index < text.size();) {
         char32_t c = nextCodePoint(text, index);
         if (endsLine(c) || c == '\t') c = ' ';
         if (isHidden(c)) continue;
+        marks = isMark(c) ? marks + 1 : 0;
+        if (marks > mostMarks) continue;
         if (word == longestWord && c != ' ' && c != breakingPlace) {
             appendCodePoint(shown, breakingPlace);
             word = 0;

@@ -167,7 +167,7 @@ TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
     wallet.tap("tapBox");
     wallet.tap("save");
     refuses(passengers);
-    wallet.fillTraveller(1);
+    wallet.fillTraveller(0);
     EXPECT_EQ(wallet.get("passengersList").size(), 2U);
     world.pass(3s);
     EXPECT_EQ(message(), "") << "hides by itself";
@@ -176,12 +176,21 @@ TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
     EXPECT_EQ(wallet.sentTo("reservation"), 1U);
 }
 
-TEST_P(SessionTest, ABookingWithoutPassengersIsAFault) {
-    wallet.adults = 0;
-    wallet.toReady();
+TEST_P(SessionTest, OneAvailabilityIsUnderWayAndTheFormsWaitForItsSlots) {
+    wallet.toGate();
+    wallet.answer();
     wallet.tap("continue");
-    EXPECT_EQ(world.takeFaults().size(), 1U);
-    EXPECT_EQ(wallet.sentTo("reservation"), 0U);
+    wallet.tap("contact.contactLine.tap");
+    EXPECT_EQ(wallet.top(), session) << "nobody could be given the identity of a slot";
+    // A host's script opens the form all the same, and leaves it again.
+    wallet.set("contact.contactFormIsActive", true);
+    wallet.tap("close");
+    EXPECT_EQ(wallet.top(), session);
+    EXPECT_EQ(wallet.sentTo("availability"), 1U);
+    wallet.answer();
+    wallet.fillContact();
+    EXPECT_EQ(wallet.sentTo("availability"), 1U);
+    EXPECT_EQ(world.network->outstanding(), 0U);
 }
 
 TEST_P(SessionTest, AFailedAvailabilityLeavesAfterThreeSecondsUnlessTheCustomerWasFaster) {
@@ -290,7 +299,18 @@ TEST_P(SessionTest, WhileItReservesNothingElseCanBeTapped) {
         wallet.tap(session + "." + control);
     }
     EXPECT_EQ(wallet.sentTo("reservation"), 1U) << "two quick taps reserve once";
-    EXPECT_EQ(wallet.top(), session);
+    const auto expectNothingTaken = [&] {
+        for (const char* line : {"contact.contactLine.tap", "contact.rows[0].tap", "viewDetails"}) {
+            EXPECT_FALSE(wallet.enabled(line)) << line;
+            wallet.tap(line);
+        }
+        EXPECT_EQ(wallet.top(), session)
+            << "a traveller who changes now would not be the one who was reserved";
+    };
+    expectNothingTaken();
+    world.pass(601s);
+    ASSERT_EQ(phase(), "expired");
+    expectNothingTaken();
 }
 
 TEST_P(SessionTest, WhatIsHiddenOrCoveredDoesNothing) {

@@ -43,14 +43,22 @@ void Wallet::show() {
         });
     view_->onClose([this, number] {
         hear("close", number == shows_);
-        if (number == shows_) view_.reset();
+        if (number == shows_) letGo();
     });
-    event([this] { view_->show(); });
+    event([this] {
+        view_->show();
+        if (view_) page_.follow(view_->navigator());
+    });
+}
+
+void Wallet::letGo() {
+    page_.follow(nullptr);
+    view_.reset();
 }
 
 void Wallet::drop() {
     if (!view_) return;
-    view_.reset();
+    letGo();
     heard.emplace_back("dropped");
 }
 

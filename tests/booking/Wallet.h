@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Onlooker.h"
 #include "fakes/TestData.h"
 #include "fakes/World.h"
 #include "search/Offers.h"
@@ -44,7 +45,8 @@ inline std::string tripName(const testing::TestParamInfo<std::tuple<Trip, bool>>
 }
 
 /// A wallet that shows the component: works it by the keys of its screens, answers for the service, and keeps
-/// what it hears. As wallets do, it drops its view when it is asked to close it.
+/// what it hears. All that the screens show is looked at, as pages do. As wallets do, it drops its view when
+/// it is asked to close it.
 class Wallet {
 public:
     explicit Wallet(fakes::World& world, const Trip& trip = oneWayTrip, bool documents = false);
@@ -116,6 +118,7 @@ public:
     std::size_t reserved = 0;
 
 private:
+    void letGo();
     void answerWith(const std::string& text, bool books, std::size_t index);
     void event(const std::function<void()>& run);
     void check() const;
@@ -124,6 +127,7 @@ private:
     fakes::World& world;
     Trip trip_;
     std::unique_ptr<OmbrivaneView> view_;
+    journey::Onlooker page_;
     std::size_t shows_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Offers.h"
+#include "Onlooker.h"
 #include "fakes/World.h"
 #include "screens/FilterBottomSheetView.h"
 #include "screens/ResultsScreen.h"
@@ -14,11 +15,12 @@
 
 namespace ombrivane {
 
-/// A result list on screen, its first search under way.
+/// A result list on screen, its first search under way, with a page that looks at it.
 template <class List> class ResultsFixture : public testing::Test {
 protected:
     /// A fresh screen; what the one before still waits for fails.
     void open(bool roundTrip = false) {
+        page.follow(nullptr);
         navigator.reset();
         while (world.network->outstanding() > 0)
             world.network->fail({"Fake", 1, "Closed."});
@@ -29,8 +31,8 @@ protected:
         request.departCity = "Kathmandu";
         request.destCityCode = "DOH";
         request.destCity = "Doha";
-        request.departDate = *parseIso("2026-12-01T12:00:00Z");
-        if (roundTrip) request.returnDate = *parseIso("2026-12-09T12:00:00Z");
+        request.departDate = Day::parse("2026-12-01").value();
+        if (roundTrip) request.returnDate = Day::parse("2026-12-09").value();
         request.nationality = "NP";
         request.adults = "2";
         request.children = "1";
@@ -40,6 +42,7 @@ protected:
                                         [](const std::optional<Dictionary>&, const std::optional<Error>&) {});
         navigator = std::make_unique<Navigator>(screen);
         navigator->start();
+        page.follow(navigator.get());
     }
 
     auto& model() { return screen->flightListVM; }
@@ -69,6 +72,7 @@ protected:
     AppState& appState = AppState::shared();
     std::shared_ptr<List> screen;
     std::unique_ptr<Navigator> navigator;
+    journey::Onlooker page;
 };
 
 } // namespace ombrivane

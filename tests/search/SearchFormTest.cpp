@@ -35,8 +35,8 @@ protected:
         model.destCityCode = "DOH";
         model.destCountry = destCountry;
         model.departureDateText = "Tue, Dec 1, 2026";
-        model.departureDate = *parseIso("2026-12-01T12:00:00Z");
-        model.returnDate = *parseIso("2026-12-09T12:00:00Z");
+        model.departureDate = Day::parse("2026-12-01").value();
+        model.returnDate = Day::parse("2026-12-09").value();
         model.nationality = "NP";
         model.cabinClass = "Business";
     }
@@ -170,7 +170,7 @@ TEST_F(SearchFormTest, ADayTappedForOneWayMovesTheReturnToo) {
     form(TabBarItem::oneWay).tapDate();
     ASSERT_EQ(top(), "CustomOneWayDatePickerView");
     navigator.top()->fields.find("tapDay")->trigger({"2026-12-30"});
-    EXPECT_EQ(isoText(model.returnDate), "2027-01-02T00:00:00Z");
+    EXPECT_EQ(model.returnDate->text(), "2027-01-02");
     EXPECT_TRUE(model.isMissingReturnDate());
     navigator.top()->fields.find("done")->trigger({});
     EXPECT_EQ(top(), "MainView");
@@ -275,6 +275,20 @@ TEST_F(NationalityTest, CountriesAreFetchedOnceAndKept) {
     form(TabBarItem::roundTrip).tapNationality();
     EXPECT_NE(sheet(), nullptr);
     EXPECT_EQ(world.network->sent().size(), 1U);
+}
+
+TEST_F(NationalityTest, TheSheetOpensOnceAndOverNothingElse) {
+    SearchForm& one = form(TabBarItem::oneWay);
+    one.tapNationality();
+    one.tapNationality();
+    EXPECT_EQ(world.network->sent().size(), 1U) << "a second tap while countries load";
+    one.tapDate();
+    world.answer(countries());
+    EXPECT_EQ(top(), "CustomOneWayDatePickerView") << "the customer has gone on";
+    navigator.back();
+    EXPECT_EQ(top(), "MainView");
+    one.tapNationality();
+    EXPECT_NE(sheet(), nullptr) << "the countries are there";
 }
 
 TEST_F(NationalityTest, AFailureIsOnlyADiagnosticLineAndTheNextTapAsksAgain) {

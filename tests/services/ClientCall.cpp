@@ -40,8 +40,8 @@ FlightQuery query(const std::string& tripType) {
     query.tripType = tripType;
     query.departCity = "KTM";
     query.destCity = "DOH";
-    query.departDate = *parseIso("2026-04-09T20:00:00Z"); // already the tenth where the customer is
-    if (tripType == "round") query.returnDate = *parseIso("2026-04-20T17:00:00Z");
+    query.departDate = Day::parse("2026-04-10").value();
+    if (tripType == "round") query.returnDate = Day::parse("2026-04-20").value();
     query.nationality = "NP";
     query.adults = "2";
     query.children = "1";

@@ -11,6 +11,7 @@ namespace {
 using namespace std::chrono_literals;
 
 Date at(const char* text) { return parseIso(text).value(); }
+Day day(const char* text) { return Day::parse(text).value(); }
 
 /// A device somewhere.
 class CalendarTest : public testing::Test {
@@ -19,8 +20,6 @@ protected:
         world.localization->zone = zone;
         world.localization->localeName = locale;
     }
-    static std::string wire(Date date) { return formatDate(date, datePattern::wire); }
-
     fakes::World world;
 };
 
@@ -54,65 +53,80 @@ TEST(Date, ReadsItsOwnFormsWithOffsetsAndNoOthers) {
     EXPECT_EQ(isoText(at("1970-01-01") - 1ms), "1969-12-31T23:59:59Z");
 }
 
-TEST_F(CalendarTest, HalfPastMidnightInKathmanduIsADayAheadOfUtc) {
-    device("Asia/Kathmandu");
-    const Date date = at("2026-11-21T00:30:00+05:45");
-    EXPECT_EQ(wire(date), "2026-11-21");
-    EXPECT_EQ(calendar::startOfDay(date), at("2026-11-21T00:00:00+05:45"));
-    EXPECT_EQ(calendar::weekday(date), 7);
-    EXPECT_EQ(calendar::dayOfMonth(date), 21);
-    EXPECT_EQ(parseDate("2026-11-21", datePattern::wire), at("2026-11-21T00:00:00+05:45"));
-    EXPECT_EQ(calendar::monthsBetween(date, at("2027-01-01T00:30:00+05:45")), 2);
-    device("UTC");
-    EXPECT_EQ(wire(date), "2026-11-20");
-    EXPECT_EQ(calendar::monthsBetween(date, at("2027-01-01T00:30:00+05:45")), 1);
+TEST(Day, IsExactlyItsTextAndKeepsToTheMonths) {
+    for (const char* text : {"2026-11-21", "2028-02-29", "1926-04-19", "0001-01-01", "9999-12-31"})
+        EXPECT_EQ(day(text).text(), text);
+    for (const char* text : {"",
+                             "2027-02-30",
+                             "2026-02-29",
+                             "2027-1-1",
+                             "2027-01-10T00:00",
+                             "2027-01-10 ",
+                             "10-01-2027",
+                             "2027-13-01",
+                             "2027-00-10",
+                             "२०२७-०१-१०"})
+        EXPECT_FALSE(Day::parse(text)) << text;
+    EXPECT_LT(day("2026-12-31"), day("2027-01-01"));
+    EXPECT_EQ(day("2026-11-21").weekday(), 7);
+    EXPECT_EQ(day("2026-12-30").plusDays(3).text(), "2027-01-02");
+    EXPECT_EQ(day("2026-01-31").plusMonths(1).text(), "2026-02-28");
+    EXPECT_EQ(day("2026-11-21").plusMonths(-13).text(), "2025-10-21");
+    EXPECT_EQ(day("2028-02-29").plusYears(-12).text(), "2016-02-29");
+    EXPECT_EQ(day("2028-02-29").plusYears(-2).text(), "2026-02-28");
 }
 
-TEST_F(CalendarTest, ADayHasAsManyHoursAsItsZoneGivesIt) {
+TEST_F(CalendarTest, TodayIsTheDayOfTheDevicesZone) {
     struct Case {
         const char* zone;
-        const char* noon;
-        std::chrono::hours length;
-        const char* start;
+        const char* now;
+        const char* today;
     };
     const Case cases[] = {
-        {"America/New_York", "2026-03-08T12:00:00-04:00", 23h, "2026-03-08T05:00:00Z"},
-        {"America/New_York", "2026-11-01T12:00:00-05:00", 25h, "2026-11-01T04:00:00Z"},
-        // Clocks here jump over midnight itself, and there they show it twice.
-        {"Asia/Beirut", "2026-03-29T12:00:00+03:00", 23h, "2026-03-28T22:00:00Z"},
-        {"America/Havana", "2026-11-01T12:00:00-05:00", 25h, "2026-11-01T04:00:00Z"},
+        {"Asia/Kathmandu", "2026-11-20T18:14:59Z", "2026-11-20"},
+        {"Asia/Kathmandu", "2026-11-20T18:15:00Z", "2026-11-21"},
+        {"Etc/GMT+12", "2026-11-21T11:59:59Z", "2026-11-20"},
+        {"Etc/GMT-14", "2026-11-21T10:00:00Z", "2026-11-22"},
+        // Clocks jump over midnight here, and show it twice there.
+        {"Asia/Beirut", "2026-03-28T22:00:00Z", "2026-03-29"},
+        {"America/Havana", "2026-11-01T04:30:00Z", "2026-11-01"},
     };
-    for (const auto& [zone, noonText, length, start] : cases) {
-        SCOPED_TRACE(std::string(zone) + " " + noonText);
+    for (const auto& [zone, now, today] : cases) {
         device(zone);
-        const Date noon = at(noonText);
-        EXPECT_EQ(isoText(calendar::startOfDay(noon)), start);
-        EXPECT_EQ(calendar::startOfDay(calendar::addDays(noon, 1)) - calendar::startOfDay(noon), length);
-        EXPECT_EQ(calendar::startOfDay(calendar::startOfDay(noon)), calendar::startOfDay(noon));
-        // Noon stays noon, whatever the clocks did in the night.
-        EXPECT_EQ(formatDate(calendar::addDays(noon, -1), "yyyy-MM-dd HH"), wire(noon - 24h) + " 12");
-        EXPECT_EQ(parseDate(wire(noon), datePattern::wire), calendar::startOfDay(noon));
-
-        const auto days = calendar::daysOfMonth(noon);
-        for (std::size_t i = 0; i < days.size(); ++i)
-            EXPECT_EQ(calendar::dayOfMonth(days[i]), static_cast<int>(i) + 1);
-        EXPECT_EQ(wire(days.back()).substr(0, 7), wire(noon).substr(0, 7));
+        world.clock->time = at(now);
+        EXPECT_EQ(calendar::today().text(), today) << zone << " " << now;
     }
 }
 
-TEST_F(CalendarTest, MonthsAreOfTheCalendarAndNeverSkipOne) {
-    device("Asia/Kathmandu");
-    EXPECT_EQ(wire(calendar::addMonths(at("2026-01-31T06:00:00Z"), 1)), "2026-02-28");
-    EXPECT_EQ(wire(calendar::addMonths(at("2026-11-21T06:00:00Z"), 13)), "2027-12-21");
-    EXPECT_EQ(wire(calendar::addYears(at("2028-02-29T06:00:00Z"), -12)), "2016-02-29");
-    EXPECT_EQ(wire(calendar::addYears(at("2028-02-29T06:00:00Z"), -2)), "2026-02-28");
-    EXPECT_EQ(calendar::monthsBetween(at("2026-11-30T06:00:00Z"), at("2027-12-01T06:00:00Z")), 13);
-
-    for (const auto& [month, length] :
-         {std::pair("2028-02-29T20:00:00Z", 31U), std::pair("2028-02-28T20:00:00Z", 29U)}) {
-        EXPECT_EQ(calendar::daysOfMonth(at(month)).size(), length) << month;
+TEST_F(CalendarTest, MonthsAndYearsAreThoseOfTheDevicesCalendar) {
+    struct Case {
+        const char* locale;
+        const char* first; ///< of the month of 21 November 2026
+        std::size_t length;
+        const char* later;   ///< 21 November 2026 two months on
+        const char* newYear; ///< the first day of that year
+    };
+    const Case cases[] = {
+        {"en_US", "2026-11-01", 30, "2027-01-21", "2026-01-01"},
+        {"ne_NP", "2026-11-01", 30, "2027-01-21", "2026-01-01"},
+        {"th_TH", "2026-11-01", 30, "2027-01-21", "2026-01-01"},
+        {"fa_IR", "2026-10-23", 30, "2027-01-20", "2026-03-21"},
+        {"ar_SA", "2026-11-11", 29, "2027-01-19", "2026-06-16"},
+    };
+    const Day date = day("2026-11-21");
+    for (const auto& [locale, first, length, later, newYear] : cases) {
+        device("Pacific/Auckland", locale);
+        const auto days = calendar::daysOfMonth(date);
+        EXPECT_EQ(days.front().text(), first) << locale;
+        EXPECT_EQ(days.size(), length) << locale;
+        EXPECT_EQ(calendar::addMonths(date, 2).text(), later) << locale;
+        EXPECT_EQ(calendar::monthsBetween(date, day(later)), 2) << locale;
+        EXPECT_EQ(calendar::monthsBetween(day(later), date), -2) << locale;
+        const auto months = calendar::monthsOfYear(date);
+        EXPECT_EQ(months.size(), 12U) << locale;
+        EXPECT_EQ(months.front().text(), newYear) << locale;
+        EXPECT_EQ(calendar::startOfYear(calendar::yearOf(date)).text(), newYear) << locale;
     }
-    EXPECT_EQ(calendar::daysOfMonth(at("2028-02-29T20:00:00Z")).front(), at("2028-03-01T00:00:00+05:45"));
 }
 
 TEST_F(CalendarTest, FormatsInTheDevicesLanguageDigitsAndWeek) {
@@ -123,37 +137,17 @@ TEST_F(CalendarTest, FormatsInTheDevicesLanguageDigitsAndWeek) {
         const char* text;
     };
     const Case cases[] = {
-        {"en_US", "2026-11-21", datePattern::calendar, "Sat, Nov 21, 2026"},
-        {"en_US", "2026-11-01", datePattern::form, "Nov 1, 2026"},
-        {"en_US", "2026-03-08", datePattern::wire, "2026-03-08"},
-        {"de_DE", "2026-10-21", datePattern::calendar, "Mi., Okt. 21, 2026"},
-        {"ne_NP", "2026-11-21", datePattern::form, "नोभेम्बर २१, २०२६"},
-        {"ar_EG", "2026-11-21", datePattern::form, "نوفمبر ٢١, ٢٠٢٦"},
-        // The year of the month title is the week's: a week counts to the year that holds its first Saturday
-        // here, its Thursday there.
-        {"en_US", "2026-11-21", datePattern::month, "November 2026"},
-        {"en_US", "2026-12-26", datePattern::month, "December 2026"},
-        {"en_US", "2026-12-27", datePattern::month, "December 2027"},
-        {"en_US", "2027-01-01", datePattern::month, "January 2027"},
-        {"de_DE", "2026-12-31", datePattern::month, "Dezember 2026"},
-        {"de_DE", "2027-01-03", datePattern::month, "Januar 2026"},
-        {"de_DE", "2027-01-04", datePattern::month, "Januar 2027"},
+        {"en_US", "2026-11-21", dayPattern::calendar, "Sat, Nov 21, 2026"},
+        {"en_US", "2026-11-01", dayPattern::form, "Nov 1, 2026"},
+        {"de_DE", "2026-10-21", dayPattern::calendar, "Mi., Okt. 21, 2026"},
+        {"ne_NP", "2026-11-21", dayPattern::form, "नोभेम्बर २१, २०२६"},
+        {"ar_EG", "2026-11-21", dayPattern::form, "نوفمبر ٢١, ٢٠٢٦"},
+        {"th_TH", "2026-11-21", dayPattern::form, "พ.ย. 21, 2569"},
+        {"fa_IR", "2026-11-21", dayPattern::form, "آبان ۳۰, ۱۴۰۵"},
     };
     for (const auto& [locale, day, pattern, text] : cases) {
         device("Asia/Kathmandu", locale);
-        EXPECT_EQ(formatDate(at(day) + 6h, pattern), text) << locale << " " << day;
-    }
-}
-
-TEST_F(CalendarTest, ReadsPlainDatesWhateverTheDeviceSpeaksAndRefusesTheRest) {
-    for (const char* locale : {"en_US", "ne_NP", "ar_EG", "th_TH", "fa_IR"}) {
-        device("Asia/Kathmandu", locale);
-        EXPECT_EQ(parseDate("2026-11-21", datePattern::wire), at("2026-11-20T18:15:00Z")) << locale;
-        EXPECT_EQ(parseDate("Sat, Nov 21, 2026", datePattern::calendar), at("2026-11-20T18:15:00Z"))
-            << locale;
-    }
-    for (const char* text : {"", "2026-02-30", "2026-13-01", "2026-11-21T", "21 Nov 2026", "2026-11"}) {
-        EXPECT_FALSE(parseDate(text, datePattern::wire)) << text;
+        EXPECT_EQ(formatDay(Day::parse(day).value(), pattern), text) << locale << " " << day;
     }
 }
 

@@ -1,4 +1,5 @@
 #include "support/Derived.h"
+#include "support/Fault.h"
 #include "support/Field.h"
 
 #include <gtest/gtest.h>
@@ -116,6 +117,35 @@ TEST_F(ObservableTest, NobodySeesHalfAnUpdateAndADiamondTellsOnce) {
     model.a = 4;
     model.a = 5;
     EXPECT_EQ(told, (std::vector<std::string>{"13", "16"}));
+}
+
+TEST_F(ObservableTest, AStepIsOneChangeToWhatIsComputedAndToWhoeverShowsIt) {
+    const auto before = setFaultHandler([](const std::string&) {});
+    // Of two fields that belong together, the one is meaningless while the other is not assigned yet.
+    Derived<int> difference(model.fields, "difference", [&] {
+        if (model.a > model.b) fatalFault("computed from the middle of a step");
+        return model.b - model.a;
+    });
+    const auto field = model.a.observe(log("assigned"));
+    const auto computed = difference.observe(log("computed"));
+    const auto page =
+        model.a.observe(settled([&] { told.push_back("shown " + std::to_string(difference.get())); }));
+    auto leaving = std::make_unique<Subscription>(model.b.observe(settled(log("left"))));
+    EXPECT_TRUE(guarded([&] {
+        model.a = 50;
+        guarded([&] { model.a = 60; }); // a step within a step
+        model.b = 61;
+        EXPECT_EQ(told, (std::vector<std::string>{"assigned", "assigned"}));
+        leaving.reset();
+    }));
+    EXPECT_EQ(told, (std::vector<std::string>{"assigned", "assigned", "computed", "shown 1"}));
+    told.clear();
+    EXPECT_FALSE(guarded([&] {
+        model.a = 0;
+        fatalFault("on purpose");
+    }));
+    EXPECT_EQ(told.size(), 3U) << "what a step did before its fault is shown";
+    setFaultHandler(before);
 }
 
 TEST_F(ObservableTest, ADerivedValueNobodyObservesIsNotComputed) {

@@ -21,6 +21,9 @@ TEST(ShownText, LeavesOutWhatIsNoVisibleText) {
         {"a\xFF\xC3z", "a\uFFFD\uFFFDz"},
         {"\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
         {"cut \xE0\xA4", "cut \uFFFD"},
+        {"क्ष्म्य्रां", "क्ष्म्य्रां"},
+        {"a\u0301\u0302\u0303\u0304\u0305\u0306\u0307\u0308\u0309\u030A\u030Bb",
+         "a\u0301\u0302\u0303\u0304\u0305\u0306\u0307\u0308b"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(shownText(c.text), c.shown);

@@ -30,7 +30,7 @@ WalkPorts::~WalkPorts() {
 }
 
 void walk(WalkPorts& ports, Window& window, const std::string& file,
-          const std::function<void(const std::string& name)>& look) {
+          const std::function<void(const std::string& name)>& look, const Commands& commands) {
     auto& queue = dynamic_cast<QtMainQueue&>(*platform().mainQueue);
     bool faulted = false;
     journey::Script script({
@@ -53,6 +53,8 @@ void walk(WalkPorts& ports, Window& window, const std::string& file,
         .photos = *ports.photos,
     });
     script.addCommand("look", look);
+    for (const auto& [name, command] : commands)
+        script.addCommand(name, command);
     script.addCommand("faults", [](const std::string& fault) {
         service().setFaults(fault.empty() ? std::vector<std::string>() : std::vector{fault});
     });

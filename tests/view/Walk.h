@@ -6,6 +6,7 @@
 #include "Window.h"
 #include "platform/AdjustableClock.h"
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -30,9 +31,12 @@ private:
     Platform device_;
 };
 
+/// Commands of a test's own script besides the common ones.
+using Commands = std::map<std::string, journey::Script::Command>;
+
 /// Plays a script against the pages of `window`; `look NAME` in it calls `look`. Adds a failure where the
 /// script stops early.
 void walk(WalkPorts& ports, Window& window, const std::string& file,
-          const std::function<void(const std::string& name)>& look);
+          const std::function<void(const std::string& name)>& look, const Commands& commands = {});
 
 } // namespace ombrivane::view

@@ -7,7 +7,7 @@
 #include "booking/JourneyCard.h"
 #include "booking/TicketTravellerInfo.h"
 #include "platform/Image.h"
-#include "support/DateFormatter.h"
+#include "support/Day.h"
 
 #include <optional>
 
@@ -25,8 +25,8 @@ QList<Value*> makeValues(const std::vector<Lines>& lines, QObject* owner) {
 /// A marked field is told by the name of its colour.
 inline QString shown(FormColour colour) { return formColourNames.at(static_cast<std::size_t>(colour)); }
 /// A day as "yyyy-MM-dd", empty while there is none.
-inline QString shown(const std::optional<Date>& date) {
-    return date ? QString::fromStdString(formatDate(*date, datePattern::wire)) : QString();
+inline QString shown(const std::optional<Day>& day) {
+    return day ? QString::fromStdString(day->text()) : QString();
 }
 inline bool shown(const std::optional<Image>& image) { return image.has_value(); }
 

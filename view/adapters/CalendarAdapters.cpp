@@ -11,8 +11,8 @@ bool isFiller(const CalendarCell& cell) { return cell.day < 0; }
 } // namespace
 
 QString DayAdapter::label() const {
-    const auto date = parseDate(cell_.date, datePattern::wire);
-    return date ? shown(formatDate(*date, datePattern::calendar)) : QString();
+    const auto day = Day::parse(cell_.date);
+    return day ? shown(formatDay(*day, dayPattern::calendar)) : QString();
 }
 
 void DayAdapter::update(const CalendarCell& cell, bool fromPrevious, bool toNext) {

@@ -24,7 +24,7 @@ class DayAdapter : public QObject {
 public:
     DayAdapter(CalendarCell cell, QObject* parent) : QObject(parent), cell_(std::move(cell)) {}
 
-    QString day() const { return QString::number(cell_.day); }
+    QString day() const { return shown(cell_.label); }
     QString date() const { return QString::fromStdString(cell_.date); }
     /// The whole date, for assistive technology.
     QString label() const;

@@ -22,7 +22,7 @@ public:
 
 private:
     std::unique_ptr<MainViewAdapter> content_;
-    Subscription watch_ = core().view.observe([this] { emit contentChanged(); });
+    Subscription watch_ = watch(core().view, [this] { emit contentChanged(); });
 };
 
 } // namespace ombrivane::view

@@ -26,9 +26,10 @@ public:
     const std::shared_ptr<Screen>& screen() const { return screen_; }
 
 protected:
-    /// Follows `member`; `told` is called after each change.
+    /// Follows `member`; `told` is called once for all changes of a turn, when it ends: a page that reads
+    /// other members meanwhile finds them settled.
     template <class Observed> Subscription watch(Observed& member, Observer told) {
-        return member.observe(std::move(told));
+        return member.observe(settled(std::move(told)));
     }
 
 private:

@@ -93,7 +93,7 @@ private:
     SearchFormAdapter oneWay_{core().oneWay};
     SearchFormAdapter roundTrip_{core().roundTrip};
     FooterAdapter footer_{core().footer};
-    Subscription tabWatch_ = core().tabBar->localSelection.observe([this] { emit tabChanged(); });
+    Subscription tabWatch_ = watch(core().tabBar->localSelection, [this] { emit tabChanged(); });
 };
 
 class AirportRowAdapter : public ombrivane::view::ScreenAdapter {

@@ -10,6 +10,7 @@ T.AbstractButton {
 
     objectName: "contactRow"
     implicitHeight: Math.max(60, texts.implicitHeight + 16)
+    enabled: row.tapEnabled
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: row.title

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QDate>
+#include "search/DateWheels.h"
+
 #include <QQmlEngine>
 #include <QStringList>
 
 namespace ombrivane::view {
 
-/// A day between two limits, turned by its year, its month and its day: what the wheels of a date field show.
-/// Days are given and told as "yyyy-MM-dd".
+/// The three wheels of a date field. Days are given and told as "yyyy-MM-dd", whatever the wheels show.
 class DateChoice : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -16,7 +16,7 @@ class DateChoice : public QObject {
     Q_PROPERTY(QString latest READ latest WRITE setLatest NOTIFY changed FINAL)
     Q_PROPERTY(QString day READ day WRITE setDay NOTIFY changed FINAL)
     Q_PROPERTY(QStringList years READ years NOTIFY changed FINAL)
-    Q_PROPERTY(QStringList months READ months CONSTANT FINAL)
+    Q_PROPERTY(QStringList months READ months NOTIFY changed FINAL)
     Q_PROPERTY(QStringList days READ days NOTIFY changed FINAL)
     Q_PROPERTY(int yearIndex READ yearIndex NOTIFY changed FINAL)
     Q_PROPERTY(int monthIndex READ monthIndex NOTIFY changed FINAL)
@@ -25,23 +25,21 @@ class DateChoice : public QObject {
 public:
     explicit DateChoice(QObject* parent = nullptr) : QObject(parent) {}
 
-    QString earliest() const { return earliest_.toString(Qt::ISODate); }
+    QString earliest() const { return textOf(earliest_); }
     void setEarliest(const QString& day);
-    QString latest() const { return latest_.toString(Qt::ISODate); }
+    QString latest() const { return textOf(latest_); }
     void setLatest(const QString& day);
-    QString day() const { return date().toString(Qt::ISODate); }
-    /// An empty text chooses a first proposal: the middle of the years between two limits, else the earliest.
+    QString day() const { return textOf(wheels_.day()); }
+    /// An empty text chooses a first proposal.
     void setDay(const QString& day);
 
-    QStringList years() const;
-    QStringList months() const;
-    QStringList days() const;
-    int yearIndex() const { return date().year() - earliest_.year(); }
-    int monthIndex() const { return date().month() - 1; }
-    int dayIndex() const { return date().day() - 1; }
+    QStringList years() const { return entries(wheels_.years()); }
+    QStringList months() const { return entries(wheels_.months()); }
+    QStringList days() const { return entries(wheels_.days()); }
+    int yearIndex() const { return wheels_.years().index; }
+    int monthIndex() const { return wheels_.months().index; }
+    int dayIndex() const { return wheels_.days().index; }
 
-    /// Each turns one wheel to an entry. A day that the month lacks becomes its last one, and a date beyond a
-    /// limit becomes the limit.
     Q_INVOKABLE void turnYear(int index);
     Q_INVOKABLE void turnMonth(int index);
     Q_INVOKABLE void turnDay(int index);
@@ -50,13 +48,14 @@ public:
     Q_SIGNAL void changed();
 
 private:
-    QDate lastDay() const;
-    QDate date() const;
-    void choose(int year, int month, int day);
+    static QString textOf(std::optional<Day> day);
+    static QStringList entries(const DateWheels::Wheel& wheel);
+    void setLimits(std::optional<Day> earliest, std::optional<Day> latest);
 
-    QDate earliest_{1900, 1, 1};
-    QDate latest_;
-    QDate chosen_;
+    std::optional<Day> earliest_;
+    std::optional<Day> latest_;
+    std::optional<Day> chosen_;
+    DateWheels wheels_{Day()};
 };
 
 } // namespace ombrivane::view

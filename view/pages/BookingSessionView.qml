@@ -77,6 +77,7 @@ Item {
         Card {
             Layout.fillWidth: true
             title: page.screen.contact.contactTitle
+            opacity: page.screen.isLoading ? 0.5 : 1
             ContactRow {
                 objectName: "contactLine"
                 Layout.fillWidth: true
@@ -86,6 +87,7 @@ Item {
         Card {
             Layout.fillWidth: true
             title: page.screen.contact.passengerTitle
+            opacity: page.screen.isLoading ? 0.5 : 1
             Repeater {
                 model: page.screen.contact.rows
                 ContactRow { Layout.fillWidth: true }

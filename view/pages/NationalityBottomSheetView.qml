@@ -22,6 +22,7 @@ Sheet {
         onTextEdited: page.screen.type(text)
     }
     ListView {
+        id: list
         anchors { top: field.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
         clip: true
         cacheBuffer: 0 // rows are made when drawn, not while the page may be leaving
@@ -29,7 +30,7 @@ Sheet {
         delegate: T.AbstractButton {
             id: item
             required property NationalityRowAdapter row
-            width: ListView.view.width
+            width: list.width
             implicitHeight: Math.max(Theme.target, name.implicitHeight + 16)
             focusPolicy: Qt.StrongFocus
             Accessible.role: Accessible.ListItem

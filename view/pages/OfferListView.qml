@@ -49,7 +49,7 @@ ResultsContent {
         readonly property bool waits: page.screen.isLoading || arrival.running || !pinned
         cacheBuffer: waits ? Theme.target : height
         header: Column {
-            width: ListView.view.width
+            width: list.width
             topPadding: 4
             bottomPadding: Theme.gap
             spacing: 8
@@ -63,6 +63,7 @@ ResultsContent {
                 Accessible.role: Accessible.Heading
             }
             ListView {
+                id: strip
                 objectName: "strip"
                 visible: page.screen.strip.count > 0
                 width: parent.width
@@ -72,14 +73,14 @@ ResultsContent {
                 orientation: ListView.Horizontal
                 spacing: 8
                 model: page.screen.strip
-                delegate: StripCard { height: ListView.view.height; awaited: page.screen.isLoading }
+                delegate: StripCard { height: strip.height; awaited: page.screen.isLoading }
             }
         }
         delegate: RowHolder {
             id: place
             required property OfferAdapter row
             held: row
-            width: ListView.view.width
+            width: list.width
             height: card.implicitHeight
             OfferCard {
                 id: card

@@ -27,7 +27,7 @@ Item {
             required property string content
             required property bool listItem
             required property bool underlined
-            width: ListView.view.width
+            width: list.width
             leftPadding: listItem ? 16 : 0
             text: content
             font.underline: underlined

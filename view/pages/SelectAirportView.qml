@@ -35,12 +35,13 @@ Item {
             font.weight: Font.Medium
         }
         ListView {
+            id: list
             anchors { top: heading.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
             clip: true
             spacing: 8
             model: page.screen.rows
             delegate: AirportRow {
-                width: ListView.view.width
+                width: list.width
             }
         }
     }
