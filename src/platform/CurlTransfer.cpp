@@ -73,6 +73,8 @@ void CurlTransfer::trust(const std::string& file) {
 
 void CurlTransfer::isolate() {
     set(handle(), CURLOPT_PROTOCOLS_STR, "https");
+    // A stream of HTTP/2 that the server refuses is sent again by libcurl itself, read or not.
+    set(handle(), CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     set(handle(), CURLOPT_FRESH_CONNECT, 1L);
     set(handle(), CURLOPT_FORBID_REUSE, 1L);
     set(handle(), CURLOPT_FOLLOWLOCATION, 0L);

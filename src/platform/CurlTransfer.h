@@ -21,7 +21,7 @@ public:
 
     /// Trusts the certificates of `file` in place of the platform's.
     void trust(const std::string& file);
-    /// A connection of its own, closed afterwards; no redirect; HTTPS only.
+    /// A connection of its own, closed afterwards, over HTTP/1.1; no redirect; HTTPS only.
     void isolate();
     /// Connections are shared; a redirect is followed a few times.
     void shareConnections();
