@@ -33,8 +33,6 @@ public:
         thread_.join();
     }
 
-    const CurlSettings& settings() const { return settings_; }
-
     void add(std::unique_ptr<CurlTransfer> transfer) {
         if (!settings_.caFile.empty()) transfer->trust(settings_.caFile);
         {
@@ -109,8 +107,7 @@ CurlNetwork::CurlNetwork(CurlSettings settings) : worker_(std::make_unique<Worke
 CurlNetwork::~CurlNetwork() = default;
 
 void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
-    auto transfer = std::make_unique<CurlTransfer>(
-        std::move(request), std::move(completion), worker_->settings().answerBytes);
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion));
     transfer->isolate();
     worker_->add(std::move(transfer));
 }
@@ -118,8 +115,8 @@ void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
 void CurlNetwork::fetchPicture(const std::string& url, HttpCompletion completion) {
     HttpRequest request;
     request.url = url;
-    auto transfer = std::make_unique<CurlTransfer>(
-        std::move(request), std::move(completion), worker_->settings().pictureBytes);
+    request.answerBytes = limits::logoBytes;
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion));
     transfer->shareConnections();
     worker_->add(std::move(transfer));
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Limits.h"
 #include "platform/Network.h"
 #include "support/Api.h"
 
@@ -11,9 +10,7 @@ namespace ombrivane {
 
 /// What a developer may set of the network.
 struct CurlSettings {
-    std::string caFile;                            ///< PEM; empty for the platform's trust store
-    std::size_t answerBytes = limits::answerBytes; ///< a longer answer is an error
-    std::size_t pictureBytes = limits::logoBytes;  ///< a longer picture is an error
+    std::string caFile; ///< PEM; empty for the platform's trust store
 };
 
 /// The network by libcurl: one thread, one handle per request.

@@ -32,11 +32,8 @@ template <class Value> void set(CURL* handle, CURLoption option, Value value) {
 
 } // namespace
 
-CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::size_t limit) :
-    request_(std::move(request)),
-    completion_(std::move(completion)),
-    limit_(limit),
-    handle_(curl_easy_init()) {
+CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion) :
+    request_(std::move(request)), completion_(std::move(completion)), handle_(curl_easy_init()) {
     CURL* curl = handle();
     for (const auto& [name, value] : request_.headers) {
         std::string line = name;
@@ -64,6 +61,8 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::
     set(curl, CURLOPT_TIMEOUT, static_cast<long>(request_.wholeInterval.count()));
     set(curl, CURLOPT_WRITEFUNCTION, &CurlTransfer::receive);
     set(curl, CURLOPT_WRITEDATA, this);
+    set(curl, CURLOPT_HEADERFUNCTION, &CurlTransfer::receiveHeader);
+    set(curl, CURLOPT_HEADERDATA, this);
 }
 
 void CurlTransfer::trust(const std::string& file) {
@@ -90,21 +89,27 @@ void CurlTransfer::shareConnections() {
 std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t count, void* self) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
     const std::size_t length = size * count;
-    if (length > transfer.limit_ - transfer.received_.size()) {
-        transfer.tooLarge_ = true;
+    if (length > transfer.request_.answerBytes - transfer.received_.size()) {
+        transfer.tooLarge_ = "the body has more than " + std::to_string(transfer.request_.answerBytes);
         return 0;
     }
     transfer.received_.append(bytes, length);
     return length;
 }
 
+std::size_t CurlTransfer::receiveHeader(char* /*bytes*/, std::size_t size, std::size_t count, void* self) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    transfer.headerBytes_ += size * count;
+    if (transfer.headerBytes_ <= limits::headerBytes) return size * count;
+    transfer.tooLarge_ = "headers and trailers have more than " + std::to_string(limits::headerBytes);
+    return 0;
+}
+
 int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
-    long head = 0;
     long request = 0;
-    curl_easy_getinfo(transfer.handle(), CURLINFO_HEADER_SIZE, &head);
     curl_easy_getinfo(transfer.handle(), CURLINFO_REQUEST_SIZE, &request);
-    const curl_off_t moved = received + sent + head + request;
+    const curl_off_t moved = received + sent + request;
     const auto now = std::chrono::steady_clock::now();
     if (moved != transfer.moved_) {
         transfer.moved_ = moved;
@@ -119,8 +124,12 @@ void CurlTransfer::fail(int code, const std::string& text, const std::string& de
 }
 
 void CurlTransfer::complete(CURLcode result) {
-    if (tooLarge_) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText);
-    if (silent_) result = CURLE_OPERATION_TIMEDOUT;
+    if (!tooLarge_.empty()) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText, tooLarge_ + " bytes");
+    if (silent_) {
+        return fail(CURLE_OPERATION_TIMEDOUT,
+                    textOf(CURLE_OPERATION_TIMEDOUT),
+                    "no body moved for " + std::to_string(request_.timeoutInterval.count()) + " s");
+    }
     if (result != CURLE_OK) return fail(result, textOf(result), curl_easy_strerror(result));
     guarded([&] { completion_({std::move(received_), std::nullopt}); });
 }

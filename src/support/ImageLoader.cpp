@@ -31,7 +31,9 @@ void ImageLoader::load() {
     if (!hasScheme(url_, "https://") && !hasScheme(url_, "http://")) return;
     isLoading = true;
     SharedInstance<ImageFetches>::get().fetch(
-        url_, [weak = weak_from_this(), url = url_, cache = cache_](const std::optional<Image>& fetched) {
+        url_,
+        weak_from_this(),
+        [weak = weak_from_this(), url = url_, cache = cache_](const std::optional<Image>& fetched) {
             if (cache && fetched) cache->setImage(url, fetched);
             if (const auto loader = weak.lock()) loader->receive(fetched);
         });

@@ -1,4 +1,7 @@
+#include "fakes/World.h"
 #include "network/Line.h"
+#include "network/TlsServer.h"
+#include "support/ImageLoader.h"
 
 #include <curl/curl.h>
 #include <gtest/gtest.h>
@@ -118,6 +121,31 @@ TEST(PictureTest, PicturesShareAConnectionAndServiceRequestsDoNot) {
     EXPECT_EQ(line.server().counters().connections, 3U);
     EXPECT_TRUE(line.fetchPicture(logo).data);
     EXPECT_EQ(line.server().counters().connections, 3U);
+}
+
+TEST(PictureTest, ASilentServerOfPicturesTakesAFewConnections) {
+    TlsServer server(saysNothing);
+    fakes::World world;
+    Platform ports = platform();
+    ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = server.caFile()});
+    Platform::install(ports);
+    std::vector<std::shared_ptr<ImageLoader>> rows;
+    for (int i = 0; i < 300; ++i) {
+        rows.push_back(std::make_shared<ImageLoader>(server.url("/" + std::to_string(i)), nullptr));
+        rows.back()->load();
+    }
+    const auto end = std::chrono::steady_clock::now() + milliseconds(500);
+    while (std::chrono::steady_clock::now() < end) {
+        world.queue->drain();
+        std::this_thread::sleep_for(milliseconds(10));
+    }
+    EXPECT_GT(server.connections(), 0);
+    EXPECT_LE(server.connections(), static_cast<int>(limits::pictureTransfers));
+    ports = Platform();
+    Platform::endNetwork();
+    world.queue->drain();
+    for (const auto& row : rows)
+        EXPECT_FALSE(row->isLoading.get()) << "each is told once the network has ended";
 }
 
 } // namespace
