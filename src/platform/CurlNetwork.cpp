@@ -20,7 +20,7 @@ struct FreeMulti {
 /// The network's thread. New transfers are handed over under a lock; all else is the thread's own.
 class CurlNetwork::Worker {
 public:
-    explicit Worker(CurlSettings settings) : settings_(std::move(settings)) {
+    Worker() {
         thread_ = std::thread([this] { run(); });
     }
 
@@ -34,7 +34,6 @@ public:
     }
 
     void add(std::unique_ptr<CurlTransfer> transfer) {
-        if (!settings_.caFile.empty()) transfer->trust(settings_.caFile);
         {
             const std::lock_guard lock(mutex_);
             arrived_.push_back(std::move(transfer));
@@ -93,7 +92,6 @@ private:
                 transfer->abandon();
     }
 
-    CurlSettings settings_;
     std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
     std::mutex mutex_;
     Transfers arrived_;
@@ -102,12 +100,13 @@ private:
     std::thread thread_;
 };
 
-CurlNetwork::CurlNetwork(CurlSettings settings) : worker_(std::make_unique<Worker>(std::move(settings))) {}
+CurlNetwork::CurlNetwork(CurlSettings settings) :
+    settings_(std::move(settings)), worker_(std::make_unique<Worker>()) {}
 
 CurlNetwork::~CurlNetwork() = default;
 
 void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
-    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion));
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion), settings_);
     transfer->isolate();
     worker_->add(std::move(transfer));
 }
@@ -116,7 +115,7 @@ void CurlNetwork::fetchPicture(const std::string& url, HttpCompletion completion
     HttpRequest request;
     request.url = url;
     request.answerBytes = limits::logoBytes;
-    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion));
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion), settings_);
     transfer->shareConnections();
     worker_->add(std::move(transfer));
 }

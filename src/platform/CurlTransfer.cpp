@@ -1,5 +1,6 @@
 #include "platform/CurlTransfer.h"
 
+#include "platform/TlsRules.h"
 #include "support/Fault.h"
 
 namespace ombrivane {
@@ -32,7 +33,7 @@ template <class Value> void set(CURL* handle, CURLoption option, Value value) {
 
 } // namespace
 
-CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion) :
+CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const CurlSettings& settings) :
     request_(std::move(request)), completion_(std::move(completion)), handle_(curl_easy_init()) {
     CURL* curl = handle();
     for (const auto& [name, value] : request_.headers) {
@@ -43,6 +44,16 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion) :
     // Without this line a larger body would wait for the server's "100 Continue".
     headers_.reset(curl_slist_append(headers_.release(), "Expect:"));
 
+    fixTls(curl);
+    if (!settings.caFile.empty()) {
+        set(curl, CURLOPT_CAINFO, settings.caFile.c_str());
+        set(curl, CURLOPT_CAPATH, nullptr);
+    }
+    // Empty is "none"; without a value libcurl asks the environment.
+    set(curl, CURLOPT_PROXY, settings.proxy.c_str());
+    set(curl, CURLOPT_NOPROXY, "");
+    set(curl, CURLOPT_NETRC, static_cast<long>(CURL_NETRC_IGNORED));
+    set(curl, CURLOPT_PROTOCOLS_STR, "https");
     set(curl, CURLOPT_URL, request_.url.c_str());
     set(curl, CURLOPT_HTTPHEADER, headers_.get());
     if (request_.method == "POST") {
@@ -65,13 +76,7 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion) :
     set(curl, CURLOPT_HEADERDATA, this);
 }
 
-void CurlTransfer::trust(const std::string& file) {
-    set(handle(), CURLOPT_CAINFO, file.c_str());
-    set(handle(), CURLOPT_CAPATH, nullptr);
-}
-
 void CurlTransfer::isolate() {
-    set(handle(), CURLOPT_PROTOCOLS_STR, "https");
     // A stream of HTTP/2 that the server refuses is sent again by libcurl itself, read or not.
     set(handle(), CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     set(handle(), CURLOPT_FRESH_CONNECT, 1L);
@@ -80,8 +85,7 @@ void CurlTransfer::isolate() {
 }
 
 void CurlTransfer::shareConnections() {
-    set(handle(), CURLOPT_PROTOCOLS_STR, "https,http");
-    set(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https,http");
+    set(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
     set(handle(), CURLOPT_FOLLOWLOCATION, 1L);
     set(handle(), CURLOPT_MAXREDIRS, 5L);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CurlSettings.h"
 #include "platform/HttpRequest.h"
 
 #include <curl/curl.h>
@@ -13,17 +14,15 @@ namespace ombrivane {
 /// One request on its way: libcurl's handle with everything that it points to.
 class CurlTransfer {
 public:
-    CurlTransfer(HttpRequest request, HttpCompletion completion);
+    CurlTransfer(HttpRequest request, HttpCompletion completion, const CurlSettings& settings);
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
     CURL* handle() const { return handle_.get(); }
 
-    /// Trusts the certificates of `file` in place of the platform's.
-    void trust(const std::string& file);
-    /// A connection of its own, closed afterwards, over HTTP/1.1; no redirect; HTTPS only.
+    /// A connection of its own, closed afterwards, over HTTP/1.1; no redirect.
     void isolate();
-    /// Connections are shared; a redirect is followed a few times.
+    /// Connections are shared; a redirect is followed a few times, over HTTPS only.
     void shareConnections();
 
     /// Completes with the answer, or with an error when `result` is one.

@@ -104,11 +104,13 @@ TEST(PictureTest, ARedirectIsFollowedAFewTimes) {
     }
 }
 
-TEST(PictureTest, NoRedirectLeadsToAFile) {
-    Line line({std::string(logo) + " redirect=file:///etc/hostname"});
-    const HttpAnswer answer = line.fetchPicture(logo);
-    EXPECT_FALSE(answer.data);
-    EXPECT_EQ(answer.error.value_or(noAnswer).code, CURLE_UNSUPPORTED_PROTOCOL);
+TEST(PictureTest, NoRedirectLeadsAwayFromHttps) {
+    for (const char* target : {"file:///etc/hostname", "http://localhost:1/logo.png"}) {
+        Line line({std::string(logo) + " redirect=" + target});
+        const HttpAnswer answer = line.fetchPicture(logo);
+        EXPECT_FALSE(answer.data);
+        EXPECT_EQ(answer.error.value_or(noAnswer).code, CURLE_UNSUPPORTED_PROTOCOL) << target;
+    }
 }
 
 TEST(PictureTest, PicturesShareAConnectionAndServiceRequestsDoNot) {

@@ -91,17 +91,17 @@ void saysNothing(sandbox::TlsConnection& connection) {
     }
 }
 
-bool readRequest(sandbox::TlsConnection& connection, std::string bytes) {
+std::optional<std::string> readRequest(sandbox::TlsConnection& connection, std::string bytes) {
     constexpr std::string_view length = "Content-Length: ";
     std::array<char, 65536> buffer{};
     for (;;) {
         if (const auto end = bytes.find("\r\n\r\n"); end != std::string::npos) {
             const auto at = bytes.find(length);
             const std::size_t body = at < end ? std::stoul(bytes.substr(at + length.size())) : 0;
-            if (bytes.size() >= end + 4 + body) return true;
+            if (bytes.size() >= end + 4 + body) return bytes;
         }
         const std::size_t count = connection.read(buffer.data(), buffer.size());
-        if (count == 0) return false;
+        if (count == 0) return std::nullopt;
         bytes.append(buffer.data(), count);
     }
 }

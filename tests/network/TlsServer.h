@@ -6,6 +6,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -47,8 +48,7 @@ private:
 /// A talk that says nothing until the client goes or the server ends.
 void saysNothing(sandbox::TlsConnection& connection);
 
-/// Reads to the end of the HTTP/1.1 request whose first bytes are in `bytes`; false when it does not come
-/// whole.
-bool readRequest(sandbox::TlsConnection& connection, std::string bytes = "");
+/// The HTTP/1.1 request whose first bytes are in `bytes`; nothing when it does not come whole.
+std::optional<std::string> readRequest(sandbox::TlsConnection& connection, std::string bytes = "");
 
 } // namespace ombrivane::network

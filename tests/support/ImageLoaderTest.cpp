@@ -130,15 +130,20 @@ TEST_F(ImageLoaderTest, AFailureLeavesNoPictureAndTheNextLoadTriesAgain) {
     EXPECT_EQ(world.network->sent().size(), failures.size());
 }
 
-TEST_F(ImageLoaderTest, FetchesFromTheWebOnly) {
-    for (const char* url :
-         {"", "dummyurl", "file:///etc/passwd", "ftp://x/a.png", " https://x/a.png", "http:/x", "data:,a"}) {
+TEST_F(ImageLoaderTest, FetchesOverTlsOnly) {
+    for (const char* url : {"",
+                            "dummyurl",
+                            "file:///etc/passwd",
+                            "http://x/a.png",
+                            " https://x/a.png",
+                            "https:/x",
+                            "data:,a"}) {
         const auto each = loader(url);
         each->load();
         EXPECT_FALSE(each->isLoading.get()) << url;
     }
     EXPECT_TRUE(world.network->sent().empty());
-    loader("HTTP://x/a.png")->load();
+    loader("HTTPS://x/a.png")->load();
     EXPECT_EQ(world.network->sent().size(), 1U);
 }
 
