@@ -1,6 +1,6 @@
 # Every library that the component uses, each for its own field.
 
-find_package(CURL REQUIRED)
+find_package(CURL 7.87 REQUIRED)
 find_package(OpenSSL REQUIRED)
 find_package(ICU REQUIRED COMPONENTS i18n uc)
 find_package(simdjson REQUIRED)

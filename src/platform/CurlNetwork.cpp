@@ -2,6 +2,7 @@
 
 #include "platform/CurlTransfer.h"
 
+#include <limits>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -21,6 +22,9 @@ struct FreeMulti {
 class CurlNetwork::Worker {
 public:
     Worker() {
+        // Connections that are kept for the next picture; without a word, libcurl keeps more of them the more
+        // transfers there were.
+        curl_multi_setopt(multi_.get(), CURLMOPT_MAXCONNECTS, static_cast<long>(limits::pictureTransfers));
         thread_ = std::thread([this] { run(); });
     }
 
@@ -57,8 +61,10 @@ private:
     void startArrived() {
         for (auto& transfer : takeArrived()) {
             CURL* handle = transfer->handle();
-            curl_multi_add_handle(multi_.get(), handle);
-            running_.emplace(handle, std::move(transfer));
+            if (curl_multi_add_handle(multi_.get(), handle) == CURLM_OK)
+                running_.emplace(handle, std::move(transfer));
+            else
+                transfer->complete(CURLE_FAILED_INIT);
         }
     }
 
@@ -79,7 +85,9 @@ private:
             int active = 0;
             curl_multi_perform(multi_.get(), &active);
             finishDone();
-            curl_multi_poll(multi_.get(), nullptr, 0, 1000, nullptr);
+            // libcurl wakes up for what it waits for itself; whether an answer is silent is looked at here.
+            const int pause = running_.empty() ? std::numeric_limits<int>::max() : 1000;
+            curl_multi_poll(multi_.get(), nullptr, 0, pause, nullptr);
         }
         for (auto& [handle, transfer] : running_) {
             curl_multi_remove_handle(multi_.get(), handle);
