@@ -64,7 +64,7 @@ DemoWallet::~DemoWallet() {
 }
 
 void DemoWallet::installPlatform() {
-    Platform ports = view::qtPlatform(options_.ca, "127.0.0.1");
+    Platform ports = view::qtPlatform(options_.ca);
     ports.mainQueue = queue_;
     ports.clock = clock_;
     ports.reachability = reachability_;

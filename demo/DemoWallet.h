@@ -50,7 +50,7 @@ private:
     journey::EventLog log_{[] {}};
     std::shared_ptr<AdjustableClock> clock_ = std::make_shared<AdjustableClock>();
     std::shared_ptr<journey::ScriptedReachability> reachability_ =
-        std::make_shared<journey::ScriptedReachability>("127.0.0.1");
+        std::make_shared<journey::ScriptedReachability>();
     std::shared_ptr<journey::ScriptedPhotos> photos_ = std::make_shared<journey::ScriptedPhotos>();
     std::atomic<bool> faulted_ = false;
     std::unique_ptr<QQmlApplicationEngine> engine_;

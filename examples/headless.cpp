@@ -10,7 +10,7 @@ int main(int count, char** values) {
     if (count < 3) return 2;
     const std::string service = values[1], certificates = values[2];
     const auto loop = std::make_shared<ombrivane::RunLoop>();
-    ombrivane::Platform::install(ombrivane::headlessPlatform(loop, certificates, "127.0.0.1"));
+    ombrivane::Platform::install(ombrivane::headlessPlatform(loop, certificates));
     ombrivane::ServiceHosts::use({.production = service, .test = service});
 
     ombrivane::OmbrivaneView view(

@@ -26,7 +26,7 @@ int main(int count, char** values) {
     if (count < 3) return 2;
     const std::string service = values[1], certificates = values[2];
     const QGuiApplication application(count, values);
-    ombrivane::Platform::install(ombrivane::view::qtPlatform(certificates, "127.0.0.1"));
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(certificates));
     ombrivane::ServiceHosts::use({.production = service, .test = service});
 
     int result = 1;

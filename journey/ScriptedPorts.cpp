@@ -2,9 +2,9 @@
 
 namespace ombrivane::journey {
 
-std::optional<std::uint32_t> ScriptedReachability::flags() {
+std::optional<std::uint32_t> ScriptedReachability::flags(const std::string& host) {
     const std::int64_t word = said_;
-    return word == measured ? route_.flags() : static_cast<std::uint32_t>(word);
+    return word == measured ? route_.flags(host) : static_cast<std::uint32_t>(word);
 }
 
 void ScriptedPhotos::present(Handler handler) {

@@ -14,9 +14,7 @@ namespace ombrivane::journey {
 /// Measures the route, unless the script says what the flag word is.
 class ScriptedReachability final : public ReachabilityMeasure {
 public:
-    explicit ScriptedReachability(std::string address) : route_(std::move(address)) {}
-
-    std::optional<std::uint32_t> flags() override;
+    std::optional<std::uint32_t> flags(const std::string& host) override;
     void say(std::uint32_t word) { said_ = word; }
 
 private:

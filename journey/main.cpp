@@ -129,7 +129,7 @@ private:
     std::shared_ptr<RunLoop> loop_ = std::make_shared<RunLoop>();
     EventLog log_{[loop = loop_] { loop->async([] {}); }};
     std::shared_ptr<AdjustableClock> clock_ = std::make_shared<AdjustableClock>();
-    std::shared_ptr<ScriptedReachability> reachability_ = std::make_shared<ScriptedReachability>("127.0.0.1");
+    std::shared_ptr<ScriptedReachability> reachability_ = std::make_shared<ScriptedReachability>();
     std::shared_ptr<ScriptedPhotos> photos_ = std::make_shared<ScriptedPhotos>();
     std::atomic<bool> faulted_ = false;
     std::unique_ptr<OmbrivaneView> view_;

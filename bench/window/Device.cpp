@@ -28,7 +28,7 @@ sandbox::Options options() {
 Device::Device() : service_(options()) {
     service_.start();
     ServiceHosts::use({.production = service_.address(), .test = service_.address()});
-    Platform ports = view::qtPlatform(service_.caFile(), "127.0.0.1");
+    Platform ports = view::qtPlatform(service_.caFile());
     clock_->startAt(now());
     ports.clock = clock_;
     Platform::install(std::move(ports));

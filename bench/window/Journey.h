@@ -32,7 +32,7 @@ private:
     journey::EventLog log_{[] {}};
     std::shared_ptr<journey::ScriptedPhotos> photos_ = std::make_shared<journey::ScriptedPhotos>();
     std::shared_ptr<journey::ScriptedReachability> reachability_ =
-        std::make_shared<journey::ScriptedReachability>("127.0.0.1");
+        std::make_shared<journey::ScriptedReachability>();
     view::OmbrivaneSession session_;
 };
 

@@ -3,8 +3,10 @@
 #include "platform/OnMain.h"
 #include "records/Encode.h"
 #include "search/OfferFormat.h"
+#include "services/CustomError.h"
 #include "services/Url.h"
 #include "state/AppState.h"
+#include "support/Https.h"
 
 namespace ombrivane {
 namespace {
@@ -128,12 +130,11 @@ void BookingConfirmationView::fetchDocument() {
         ticket ? ticket->ticketSummary.ticketReferenceID : "",
         onMain<std::string>([hold = shared_from_this(), this](std::string link, std::optional<Error> error) {
             showProgressView = false;
-            if (error) {
-                errorMessage = error->localizedDescription;
-                showSnackBar = true;
-            } else if (isUrl(link)) {
-                platform().sharing->share(link);
-            }
+            // What is no address at all ends in silence; one that leads elsewhere is worth a word.
+            if (!error && !isUrl(link)) return;
+            if (!error && isHttps(link)) return platform().sharing->share(link);
+            errorMessage = error.value_or(makeError(CustomError::invalidUrl)).localizedDescription;
+            showSnackBar = true;
         }));
 }
 

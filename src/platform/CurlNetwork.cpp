@@ -2,6 +2,7 @@
 
 #include "platform/CurlTransfer.h"
 
+#include <limits>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -20,7 +21,10 @@ struct FreeMulti {
 /// The network's thread. New transfers are handed over under a lock; all else is the thread's own.
 class CurlNetwork::Worker {
 public:
-    explicit Worker(CurlSettings settings) : settings_(std::move(settings)) {
+    Worker() {
+        // Connections that are kept for the next picture; without a word, libcurl keeps more of them the more
+        // transfers there were.
+        curl_multi_setopt(multi_.get(), CURLMOPT_MAXCONNECTS, static_cast<long>(limits::pictureTransfers));
         thread_ = std::thread([this] { run(); });
     }
 
@@ -33,10 +37,7 @@ public:
         thread_.join();
     }
 
-    const CurlSettings& settings() const { return settings_; }
-
     void add(std::unique_ptr<CurlTransfer> transfer) {
-        if (!settings_.caFile.empty()) transfer->trust(settings_.caFile);
         {
             const std::lock_guard lock(mutex_);
             arrived_.push_back(std::move(transfer));
@@ -60,8 +61,10 @@ private:
     void startArrived() {
         for (auto& transfer : takeArrived()) {
             CURL* handle = transfer->handle();
-            curl_multi_add_handle(multi_.get(), handle);
-            running_.emplace(handle, std::move(transfer));
+            if (curl_multi_add_handle(multi_.get(), handle) == CURLM_OK)
+                running_.emplace(handle, std::move(transfer));
+            else
+                transfer->complete(CURLE_FAILED_INIT);
         }
     }
 
@@ -82,7 +85,9 @@ private:
             int active = 0;
             curl_multi_perform(multi_.get(), &active);
             finishDone();
-            curl_multi_poll(multi_.get(), nullptr, 0, 1000, nullptr);
+            // libcurl wakes up for what it waits for itself; whether an answer is silent is looked at here.
+            const int pause = running_.empty() ? std::numeric_limits<int>::max() : 1000;
+            curl_multi_poll(multi_.get(), nullptr, 0, pause, nullptr);
         }
         for (auto& [handle, transfer] : running_) {
             curl_multi_remove_handle(multi_.get(), handle);
@@ -95,7 +100,6 @@ private:
                 transfer->abandon();
     }
 
-    CurlSettings settings_;
     std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
     std::mutex mutex_;
     Transfers arrived_;
@@ -104,13 +108,13 @@ private:
     std::thread thread_;
 };
 
-CurlNetwork::CurlNetwork(CurlSettings settings) : worker_(std::make_unique<Worker>(std::move(settings))) {}
+CurlNetwork::CurlNetwork(CurlSettings settings) :
+    settings_(std::move(settings)), worker_(std::make_unique<Worker>()) {}
 
 CurlNetwork::~CurlNetwork() = default;
 
 void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
-    auto transfer = std::make_unique<CurlTransfer>(
-        std::move(request), std::move(completion), worker_->settings().answerBytes);
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion), settings_);
     transfer->isolate();
     worker_->add(std::move(transfer));
 }
@@ -118,8 +122,8 @@ void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
 void CurlNetwork::fetchPicture(const std::string& url, HttpCompletion completion) {
     HttpRequest request;
     request.url = url;
-    auto transfer = std::make_unique<CurlTransfer>(
-        std::move(request), std::move(completion), worker_->settings().pictureBytes);
+    request.answerBytes = limits::logoBytes;
+    auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion), settings_);
     transfer->shareConnections();
     worker_->add(std::move(transfer));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Limits.h"
+#include "platform/CurlSettings.h"
 #include "platform/Network.h"
 #include "support/Api.h"
 
@@ -9,17 +9,11 @@
 
 namespace ombrivane {
 
-/// What a developer may set of the network.
-struct CurlSettings {
-    std::string caFile;                            ///< PEM; empty for the platform's trust store
-    std::size_t answerBytes = limits::answerBytes; ///< a longer answer is an error
-    std::size_t pictureBytes = limits::logoBytes;  ///< a longer picture is an error
-};
-
 /// The network by libcurl: one thread, one handle per request.
 ///
 /// A request of the service gets a connection of its own that is closed after it, so nothing is ever sent
-/// twice. The platform's trust store decides over certificates, or the file that a developer names.
+/// twice. The platform's trust store decides over certificates, or the file that a developer names. The
+/// environment has no say: no proxy, no key log and no older TLS comes from there.
 class OMBRIVANE_API CurlNetwork final : public Network {
 public:
     /// Starts the network's thread.
@@ -31,6 +25,7 @@ public:
 
 private:
     class Worker;
+    CurlSettings settings_;
     std::unique_ptr<Worker> worker_;
 };
 

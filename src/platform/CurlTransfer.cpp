@@ -1,5 +1,6 @@
 #include "platform/CurlTransfer.h"
 
+#include "platform/TlsRules.h"
 #include "support/Fault.h"
 
 namespace ombrivane {
@@ -32,11 +33,8 @@ template <class Value> void set(CURL* handle, CURLoption option, Value value) {
 
 } // namespace
 
-CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::size_t limit) :
-    request_(std::move(request)),
-    completion_(std::move(completion)),
-    limit_(limit),
-    handle_(curl_easy_init()) {
+CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const CurlSettings& settings) :
+    request_(std::move(request)), completion_(std::move(completion)), handle_(curl_easy_init()) {
     CURL* curl = handle();
     for (const auto& [name, value] : request_.headers) {
         std::string line = name;
@@ -46,6 +44,16 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::
     // Without this line a larger body would wait for the server's "100 Continue".
     headers_.reset(curl_slist_append(headers_.release(), "Expect:"));
 
+    fixTls(curl);
+    if (!settings.caFile.empty()) {
+        set(curl, CURLOPT_CAINFO, settings.caFile.c_str());
+        set(curl, CURLOPT_CAPATH, nullptr);
+    }
+    // Empty is "none"; without a value libcurl asks the environment.
+    set(curl, CURLOPT_PROXY, settings.proxy.c_str());
+    set(curl, CURLOPT_NOPROXY, "");
+    set(curl, CURLOPT_NETRC, static_cast<long>(CURL_NETRC_IGNORED));
+    set(curl, CURLOPT_PROTOCOLS_STR, "https");
     set(curl, CURLOPT_URL, request_.url.c_str());
     set(curl, CURLOPT_HTTPHEADER, headers_.get());
     if (request_.method == "POST") {
@@ -56,6 +64,8 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::
         set(curl, request_.body ? CURLOPT_POSTFIELDS : CURLOPT_COPYPOSTFIELDS, body.c_str());
     }
     set(curl, CURLOPT_NOSIGNAL, 1L);
+    // A name server that says nothing holds up nobody: its thread is left behind, it ends by itself.
+    set(curl, CURLOPT_QUICK_EXIT, 1L);
     set(curl, CURLOPT_ACCEPT_ENCODING, "");
     set(curl, CURLOPT_CONNECTTIMEOUT, static_cast<long>(request_.timeoutInterval.count()));
     set(curl, CURLOPT_NOPROGRESS, 0L);
@@ -64,23 +74,20 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, std::
     set(curl, CURLOPT_TIMEOUT, static_cast<long>(request_.wholeInterval.count()));
     set(curl, CURLOPT_WRITEFUNCTION, &CurlTransfer::receive);
     set(curl, CURLOPT_WRITEDATA, this);
-}
-
-void CurlTransfer::trust(const std::string& file) {
-    set(handle(), CURLOPT_CAINFO, file.c_str());
-    set(handle(), CURLOPT_CAPATH, nullptr);
+    set(curl, CURLOPT_HEADERFUNCTION, &CurlTransfer::receiveHeader);
+    set(curl, CURLOPT_HEADERDATA, this);
 }
 
 void CurlTransfer::isolate() {
-    set(handle(), CURLOPT_PROTOCOLS_STR, "https");
+    // A stream of HTTP/2 that the server refuses is sent again by libcurl itself, read or not.
+    set(handle(), CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     set(handle(), CURLOPT_FRESH_CONNECT, 1L);
     set(handle(), CURLOPT_FORBID_REUSE, 1L);
     set(handle(), CURLOPT_FOLLOWLOCATION, 0L);
 }
 
 void CurlTransfer::shareConnections() {
-    set(handle(), CURLOPT_PROTOCOLS_STR, "https,http");
-    set(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https,http");
+    set(handle(), CURLOPT_REDIR_PROTOCOLS_STR, "https");
     set(handle(), CURLOPT_FOLLOWLOCATION, 1L);
     set(handle(), CURLOPT_MAXREDIRS, 5L);
 }
@@ -88,21 +95,27 @@ void CurlTransfer::shareConnections() {
 std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t count, void* self) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
     const std::size_t length = size * count;
-    if (length > transfer.limit_ - transfer.received_.size()) {
-        transfer.tooLarge_ = true;
+    if (length > transfer.request_.answerBytes - transfer.received_.size()) {
+        transfer.tooLarge_ = "the body has more than " + std::to_string(transfer.request_.answerBytes);
         return 0;
     }
     transfer.received_.append(bytes, length);
     return length;
 }
 
+std::size_t CurlTransfer::receiveHeader(char* /*bytes*/, std::size_t size, std::size_t count, void* self) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    transfer.headerBytes_ += size * count;
+    if (transfer.headerBytes_ <= limits::headerBytes) return size * count;
+    transfer.tooLarge_ = "headers and trailers have more than " + std::to_string(limits::headerBytes);
+    return 0;
+}
+
 int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
-    long head = 0;
     long request = 0;
-    curl_easy_getinfo(transfer.handle(), CURLINFO_HEADER_SIZE, &head);
     curl_easy_getinfo(transfer.handle(), CURLINFO_REQUEST_SIZE, &request);
-    const curl_off_t moved = received + sent + head + request;
+    const curl_off_t moved = received + sent + request;
     const auto now = std::chrono::steady_clock::now();
     if (moved != transfer.moved_) {
         transfer.moved_ = moved;
@@ -117,8 +130,12 @@ void CurlTransfer::fail(int code, const std::string& text, const std::string& de
 }
 
 void CurlTransfer::complete(CURLcode result) {
-    if (tooLarge_) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText);
-    if (silent_) result = CURLE_OPERATION_TIMEDOUT;
+    if (!tooLarge_.empty()) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText, tooLarge_ + " bytes");
+    if (silent_) {
+        return fail(CURLE_OPERATION_TIMEDOUT,
+                    textOf(CURLE_OPERATION_TIMEDOUT),
+                    "no body moved for " + std::to_string(request_.timeoutInterval.count()) + " s");
+    }
     if (result != CURLE_OK) return fail(result, textOf(result), curl_easy_strerror(result));
     guarded([&] { completion_({std::move(received_), std::nullopt}); });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CurlSettings.h"
 #include "platform/HttpRequest.h"
 
 #include <curl/curl.h>
@@ -13,17 +14,15 @@ namespace ombrivane {
 /// One request on its way: libcurl's handle with everything that it points to.
 class CurlTransfer {
 public:
-    CurlTransfer(HttpRequest request, HttpCompletion completion, std::size_t limit);
+    CurlTransfer(HttpRequest request, HttpCompletion completion, const CurlSettings& settings);
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
     CURL* handle() const { return handle_.get(); }
 
-    /// Trusts the certificates of `file` in place of the platform's.
-    void trust(const std::string& file);
-    /// A connection of its own, closed afterwards; no redirect; HTTPS only.
+    /// A connection of its own, closed afterwards, over HTTP/1.1; no redirect.
     void isolate();
-    /// Connections are shared; a redirect is followed a few times.
+    /// Connections are shared; a redirect is followed a few times, over HTTPS only.
     void shareConnections();
 
     /// Completes with the answer, or with an error when `result` is one.
@@ -38,19 +37,21 @@ private:
     };
 
     static std::size_t receive(char* bytes, std::size_t size, std::size_t count, void* self);
-    /// Ends a transfer that has been silent for too long. libcurl's own limit of speed is an average over
-    /// some seconds: it takes an early burst for a sign of life and a very slow answer for silence.
+    static std::size_t receiveHeader(char* bytes, std::size_t size, std::size_t count, void* self);
+    /// Ends a transfer whose bodies have not moved for too long: headers, trailers and informational answers
+    /// can be sent for ever. libcurl's own limit of speed is an average over some seconds: it takes an early
+    /// burst for a sign of life and a very slow answer for silence.
     static int watch(void* self, curl_off_t toReceive, curl_off_t received, curl_off_t toSend,
                      curl_off_t sent);
     void fail(int code, const std::string& text, const std::string& developerText = "");
 
     HttpRequest request_;
     HttpCompletion completion_;
-    std::size_t limit_;
     std::unique_ptr<CURL, Free> handle_;
     std::unique_ptr<curl_slist, Free> headers_;
     std::string received_;
-    bool tooLarge_ = false;
+    std::size_t headerBytes_ = 0;
+    std::string tooLarge_; ///< what is larger than its limit
     bool silent_ = false;
     curl_off_t moved_ = -1;
     std::chrono::steady_clock::time_point lastMove_;

@@ -13,8 +13,8 @@ namespace ombrivane {
 /// picks a photo, and what the component would open or share goes nowhere; a program that wants more replaces
 /// the port before it installs the platform.
 /// @param caFile certificates to trust in place of the platform's; empty for the platform's
-/// @param reachabilityAddress the address whose route decides whether there is a network
+/// @param reachabilityAddress see `RouteReachability`; empty for the way to the service
 OMBRIVANE_API Platform headlessPlatform(std::shared_ptr<RunLoop> loop, const std::string& caFile = "",
-                                        const std::string& reachabilityAddress = "192.0.2.1");
+                                        const std::string& reachabilityAddress = "");
 
 } // namespace ombrivane

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/Limits.h"
 #include "support/Error.h"
 
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -17,8 +19,9 @@ struct HttpRequest {
     std::string method = "GET";                               ///< as it is sent
     std::vector<std::pair<std::string, std::string>> headers; ///< name and value, in their order
     std::optional<std::string> body;                          ///< sent as it stands; none with nothing
-    std::chrono::seconds timeoutInterval{60};                 ///< the longest silence
-    std::chrono::seconds wholeInterval{180};                  ///< the longest duration in all
+    std::chrono::seconds timeoutInterval = limits::idle;      ///< the longest silence
+    std::chrono::seconds wholeInterval = limits::request;     ///< the longest duration in all
+    std::size_t answerBytes = limits::recordBytes;            ///< a longer answer is an error
 };
 
 /// What came back. The status is not part of it: no status code is ever read.

@@ -9,8 +9,16 @@ namespace ombrivane::limits {
 /// The unit of the sizes below.
 inline constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
 
-/// An answer of the service, after decompression. A list of 1,000 offers takes about 7 MB.
-inline constexpr std::size_t answerBytes = 32 * mebibyte;
+/// A list of offers, after decompression: 1,000 of them take about 7 MB.
+inline constexpr std::size_t searchBytes = 32 * mebibyte;
+/// Airports, countries, availability or fare rules, after decompression: rules of `htmlBytes`, which escaping
+/// makes longer.
+inline constexpr std::size_t lookupBytes = 2 * mebibyte;
+/// One record, after decompression: the token, a reservation, a payment, a ticket. Nothing in them grows but
+/// with the travellers, of whom there are nine at most.
+inline constexpr std::size_t recordBytes = mebibyte / 4;
+/// All lines of an answer before and after its body, informational answers included. No header is read.
+inline constexpr std::size_t headerBytes = mebibyte / 16;
 /// A picture from an address, before decoding.
 inline constexpr std::size_t logoBytes = mebibyte;
 /// Either side of a picture from an address, in points.
@@ -25,7 +33,9 @@ inline constexpr std::size_t documentBytes = 64 * mebibyte;
 inline constexpr std::size_t htmlBytes = mebibyte;
 /// A text that is shown, in UTF-8 bytes. What is sent or handed over is not cut.
 inline constexpr std::size_t shownBytes = 4000;
-/// The longest silence of a connection.
+/// Pictures that are fetched at a time.
+inline constexpr std::size_t pictureTransfers = 6;
+/// The longest silence of a connection; what is no part of a body is silence.
 inline constexpr std::chrono::seconds idle{60};
 /// A request in all.
 inline constexpr std::chrono::seconds request{180};

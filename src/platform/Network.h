@@ -6,7 +6,7 @@ namespace ombrivane {
 
 /// The way to the outside. Every completion is called exactly once, on a thread of the network and never from
 /// inside of the call that started it; destruction ends what is under way with an error, delivered before the
-/// destructor returns.
+/// destructor returns, and waits for nobody outside.
 class Network {
 public:
     Network() = default;

@@ -40,7 +40,7 @@ struct OMBRIVANE_API Platform {
     static void install(Platform platform);
 
     /// Ends the installed network: what is under way is answered, and lets go of its screens, while all other
-    /// ports still stand. What a host does before it ends. Main thread.
+    /// ports still stand. What a host does before it ends. Waits for nobody outside. Main thread.
     static void endNetwork();
 };
 

@@ -6,7 +6,6 @@
 
 namespace ombrivane {
 
-using std::chrono::duration_cast;
 using std::chrono::steady_clock;
 
 void RunLoop::async(Step step) {
@@ -25,9 +24,7 @@ WorkItem RunLoop::every(Duration interval, Step step) {
     return timers_.add(now() + interval, interval, std::move(step));
 }
 
-TimerSchedule::Time RunLoop::now() const {
-    return duration_cast<TimerSchedule::Time>(steady_clock::now() - start_) + skipped_;
-}
+TimerSchedule::Time RunLoop::now() const { return time_() - start_ + skipped_; }
 
 bool RunLoop::runOne() {
     Step step;
@@ -49,7 +46,7 @@ bool RunLoop::runUntil(const std::function<bool()>& done, Duration limit) {
         if (runOne()) continue;
         if (steady_clock::now() >= end) return false;
         auto wake = end;
-        if (const auto due = timers_.nextDue()) wake = std::min(wake, start_ + (*due - skipped_));
+        if (const auto wait = timers_.waitAt(now())) wake = std::min(wake, steady_clock::now() + *wait);
         std::unique_lock lock(mutex_);
         arrived_.wait_until(lock, wake, [this] { return !steps_.empty(); });
     }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/ElapsedTime.h"
 #include "platform/MainQueue.h"
 #include "platform/TimerSchedule.h"
 #include "support/Api.h"
 
-#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -15,6 +15,9 @@ namespace ombrivane {
 /// The main queue of a program without a window: its thread turns the loop.
 class OMBRIVANE_API RunLoop final : public MainQueue {
 public:
+    /// @param time what the timers go by
+    explicit RunLoop(TimeSource time = elapsedTime) : time_(time) {}
+
     void async(Step step) override;
     WorkItem after(Duration delay, Step step) override;
     WorkItem every(Duration interval, Step step) override;
@@ -35,7 +38,8 @@ private:
     std::condition_variable arrived_;
     std::deque<Step> steps_;
     TimerSchedule timers_;
-    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    TimeSource time_;
+    Duration start_ = time_();
     Duration skipped_{0};
 };
 

@@ -2,6 +2,8 @@
 
 #include "support/Fault.h"
 
+#include <algorithm>
+
 namespace ombrivane {
 
 WorkItem TimerSchedule::add(Time due, std::optional<MainQueue::Duration> interval, MainQueue::Step step) {
@@ -19,6 +21,12 @@ std::optional<TimerSchedule::Time> TimerSchedule::nextDue() {
     dropCancelled();
     if (timers_.empty()) return std::nullopt;
     return timers_.begin()->first.first;
+}
+
+std::optional<TimerSchedule::Time> TimerSchedule::waitAt(Time now) {
+    const auto due = nextDue();
+    if (!due) return std::nullopt;
+    return std::clamp(*due - now, Time(0), Time(std::chrono::seconds(1)));
 }
 
 bool TimerSchedule::runOneDue(Time now) {

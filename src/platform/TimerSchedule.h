@@ -24,6 +24,11 @@ public:
     /// When the next piece of work is due; nothing when none is pending.
     std::optional<Time> nextDue();
 
+    /// How long a queue that has nothing else to do may wait at `now` before it looks again; nothing when
+    /// none is pending. A second at most: while a device sleeps, a wait stands still, the time of the timers
+    /// does not.
+    std::optional<Time> waitAt(Time now);
+
     /// Runs the piece of work that has been due longest at `now`, if any. A repeated one is due again one
     /// interval after it was due, not after it ran.
     bool runOneDue(Time now);

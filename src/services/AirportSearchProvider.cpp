@@ -9,6 +9,7 @@ namespace ombrivane {
 void AirportSearchProvider::searchAirports(const std::string& query,
                                            const Completion<std::vector<Airport>>& completion) const {
     ServiceCall call;
+    call.answerBytes = limits::lookupBytes;
     call.method = "GET";
     call.url = [&] {
         return Endpoints::shared().airportSearch + query + "&user_type=" + AppState::shared().userType.get();

@@ -43,6 +43,7 @@ std::vector<Country> inPriorityOrder(const std::vector<Country>& decoded) {
 
 void CountryProvider::fetchCountries(const Completion<std::vector<Country>>& completion) const {
     ServiceCall call;
+    call.answerBytes = limits::lookupBytes;
     call.method = "GET";
     call.url = [] {
         return Endpoints::shared().countries + "?user_type=" + AppState::shared().userType.get();

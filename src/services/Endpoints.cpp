@@ -7,10 +7,7 @@
 namespace ombrivane {
 namespace {
 
-std::string chooseBase() {
-    const auto hosts = ServiceHosts::current();
-    return AppState::shared().environment.get() == "test" ? hosts.test : hosts.production;
-}
+std::string chooseBase() { return ServiceHosts::current().of(AppState::shared().environment.get()); }
 
 } // namespace
 

@@ -15,6 +15,7 @@ HttpRequest requestFor(const ServiceCall& call, std::string url) {
     request.url = std::move(url);
     request.timeoutInterval = limits::idle;
     request.wholeInterval = call.wholeInterval;
+    request.answerBytes = call.answerBytes;
     request.method = call.method;
     request.headers.emplace_back("Content-Type", call.contentType);
     if (call.bearerToken) {

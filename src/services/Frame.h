@@ -26,6 +26,7 @@ struct ServiceCall {
     bool bearerToken = true;
     std::string failureDomain = serviceDomain;
     std::chrono::seconds wholeInterval = limits::request;
+    std::size_t answerBytes = limits::recordBytes;
 };
 
 namespace detail {

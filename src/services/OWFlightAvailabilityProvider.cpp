@@ -14,6 +14,7 @@ void OWFlightAvailabilityProvider::fetchAvailability(
     const Completion<std::optional<OWFlightAvailability>>& completion) const {
     const auto& offer = flight.oneWay();
     ServiceCall call;
+    call.answerBytes = limits::lookupBytes;
     call.url = [] { return Endpoints::shared().availability; };
     call.body = [&] {
         Body body;

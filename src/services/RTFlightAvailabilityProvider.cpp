@@ -16,6 +16,7 @@ void RTFlightAvailabilityProvider::fetchAvailability(
     const Completion<std::optional<RTFlightAvailability>>& completion) const {
     const auto& offer = flight.roundTrip();
     ServiceCall call;
+    call.answerBytes = limits::lookupBytes;
     call.url = [] { return Endpoints::shared().availability; };
     call.body = [&] {
         Body body;
@@ -40,6 +41,7 @@ void RTFlightAvailabilityProvider::fetchAvailability(
     const auto& departing = flight.oneWay();
     const auto& returning = returnFlight.oneWay();
     ServiceCall call;
+    call.answerBytes = limits::lookupBytes;
     call.url = [] { return Endpoints::shared().availability; };
     call.body = [&] {
         return Body()

@@ -12,6 +12,11 @@ struct OMBRIVANE_API ServiceHosts {
     std::string production; ///< for every environment but "test"
     std::string test;       ///< for the environment "test"
 
+    /// The one that serves `environment`.
+    const std::string& of(const std::string& environment) const {
+        return environment == "test" ? test : production;
+    }
+
     /// The hosts that the endpoints will be built from.
     static ServiceHosts current();
     /// Has no effect on endpoints that were already built.

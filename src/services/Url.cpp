@@ -44,4 +44,14 @@ bool isUrl(std::string_view text) {
            escapesAreWhole(text);
 }
 
+std::string hostOf(std::string_view url) {
+    const auto slashes = url.find("://");
+    if (slashes == std::string_view::npos) return "";
+    std::string_view place = url.substr(slashes + 3);
+    place = place.substr(0, place.find_first_of("/?#"));
+    place.remove_prefix(place.rfind('@') + 1); // of nothing found, the sum is 0
+    if (place.starts_with('[')) return std::string(place.substr(1, place.find(']') - 1));
+    return std::string(place.substr(0, place.find(':')));
+}
+
 } // namespace ombrivane

@@ -22,7 +22,8 @@ public:
     Published<bool> isLoading{fields, "isLoading", false};
 
     /// Takes the picture from the cache or fetches it. Does nothing during a load, and for an address that is
-    /// neither http nor https. A load that has started goes on and fills the cache when its loader is gone.
+    /// not https. A fetch that has begun goes on and fills the cache when its loader is gone; one that still
+    /// waits for its turn is dropped then.
     void load();
 
     const std::string& url() const { return url_; }

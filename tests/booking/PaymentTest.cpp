@@ -93,6 +93,12 @@ TEST_P(PaymentTest, ATicketIsReportedShownSharedAndLeftToTheSearch) {
     wallet.answer(Json{{"success", true}, {"data", {{"eticketLink", ""}}}});
     EXPECT_TRUE(world.sharing->shared.empty()) << "no link, no sheet";
     EXPECT_EQ(wallet.get("showProgressView"), false);
+    for (const char* link : {"http://tickets.example/1", "file:///etc/passwd", "tel:1", "javascript:go()"}) {
+        wallet.tap("share");
+        wallet.answer(Json{{"success", true}, {"data", {{"eticketLink", link}}}});
+        EXPECT_TRUE(world.sharing->shared.empty()) << link;
+        EXPECT_EQ(wallet.get("errorMessage"), "The provided url is not valid.");
+    }
     wallet.tap("downloadTicket");
     wallet.answer();
     EXPECT_EQ(world.sharing->shared, Heard{"https://localhost:8443/tickets/TKTP7BKBF2NLU9"});

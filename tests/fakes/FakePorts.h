@@ -16,8 +16,12 @@ public:
 
 class FakeReachability final : public ReachabilityMeasure {
 public:
-    std::optional<std::uint32_t> flags() override { return word; }
+    std::optional<std::uint32_t> flags(const std::string& host) override {
+        asked = host;
+        return word;
+    }
     std::optional<std::uint32_t> word = reachableFlag;
+    std::string asked;
 };
 
 /// One bundle with the font files that the test names.

@@ -46,13 +46,14 @@ TEST(TrustTest, WithoutAFileThePlatformDecides) {
     EXPECT_TRUE(line.server().requests().empty());
 }
 
-TEST(TrustTest, OnlyTheSchemesOfTheWebAreSpoken) {
+TEST(TrustTest, OnlyHttpsIsSpoken) {
     struct Row {
         const char* url;
         bool asPicture;
     };
     CurlNetwork network;
     for (const Row& row : {Row{"http://localhost:1/", false},
+                           Row{"http://localhost:1/", true},
                            Row{"file:///etc/hostname", false},
                            Row{"file:///etc/hostname", true},
                            Row{"ftp://localhost:1/", true}}) {

@@ -1,8 +1,15 @@
+#include "fakes/World.h"
 #include "network/Line.h"
+#include "network/NameServer.h"
+#include "network/TlsServer.h"
+#include "support/ImageLoader.h"
 
 #include <curl/curl.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <set>
 #include <thread>
 
 namespace ombrivane::network {
@@ -48,6 +55,65 @@ TEST(DestructionTest, ACompletionThatAsksAgainIsAnsweredToo) {
     ASSERT_TRUE(line.serverHasRead(1));
     line.destroyNetwork();
     EXPECT_EQ(tally.answers(), 4);
+}
+
+TEST(DestructionTest, ASilentNameServerHoldsUpNobody) {
+    SilentNameServer server;
+    const std::string url = std::string("https://") + SilentNameServer::name + "/";
+    auto network = std::make_unique<CurlNetwork>();
+    HttpRequest request;
+    request.url = url;
+    request.timeoutInterval = std::chrono::seconds(1);
+    auto start = std::chrono::steady_clock::now();
+    const HttpAnswer answer = awaited([&](auto completion) { network->send(request, completion); });
+    EXPECT_EQ(answer.error.value_or(noAnswer).code, CURLE_OPERATION_TIMEDOUT);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, milliseconds(3000));
+
+    Tally tally;
+    request.timeoutInterval = std::chrono::seconds(60);
+    for (int i = 0; i < 3; ++i)
+        network->send(request, tally.completion());
+    network->fetchPicture(url, tally.completion());
+    ASSERT_TRUE(SilentNameServer::isAskedBy(5));
+    start = std::chrono::steady_clock::now();
+    network.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, milliseconds(500));
+    EXPECT_EQ(tally.errors(), 4);
+    EXPECT_EQ(tally.answers(), 4);
+}
+
+/// The threads of this process by their numbers.
+std::set<std::string> threads() {
+    std::set<std::string> numbers;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/task"))
+        numbers.insert(entry.path());
+    return numbers;
+}
+
+/// How often a thread has been on a processor, as the system tells it.
+std::string turnsOf(const std::string& thread) {
+    std::ifstream status(thread + "/status");
+    std::string turns;
+    for (std::string text; std::getline(status, text);)
+        if (text.find("ctxt_switches") != std::string::npos) turns += text + " ";
+    return turns;
+}
+
+TEST(IdleTest, TheThreadSleepsWhileNothingIsAsked) {
+    Line line;
+    const auto before = threads();
+    CurlNetwork network({.caFile = line.server().caFile()});
+    std::string own;
+    for (const auto& thread : threads())
+        if (!before.contains(thread)) own = thread;
+    const auto fetch = [&](auto completion) { network.fetchPicture(line.url(logo), completion); };
+    ASSERT_TRUE(awaited(fetch).data); // its connection stays
+    std::this_thread::sleep_for(milliseconds(200));
+    const std::string turns = turnsOf(own);
+    EXPECT_NE(turns, "");
+    std::this_thread::sleep_for(milliseconds(2500));
+    EXPECT_EQ(turnsOf(own), turns);
+    EXPECT_TRUE(awaited(fetch).data) << "and wakes when it is";
 }
 
 TEST(ParallelTest, RequestsFromSeveralThreadsDoNotWaitForEachOther) {
@@ -101,11 +167,13 @@ TEST(PictureTest, ARedirectIsFollowedAFewTimes) {
     }
 }
 
-TEST(PictureTest, NoRedirectLeadsToAFile) {
-    Line line({std::string(logo) + " redirect=file:///etc/hostname"});
-    const HttpAnswer answer = line.fetchPicture(logo);
-    EXPECT_FALSE(answer.data);
-    EXPECT_EQ(answer.error.value_or(noAnswer).code, CURLE_UNSUPPORTED_PROTOCOL);
+TEST(PictureTest, NoRedirectLeadsAwayFromHttps) {
+    for (const char* target : {"file:///etc/hostname", "http://localhost:1/logo.png"}) {
+        Line line({std::string(logo) + " redirect=" + target});
+        const HttpAnswer answer = line.fetchPicture(logo);
+        EXPECT_FALSE(answer.data);
+        EXPECT_EQ(answer.error.value_or(noAnswer).code, CURLE_UNSUPPORTED_PROTOCOL) << target;
+    }
 }
 
 TEST(PictureTest, PicturesShareAConnectionAndServiceRequestsDoNot) {
@@ -118,6 +186,31 @@ TEST(PictureTest, PicturesShareAConnectionAndServiceRequestsDoNot) {
     EXPECT_EQ(line.server().counters().connections, 3U);
     EXPECT_TRUE(line.fetchPicture(logo).data);
     EXPECT_EQ(line.server().counters().connections, 3U);
+}
+
+TEST(PictureTest, ASilentServerOfPicturesTakesAFewConnections) {
+    TlsServer server(saysNothing);
+    fakes::World world;
+    Platform ports = platform();
+    ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = server.caFile()});
+    Platform::install(ports);
+    std::vector<std::shared_ptr<ImageLoader>> rows;
+    for (int i = 0; i < 300; ++i) {
+        rows.push_back(std::make_shared<ImageLoader>(server.url("/" + std::to_string(i)), nullptr));
+        rows.back()->load();
+    }
+    const auto end = std::chrono::steady_clock::now() + milliseconds(500);
+    while (std::chrono::steady_clock::now() < end) {
+        world.queue->drain();
+        std::this_thread::sleep_for(milliseconds(10));
+    }
+    EXPECT_GT(server.connections(), 0);
+    EXPECT_LE(server.connections(), static_cast<int>(limits::pictureTransfers));
+    ports = Platform();
+    Platform::endNetwork();
+    world.queue->drain();
+    for (const auto& row : rows)
+        EXPECT_FALSE(row->isLoading.get()) << "each is told once the network has ended";
 }
 
 } // namespace

@@ -78,20 +78,22 @@ TEST_P(FrameOnTheLineTest, ABrokenAnswerIsOneErrorThatTellsNoSecret) {
 
 INSTANTIATE_TEST_SUITE_P(
     Faults, FrameOnTheLineTest,
-    testing::Values(
-        std::pair{"malformed", "Decoding"}, std::pair{"truncate=60", "Decoding"},
-        std::pair{"empty", "Decoding"}, std::pair{"scalar", "Decoding"}, std::pair{"nul", "Decoding"},
-        std::pair{"invalid-utf8", "Decoding"}, std::pair{"extra=1", "Decoding"},
-        std::pair{"extra=5000", "Decoding"}, std::pair{"deep=500", "Decoding"},
-        std::pair{"deep=100000", "Decoding"}, std::pair{"deep=2000000", "Decoding"},
-        std::pair{"huge=1000000", "Decoding"}, std::pair{"wrong-type=data.accessToken", "Decoding"},
-        std::pair{"wrong-type=data.tokenType", "Decoding"}, std::pair{"wrong-type=data", "Decoding"},
-        std::pair{"wrong-type=success", "Decoding"}, std::pair{"missing-key=data.accessToken", "Decoding"},
-        std::pair{"missing-key=data", "Decoding"}, std::pair{"missing-key=success", "Decoding"},
-        std::pair{"redirect=/api/b2b/v2/get-token", "Decoding"}, std::pair{"short", "Network"},
-        std::pair{"drop", "Network"}, std::pair{"reset", "Network"}, std::pair{"half-status-line", "Network"},
-        std::pair{"endless", "Network"}, std::pair{"gzip-bomb=100000000", "Network"},
-        std::pair{"refuse=Not today.", "Ombrivane.Authentication"}));
+    testing::Values(std::pair{"malformed", "Decoding"}, std::pair{"truncate=60", "Decoding"},
+                    std::pair{"empty", "Decoding"}, std::pair{"scalar", "Decoding"},
+                    std::pair{"nul", "Decoding"}, std::pair{"invalid-utf8", "Decoding"},
+                    std::pair{"extra=1", "Decoding"}, std::pair{"extra=5000", "Decoding"},
+                    std::pair{"deep=500", "Decoding"}, std::pair{"deep=100000", "Decoding"},
+                    std::pair{"deep=2000000", "Network"}, std::pair{"huge=250000", "Decoding"},
+                    std::pair{"huge=270000", "Network"}, std::pair{"wrong-type=data.accessToken", "Decoding"},
+                    std::pair{"wrong-type=data.tokenType", "Decoding"},
+                    std::pair{"wrong-type=data", "Decoding"}, std::pair{"wrong-type=success", "Decoding"},
+                    std::pair{"missing-key=data.accessToken", "Decoding"},
+                    std::pair{"missing-key=data", "Decoding"}, std::pair{"missing-key=success", "Decoding"},
+                    std::pair{"redirect=/api/b2b/v2/get-token", "Decoding"}, std::pair{"short", "Network"},
+                    std::pair{"drop", "Network"}, std::pair{"reset", "Network"},
+                    std::pair{"half-status-line", "Network"}, std::pair{"endless", "Network"},
+                    std::pair{"gzip-bomb=100000000", "Network"},
+                    std::pair{"refuse=Not today.", "Ombrivane.Authentication"}));
 
 TEST_F(FrameOnTheLineTest, TheStatusIsNotReadAndARefusalIsTheServicesOwn) {
     server().setFaults({"/get-token status=500 times=1"});

@@ -1,4 +1,5 @@
 #include "network/Line.h"
+#include "network/TlsServer.h"
 
 #include <curl/curl.h>
 #include <gtest/gtest.h>
@@ -24,14 +25,16 @@ void expectSize(const HttpAnswer& answer, const SizeCase& row) {
     } else {
         EXPECT_FALSE(answer.data);
         EXPECT_EQ(answer.error.value_or(noAnswer).localizedDescription, "The answer is too large.");
+        EXPECT_EQ(answer.error.value_or(noAnswer).developerDescription.find("the body has more than"), 0U);
     }
 }
 
 class AnswerSizeTest : public testing::TestWithParam<SizeCase> {};
 
 TEST_P(AnswerSizeTest, AnAnswerUpToTheLimitArrives) {
-    Line line({"/reservation " + GetParam().fault}, 100'000);
+    Line line({"/reservation " + GetParam().fault});
     HttpRequest request = line.reservation();
+    request.answerBytes = 100'000;
     request.timeoutInterval = seconds(30); // a busy service takes its time to pack a bomb
     expectSize(line.send(request), GetParam());
 }
@@ -51,7 +54,9 @@ TEST(LimitsTest, TheLimitsThatAWalletRunsWith) {
                                 SizeCase{"gzip-bomb=" + std::to_string(answer + 1), {}}}) {
         SCOPED_TRACE(row.fault);
         Line line({"/reservation " + row.fault});
-        expectSize(line.send(line.reservation()), row);
+        HttpRequest request = line.reservation();
+        request.answerBytes = limits::searchBytes;
+        expectSize(line.send(request), row);
     }
     for (const SizeCase& row : {SizeCase{"huge=" + std::to_string(picture), picture},
                                 SizeCase{"huge=" + std::to_string(picture + 1), {}},
@@ -72,8 +77,9 @@ struct TimeCase {
 
 /// A server of its own for each row, asked by a thread of its own: all at once, since each is mostly waiting.
 void check(const TimeCase& row) {
-    Line line({std::string("/reservation ") + row.fault}, std::size_t{1} << 40U);
+    Line line({std::string("/reservation ") + row.fault});
     HttpRequest request = line.reservation();
+    request.answerBytes = std::size_t{1} << 40U;
     request.timeoutInterval = seconds(row.idle);
     request.wholeInterval = seconds(row.whole);
     const auto start = std::chrono::steady_clock::now();
@@ -97,7 +103,6 @@ TEST(LimitsTest, SilenceAndDurationHaveAnEnd) {
                                 TimeCase{"latency=20000", 1, 30, false},
                                 TimeCase{"latency=1000", 3, 30, true},
                                 TimeCase{"trickle=50", 30, 2, false},
-                                TimeCase{"trickle=25", 2, 30, true},
                                 TimeCase{"trickle=3000", 2, 30, false},
                                 TimeCase{"endless", 30, 1, false}}) {
         threads.emplace_back([row] { check(row); });
@@ -105,6 +110,73 @@ TEST(LimitsTest, SilenceAndDurationHaveAnEnd) {
     for (auto& thread : threads)
         thread.join();
 }
+
+/// What a server says around a body.
+struct Words {
+    std::string name;
+    std::string first; ///< up to where it repeats
+    std::string again; ///< said `times` times
+    int times;         ///< -1 for ever
+    std::string last;
+    const char* failure; ///< how the developer's text begins; nothing where the answer arrives
+    int pause = 0;       ///< milliseconds before each repetition
+
+    friend std::ostream& operator<<(std::ostream& out, const Words& row) { return out << row.name; }
+};
+
+class WordsTest : public testing::TestWithParam<Words> {};
+
+TEST_P(WordsTest, WhatSurroundsABodyIsLimitedAndNoSignOfLife) {
+    const Words& row = GetParam();
+    TlsServer server([&row](sandbox::TlsConnection& connection) {
+        if (!readRequest(connection) || !connection.write(row.first)) return;
+        for (int i = 0; i != row.times; ++i) {
+            if (row.pause > 0 && !connection.pause(std::chrono::milliseconds(row.pause))) return;
+            if (!connection.write(row.again)) return;
+        }
+        connection.write(row.last);
+    });
+    CurlNetwork network({.caFile = server.caFile()});
+    HttpRequest request;
+    request.url = server.url();
+    request.method = "POST";
+    request.body = passengers;
+    request.timeoutInterval = seconds(2);
+    request.wholeInterval = seconds(20);
+    const HttpAnswer answer =
+        awaited([&](HttpCompletion completion) { network.send(std::move(request), std::move(completion)); });
+    if (*row.failure == '\0') {
+        EXPECT_EQ(answer.data.value_or("").substr(0, 2), "{}")
+            << answer.error.value_or(noAnswer).developerDescription;
+    } else {
+        EXPECT_FALSE(answer.data);
+        EXPECT_EQ(answer.error.value_or(noAnswer).developerDescription.find(row.failure), 0U)
+            << answer.error.value_or(noAnswer).developerDescription;
+    }
+}
+
+const std::string ok = "HTTP/1.1 200 OK\r\n";
+const std::string counted = "Content-Length: 2\r\n\r\n{}";
+const std::string open = "Transfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n";
+const std::string chunked = open + "0\r\n";
+const std::string line = "X-Line: " + std::string(1014, 'x') + "\r\n"; // 1 KiB
+const std::string early = "HTTP/1.1 103 Early Hints\r\n\r\n";
+constexpr const char* tooMuch = "headers and trailers have more than 65536 bytes";
+constexpr const char* silent = "no body moved for 2 s";
+
+INSTANTIATE_TEST_SUITE_P(Around, WordsTest,
+                         testing::Values(Words{"HeadersUpToTheLimit", ok, line, 63, counted, ""},
+                                         Words{"TooManyHeaders", ok, line, 64, counted, tooMuch},
+                                         Words{"TrailersUpToTheLimit", ok + chunked, line, 63, "\r\n", ""},
+                                         Words{"TooManyTrailers", ok + chunked, line, 64, "\r\n", tooMuch},
+                                         Words{"EndlessTrailers", ok + chunked, line, -1, "", tooMuch},
+                                         Words{"EndlessEarlyAnswers", "", early, -1, "", tooMuch},
+                                         Words{"AFewEarlyAnswers", "", early, 20, ok + counted, ""},
+                                         Words{"SlowBody", ok + open, "1\r\n \r\n", 5, "0\r\n\r\n", "", 600},
+                                         Words{"SlowHeaders", ok, line, -1, "", silent, 500},
+                                         Words{"SlowTrailers", ok + chunked, line, -1, "", silent, 500},
+                                         Words{"SlowEarlyAnswers", "", early, -1, "", silent, 500}),
+                         [](const auto& row) { return row.param.name; });
 
 } // namespace
 } // namespace ombrivane::network

@@ -22,11 +22,10 @@ HttpCompletion Tally::completion() {
     };
 }
 
-Line::Line(const std::vector<std::string>& faults, std::size_t answerBytes) {
+Line::Line(const std::vector<std::string>& faults) {
     server_.setFaults(faults);
     server_.start();
-    network_ =
-        std::make_unique<CurlNetwork>(CurlSettings{.caFile = server_.caFile(), .answerBytes = answerBytes});
+    network_ = std::make_unique<CurlNetwork>(CurlSettings{.caFile = server_.caFile()});
 }
 
 HttpRequest Line::reservation() const {

@@ -48,7 +48,7 @@ private:
 /// A server with the given faults and the real network that trusts it.
 class Line {
 public:
-    explicit Line(const std::vector<std::string>& faults = {}, std::size_t answerBytes = limits::answerBytes);
+    explicit Line(const std::vector<std::string>& faults = {});
 
     sandbox::Sandbox& server() { return server_; }
     CurlNetwork& network() { return *network_; }

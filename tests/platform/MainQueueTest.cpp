@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <string>
 #include <thread>
 #include <vector>
@@ -169,6 +170,26 @@ TEST(RunLoop, WakesForATimerOfRealTimeAndPaysTheTicksOfATimeWithoutTurns) {
     bool turned = false;
     loop.async([&] { turned = true; });
     EXPECT_TRUE(loop.runUntil([&] { return turned && ticks >= 23; }, 0ms)) << ticks;
+}
+
+/// How long the device of the tests below has slept.
+std::atomic<std::chrono::milliseconds> slept;
+
+TEST(RunLoop, AfterASleepOfTheDeviceItSoonGivesWhatFellDueMeanwhile) {
+    slept = 0min;
+    RunLoop loop([] { return elapsedTime() + slept.load(); });
+    int ticks = 0;
+    bool ended = false;
+    const auto ticking = loop.every(1min, [&] { ++ticks; });
+    const auto end = loop.after(10min, [&] { ended = true; });
+    // While the loop waits for its first timer. A wait itself stands still during a sleep and goes on after
+    // it.
+    std::thread device([] {
+        std::this_thread::sleep_for(100ms);
+        slept = 11min;
+    });
+    EXPECT_TRUE(loop.runUntil([&] { return ended && ticks == 11; }, 5s)) << ticks;
+    device.join();
 }
 
 TEST(TimerSchedule, ARepeatedPieceOfWorkIsDueFromWhenItWasDueNotFromWhenItRan) {

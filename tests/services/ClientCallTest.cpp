@@ -18,6 +18,15 @@ std::string withKnownBoundary(std::string text) {
     return std::regex_replace(text, boundary, "B");
 }
 
+/// The longest answer that the operation at `target` takes, in bytes.
+std::size_t longestAnswer(const std::string& target) {
+    const std::string path = target.substr(0, target.find('?'));
+    if (path == "/search-flights") return 32UL << 20U;
+    for (const char* lookup : {"/search-airports", "/countries", "/availability", "/verify-flights"})
+        if (path == lookup) return 2UL << 20U;
+    return 256UL << 10U;
+}
+
 TEST_F(ClientCallTest, SendsOneExactRequestAndReadsItsAnswer) {
     for (const ClientCall& call : clientCalls()) {
         SCOPED_TRACE(call.name);
@@ -35,6 +44,7 @@ TEST_F(ClientCallTest, SendsOneExactRequestAndReadsItsAnswer) {
             value = withKnownBoundary(value);
         EXPECT_EQ(sent, headers);
         EXPECT_EQ(request.timeoutInterval.count(), 60);
+        EXPECT_EQ(request.answerBytes, longestAnswer(call.target));
         EXPECT_EQ(request.body.has_value(), call.body.has_value());
         EXPECT_EQ(withKnownBoundary(request.body.value_or("")), call.body.value_or(""));
 

@@ -1,10 +1,12 @@
 #include "support/ImageLoader.h"
 
 #include "fakes/World.h"
+#include "platform/Limits.h"
 #include "support/CustomAsyncImageView.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
@@ -83,6 +85,34 @@ TEST_F(ImageLoaderTest, ManyLoadersOfOneAddressShareAFetchThatOutlivesThem) {
     EXPECT_TRUE(settle([&] { return cache->image("https://logos.example/c.png").has_value(); }));
 }
 
+TEST_F(ImageLoaderTest, AFewAreFetchedAtATimeAndWhatNobodyWaitsForIsDroppedFromTheQueue) {
+    std::vector<std::shared_ptr<ImageLoader>> loaders;
+    const auto urlOf = [](std::size_t index) { return "https://logos.example/" + std::to_string(index); };
+    for (std::size_t i = 0; i < 40; ++i) {
+        loaders.push_back(loader(urlOf(i)));
+        loaders.back()->load();
+    }
+    const auto joined = loader(urlOf(20));
+    joined->load();
+    EXPECT_EQ(world.network->sent().size(), limits::pictureTransfers);
+
+    // Scrolled past: the queue forgets them, but for the one that another row waits for too.
+    loaders.erase(loaders.begin() + 6, loaders.begin() + 39);
+    std::size_t answered = 0;
+    while (world.network->outstanding() > 0) {
+        EXPECT_LE(world.network->outstanding(), limits::pictureTransfers);
+        world.network->answer(logo());
+        const std::size_t next = std::min<std::size_t>(++answered + limits::pictureTransfers, 8);
+        ASSERT_TRUE(settle([&] { return world.network->sent().size() == next; }));
+    }
+    EXPECT_EQ(world.network->sent()[6].url, urlOf(20));
+    EXPECT_EQ(world.network->sent()[7].url, urlOf(39));
+    ASSERT_TRUE(settle([&] { return joined->image.get() && loaders.back()->image.get(); }));
+
+    loader(urlOf(10))->load();
+    EXPECT_EQ(world.network->last().url, urlOf(10)) << "what was dropped can be asked for again";
+}
+
 TEST_F(ImageLoaderTest, AFailureLeavesNoPictureAndTheNextLoadTriesAgain) {
     const auto each = loader();
     const std::vector<HttpAnswer> failures = {{std::nullopt, Error{"Fake", 1, "offline"}},
@@ -100,15 +130,20 @@ TEST_F(ImageLoaderTest, AFailureLeavesNoPictureAndTheNextLoadTriesAgain) {
     EXPECT_EQ(world.network->sent().size(), failures.size());
 }
 
-TEST_F(ImageLoaderTest, FetchesFromTheWebOnly) {
-    for (const char* url :
-         {"", "dummyurl", "file:///etc/passwd", "ftp://x/a.png", " https://x/a.png", "http:/x", "data:,a"}) {
+TEST_F(ImageLoaderTest, FetchesOverTlsOnly) {
+    for (const char* url : {"",
+                            "dummyurl",
+                            "file:///etc/passwd",
+                            "http://x/a.png",
+                            " https://x/a.png",
+                            "https:/x",
+                            "data:,a"}) {
         const auto each = loader(url);
         each->load();
         EXPECT_FALSE(each->isLoading.get()) << url;
     }
     EXPECT_TRUE(world.network->sent().empty());
-    loader("HTTP://x/a.png")->load();
+    loader("HTTPS://x/a.png")->load();
     EXPECT_EQ(world.network->sent().size(), 1U);
 }
 

@@ -37,7 +37,7 @@ int main(int count, char** values) {
     auto& service = ombrivane::view::service();
     service.start();
     ombrivane::ServiceHosts::use({.production = "https://localhost:1", .test = service.address()});
-    ombrivane::Platform::install(ombrivane::view::qtPlatform(service.caFile(), "127.0.0.1"));
+    ombrivane::Platform::install(ombrivane::view::qtPlatform(service.caFile()));
     const int result = RUN_ALL_TESTS();
     ombrivane::Platform::endNetwork();
     QCoreApplication::processEvents();

@@ -25,7 +25,7 @@ public:
     std::shared_ptr<AdjustableClock> clock = std::make_shared<AdjustableClock>();
     std::shared_ptr<journey::ScriptedPhotos> photos = std::make_shared<journey::ScriptedPhotos>();
     std::shared_ptr<journey::ScriptedReachability> reachability =
-        std::make_shared<journey::ScriptedReachability>("127.0.0.1");
+        std::make_shared<journey::ScriptedReachability>();
 
 private:
     Platform device_;

@@ -6,8 +6,7 @@
 
 namespace ombrivane::view {
 
-QtMainQueue::QtMainQueue() {
-    elapsed_.start();
+QtMainQueue::QtMainQueue(TimeSource time) : time_(time) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout, &context_, [this] { runDue(); });
 }
@@ -30,9 +29,9 @@ WorkItem QtMainQueue::every(Duration interval, Step step) {
 }
 
 void QtMainQueue::arm() {
-    const auto due = schedule_.nextDue();
-    if (!due) return timer_.stop();
-    timer_.start(std::max(*due - now(), Duration(0)));
+    const auto wait = schedule_.waitAt(now());
+    if (!wait) return timer_.stop();
+    timer_.start(*wait);
 }
 
 void QtMainQueue::runDue() {

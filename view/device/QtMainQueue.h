@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/ElapsedTime.h"
 #include "platform/MainQueue.h"
 #include "platform/TimerSchedule.h"
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -12,7 +12,8 @@ namespace ombrivane::view {
 /// The main queue on the application's own event loop.
 class QtMainQueue final : public MainQueue {
 public:
-    QtMainQueue();
+    /// @param time what the timers go by
+    explicit QtMainQueue(TimeSource time = elapsedTime);
 
     void async(Step step) override;
     WorkItem after(Duration delay, Step step) override;
@@ -22,13 +23,14 @@ public:
     void advance(Duration duration);
 
 private:
-    TimerSchedule::Time now() const { return TimerSchedule::Time(elapsed_.elapsed()) + skipped_; }
+    TimerSchedule::Time now() const { return time_() - start_ + skipped_; }
     void arm();
     void runDue();
 
     QObject context_;
     QTimer timer_;
-    QElapsedTimer elapsed_;
+    TimeSource time_;
+    Duration start_ = time_();
     TimerSchedule schedule_;
     Duration skipped_{0};
 };

@@ -3,6 +3,7 @@
 #include "device/FileDialogPhotos.h"
 #include "device/QtMainQueue.h"
 #include "device/QtPorts.h"
+#include "device/QtReachability.h"
 #include "platform/AdjustableClock.h"
 #include "platform/CurlNetwork.h"
 #include "platform/JpegPngCodec.h"
@@ -16,7 +17,10 @@ Platform qtPlatform(const std::string& caFile, const std::string& reachabilityAd
     Platform ports;
     ports.mainQueue = std::make_shared<QtMainQueue>();
     ports.network = std::make_shared<CurlNetwork>(settings);
-    ports.reachability = std::make_shared<RouteReachability>(reachabilityAddress);
+    if (reachabilityAddress.empty())
+        ports.reachability = std::make_shared<QtReachability>();
+    else
+        ports.reachability = std::make_shared<RouteReachability>(reachabilityAddress);
     ports.clock = std::make_shared<AdjustableClock>();
     ports.bundles = std::make_shared<QtBundles>();
     ports.fonts = std::make_shared<QtFonts>();

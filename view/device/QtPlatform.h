@@ -9,7 +9,9 @@ namespace ombrivane::view {
 /// The ports of a program with a window: Qt's event loop, fonts and locale, libcurl's network. Make it after
 /// the application object.
 /// @param caFile certificates to trust in place of the platform's; empty for the platform's
-/// @param reachabilityAddress the address whose route decides whether there is a network
-Platform qtPlatform(const std::string& caFile = "", const std::string& reachabilityAddress = "192.0.2.1");
+/// @param reachabilityAddress see `RouteReachability`; empty for what Qt and the routes know of the way to
+/// the
+///        service
+Platform qtPlatform(const std::string& caFile = "", const std::string& reachabilityAddress = "");
 
 } // namespace ombrivane::view
