@@ -12,7 +12,8 @@ std::atomic<int> heard = 0;
 
 void hear(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type == QtDebugMsg || type == QtInfoMsg) return;
-    if (text.contains("OpenType support missing")) return; // a font without a script, for which another one is taken
+    if (text.contains("OpenType support missing"))
+        return; // a font without a script, for which another one is taken
     ++heard;
     std::cout << Json{{"event", "complaint"}, {"text", text.toStdString()}}.dump() << std::endl;
 }

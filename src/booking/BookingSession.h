@@ -57,7 +57,7 @@ public:
     Published<bool> isLoading{fields, "isLoading", true};
     Published<std::string> appBarTitle{fields, "appBarTitle", "Payment Confirmation"};
     Published<std::vector<Passenger>> passengersList{fields, "passengersList"};
-    Published<std::vector<std::optional<Image>>> documentList{fields, "documentList"};
+    Published<std::vector<std::optional<DocumentPicture>>> documentList{fields, "documentList"};
     Published<std::optional<BookingSummary>> bookingSummary{fields, "bookingSummary"};
     Published<std::optional<PaymentSummary>> paymentSummary{fields, "paymentSummary"};
     Published<std::optional<EmergencyContact>> emergencyContact{fields, "emergencyContact"};

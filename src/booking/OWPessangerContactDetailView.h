@@ -1,7 +1,7 @@
 #pragma once
 
 #include "booking/TravelDates.h"
-#include "platform/Image.h"
+#include "platform/DocumentPicture.h"
 #include "records/EmergencyContact.h"
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
@@ -28,7 +28,7 @@ struct ContactGiven {
     std::function<std::optional<TravelDates>()> travelDates;
     const Field<bool>& isLoading;
     const Field<std::optional<EmergencyContact>>& emergencyContact;
-    const Field<std::vector<std::optional<Image>>>& documentList;
+    const Field<std::vector<std::optional<DocumentPicture>>>& documentList;
     const Field<std::vector<Passenger>>& passengersList;
     const Field<std::vector<UniquePassanger>>& uniquePassengersList;
 };
@@ -57,7 +57,7 @@ public:
     Derived<std::vector<std::string>> allowedDocuments;
     Binding<bool> isLoading;
     Binding<std::optional<EmergencyContact>> emergencyContact;
-    Binding<std::vector<std::optional<Image>>> documentList;
+    Binding<std::vector<std::optional<DocumentPicture>>> documentList;
     Binding<std::vector<Passenger>> passengersList;
     Binding<std::vector<UniquePassanger>> uniquePassengersList;
 

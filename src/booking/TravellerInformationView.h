@@ -26,7 +26,7 @@ struct TravellerGiven {
     bool documentsRequired;
     std::optional<TravelDates> travelDates; ///< of the session's own availability
     const Field<std::vector<Passenger>>& passengersList;
-    const Field<std::vector<std::optional<Image>>>& documentList;
+    const Field<std::vector<std::optional<DocumentPicture>>>& documentList;
 };
 
 /// One tile of the document types.
@@ -57,7 +57,7 @@ public:
     Published<std::vector<std::string>> allowedDocuments;
     Published<bool> documentsRequired;
     Binding<std::vector<Passenger>> passengersList;
-    Binding<std::vector<std::optional<Image>>> documentList;
+    Binding<std::vector<std::optional<DocumentPicture>>> documentList;
     /// The earliest expiry date and the earliest date of birth that can be picked.
     Published<Day> minPpDate;
     Published<Day> minDOB;

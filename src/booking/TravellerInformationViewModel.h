@@ -1,7 +1,7 @@
 #pragma once
 
 #include "booking/FormMarks.h"
-#include "platform/Image.h"
+#include "platform/DocumentPicture.h"
 #include "support/Day.h"
 #include "support/Field.h"
 #include "support/KeyedImage.h"
@@ -33,7 +33,7 @@ public:
     Fields fields;
     Published<bool> showSnackBar{fields, "showSnackBar"};
     Published<bool> isShowingPhotoPicker{fields, "isShowingPhotoPicker"};
-    Published<std::optional<Image>> documentImage{fields, "documentImage"};
+    Published<std::optional<DocumentPicture>> documentImage{fields, "documentImage"};
     Published<std::string> name{fields, "name"};
     Published<std::string> surname{fields, "surname"};
     Published<std::string> email{fields, "email"};

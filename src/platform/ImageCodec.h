@@ -35,6 +35,10 @@ public:
 
     /// Lossless PNG, without metadata; nothing when it cannot be made.
     virtual std::optional<std::string> png(const Image& image) = 0;
+
+    /// The PNG of what `jpeg` shows, made row by row: the picture is never decoded as a whole. `jpeg` is one
+    /// of this codec's own; nothing when it is none or beyond the limits.
+    virtual std::optional<std::string> pngOfJpeg(const std::string& jpeg, const PictureLimits& limits) = 0;
 };
 
 /// Of a picture from an address.

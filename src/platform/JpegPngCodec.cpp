@@ -44,7 +44,23 @@ std::optional<std::string> JpegPngCodec::jpeg(const Image& image, double quality
 
 std::optional<std::string> JpegPngCodec::png(const Image& image) {
     if (!isWhole(image)) return std::nullopt;
-    return PngWriter(image).write();
+    return PngWriter(image.width, image.height).write(image);
+}
+
+std::optional<std::string> JpegPngCodec::pngOfJpeg(const std::string& jpeg, const PictureLimits& limits) {
+    if (jpeg.size() > limits.bytes) return std::nullopt;
+    try {
+        JpegReader reader(jpeg);
+        if (!reader.begin(limits)) return std::nullopt;
+        PngWriter writer(reader.width(), reader.height());
+        std::vector<std::uint8_t> row(static_cast<std::size_t>(reader.width()) * 4);
+        if (!writer.begin(true)) return std::nullopt;
+        for (int y = 0; y < reader.height(); ++y)
+            if (!reader.next(row) || !writer.add(row.data())) return std::nullopt;
+        return reader.end() ? writer.end() : std::nullopt;
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
 }
 
 } // namespace ombrivane

@@ -12,6 +12,7 @@ public:
     std::optional<Image> decode(const std::string& bytes, const PictureLimits& limits) override;
     std::optional<std::string> jpeg(const Image& image, double quality) override;
     std::optional<std::string> png(const Image& image) override;
+    std::optional<std::string> pngOfJpeg(const std::string& jpeg, const PictureLimits& limits) override;
 };
 
 } // namespace ombrivane

@@ -48,27 +48,31 @@ JpegReader::JpegReader(const std::string& bytes) : bytes_(bytes) {
 JpegReader::~JpegReader() { jpeg_destroy_decompress(&jpeg_); }
 
 std::optional<Image> JpegReader::read(const PictureLimits& limits) {
-    if (!readHeader() || !limits.allow(jpeg_.image_width, jpeg_.image_height) || !start())
-        return std::nullopt;
-    const int storedWidth = static_cast<int>(jpeg_.output_width);
-    const int storedHeight = static_cast<int>(jpeg_.output_height);
-    const auto placement = orientation().place(storedWidth, storedHeight);
-    const bool isPrint = jpeg_.out_color_space == JCS_CMYK;
-
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(storedWidth) * 4);
+    if (!begin(limits)) return std::nullopt;
+    const auto placement = orientation().place(width(), height());
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(width()) * 4);
     auto points =
-        std::make_shared<std::vector<std::uint8_t>>(row.size() * static_cast<std::size_t>(storedHeight));
-    for (int y = 0; y < storedHeight; ++y) {
-        if (!readRow(row.data())) return std::nullopt;
-        if (isPrint) convertFromCmyk(row, jpeg_.saw_Adobe_marker != 0);
+        std::make_shared<std::vector<std::uint8_t>>(row.size() * static_cast<std::size_t>(height()));
+    for (int y = 0; y < height(); ++y) {
+        if (!next(row)) return std::nullopt;
         std::uint8_t* target = points->data() + (placement.first + y * placement.perRow) * 4;
         for (std::size_t x = 0; x < row.size(); x += 4) {
             std::memcpy(target, &row[x], 4);
             target += placement.perColumn * 4;
         }
     }
-    if (!finish()) return std::nullopt;
+    if (!end()) return std::nullopt;
     return Image{placement.width, placement.height, std::move(points)};
+}
+
+bool JpegReader::begin(const PictureLimits& limits) {
+    return readHeader() && limits.allow(jpeg_.image_width, jpeg_.image_height) && start();
+}
+
+bool JpegReader::next(std::vector<std::uint8_t>& row) {
+    if (!readRow(row.data())) return false;
+    if (jpeg_.out_color_space == JCS_CMYK) convertFromCmyk(row, jpeg_.saw_Adobe_marker != 0);
+    return true;
 }
 
 bool JpegReader::readHeader() {

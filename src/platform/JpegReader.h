@@ -6,6 +6,7 @@
 #include <csetjmp>
 #include <cstdint>
 #include <cstdio> // jpeglib.h names FILE without including it
+#include <vector>
 
 #include <jpeglib.h>
 
@@ -24,6 +25,15 @@ public:
     /// The upright picture; nothing for one that is beyond the limits, damaged or cut short. @throws
     /// std::bad_alloc
     std::optional<Image> read(const PictureLimits& limits);
+
+    /// The same in steps, as the points are stored, whatever way up: `begin`, `next` for each row from the
+    /// top, `end`. After a step that fails the reader is of no more use.
+    bool begin(const PictureLimits& limits);
+    int width() const { return static_cast<int>(jpeg_.output_width); }
+    int height() const { return static_cast<int>(jpeg_.output_height); }
+    /// @param row four bytes a point: red, green, blue, opacity
+    bool next(std::vector<std::uint8_t>& row);
+    bool end() { return finish(); }
 
 private:
     bool readHeader();

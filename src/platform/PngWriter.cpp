@@ -10,21 +10,33 @@ namespace {
 constexpr int compressionLevel = 2;
 constexpr int rowFilter = PNG_FILTER_UP;
 
+bool isOpaque(const Image& image) {
+    const auto& points = *image.points;
+    for (std::size_t i = 3; i < points.size(); i += 4) {
+        if (points[i] != 0xFF) return false;
+    }
+    return true;
+}
+
 } // namespace
 
 PngWriter::~PngWriter() { png_destroy_write_struct(&png_, &info_); }
 
-std::optional<std::string> PngWriter::write() {
-    if (!start()) return std::nullopt;
-    const std::size_t rowBytes = static_cast<std::size_t>(image_.width) * 4;
-    for (std::size_t at = 0; at < image_.points->size(); at += rowBytes) {
-        if (!writeRow(image_.points->data() + at)) return std::nullopt;
+std::optional<std::string> PngWriter::write(const Image& image) {
+    if (!begin(isOpaque(image))) return std::nullopt;
+    const std::size_t rowBytes = static_cast<std::size_t>(width_) * 4;
+    for (std::size_t at = 0; at < image.points->size(); at += rowBytes) {
+        if (!add(image.points->data() + at)) return std::nullopt;
     }
+    return end();
+}
+
+std::optional<std::string> PngWriter::end() {
     if (!finish()) return std::nullopt;
     return std::move(written_);
 }
 
-bool PngWriter::start() {
+bool PngWriter::begin(bool opaque) {
     if (setjmp(failed_) != 0) return false;
     png_ = png_create_write_struct(PNG_LIBPNG_VER_STRING, this, leave, ignore);
     if (png_ == nullptr) return false;
@@ -33,11 +45,10 @@ bool PngWriter::start() {
     png_set_write_fn(png_, this, take, flush);
     png_set_compression_level(png_, compressionLevel);
     png_set_filter(png_, PNG_FILTER_TYPE_BASE, rowFilter);
-    const bool opaque = isOpaque();
     png_set_IHDR(png_,
                  info_,
-                 static_cast<png_uint_32>(image_.width),
-                 static_cast<png_uint_32>(image_.height),
+                 static_cast<png_uint_32>(width_),
+                 static_cast<png_uint_32>(height_),
                  8,
                  opaque ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA,
                  PNG_INTERLACE_NONE,
@@ -48,7 +59,7 @@ bool PngWriter::start() {
     return true;
 }
 
-bool PngWriter::writeRow(const std::uint8_t* row) {
+bool PngWriter::add(const std::uint8_t* row) {
     if (setjmp(failed_) != 0) return false;
     png_write_row(png_, row);
     return true;
@@ -57,14 +68,6 @@ bool PngWriter::writeRow(const std::uint8_t* row) {
 bool PngWriter::finish() {
     if (setjmp(failed_) != 0) return false;
     png_write_end(png_, nullptr);
-    return true;
-}
-
-bool PngWriter::isOpaque() const {
-    const auto& points = *image_.points;
-    for (std::size_t i = 3; i < points.size(); i += 4) {
-        if (points[i] != 0xFF) return false;
-    }
     return true;
 }
 

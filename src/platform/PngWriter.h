@@ -15,20 +15,24 @@ namespace ombrivane {
 /// each call of libpng stands in a step of its own.
 class PngWriter {
 public:
-    /// `image` must be whole and outlive the writer.
-    explicit PngWriter(const Image& image) : image_(image) {}
+    /// For a picture of this size, in points.
+    PngWriter(int width, int height) : width_(width), height_(height) {}
     PngWriter(const PngWriter&) = delete;
     PngWriter& operator=(const PngWriter&) = delete;
     ~PngWriter();
 
-    /// Nothing when memory ends.
-    std::optional<std::string> write();
+    /// The whole of `image`, which is of the size told. Nothing when memory ends.
+    std::optional<std::string> write(const Image& image);
+
+    /// The same in steps: `begin`, `add` for each row from the top, `end`. After a step that fails the writer
+    /// is of no more use.
+    bool begin(bool opaque);
+    /// @param row four bytes a point: red, green, blue, opacity
+    bool add(const std::uint8_t* row);
+    std::optional<std::string> end();
 
 private:
-    bool start();
-    bool writeRow(const std::uint8_t* row);
     bool finish();
-    bool isOpaque() const;
     bool keep(const png_byte* bytes, std::size_t count);
 
     static void leave(png_structp png, png_const_charp text);
@@ -36,7 +40,8 @@ private:
     static void take(png_structp png, png_bytep bytes, std::size_t count);
     static void flush(png_structp png);
 
-    const Image& image_;
+    int width_;
+    int height_;
     std::string written_;
     png_structp png_ = nullptr;
     png_infop info_ = nullptr;

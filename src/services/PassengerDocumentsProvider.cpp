@@ -9,8 +9,8 @@
 namespace ombrivane {
 namespace {
 
-std::string pngOf(const Image& image) {
-    auto png = platform().images->png(image);
+std::string pngOf(const DocumentPicture& picture) {
+    auto png = platform().images->pngOfJpeg(*picture.jpeg, documentLimits());
     if (!png) fatalFault("a document picture has no PNG form");
     return *std::move(png);
 }
@@ -18,7 +18,7 @@ std::string pngOf(const Image& image) {
 } // namespace
 
 void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers,
-                                        const std::vector<std::optional<Image>>& documents,
+                                        const std::vector<std::optional<DocumentPicture>>& documents,
                                         const std::vector<FlightBookingPassenger>& bookedPassengers,
                                         const std::string& bookingReferenceID,
                                         const Completion<std::optional<FlightBooking>>& completion) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Image.h"
+#include "platform/DocumentPicture.h"
 #include "records/FlightBooking.h"
 #include "records/Passenger.h"
 #include "support/Completion.h"
@@ -17,7 +17,8 @@ public:
     /// Walks the service's passengers by position: the i-th of the answer is the i-th of the request. A local
     /// list that is shorter than the answer, and a picture that cannot be written as PNG, are faults. The
     /// body is built on the calling thread.
-    void upload(const std::vector<Passenger>& passengers, const std::vector<std::optional<Image>>& documents,
+    void upload(const std::vector<Passenger>& passengers,
+                const std::vector<std::optional<DocumentPicture>>& documents,
                 const std::vector<FlightBookingPassenger>& bookedPassengers,
                 const std::string& bookingReferenceID,
                 const Completion<std::optional<FlightBooking>>& completion) const;

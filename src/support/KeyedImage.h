@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DocumentPicture.h"
 #include "platform/Image.h"
 #include "support/Keyed.h"
 
@@ -9,6 +10,15 @@ namespace ombrivane {
 template <> struct Keyed<Image> {
     static Json toJson(const Image& value) { return Json{{"width", value.width}, {"height", value.height}}; }
     [[noreturn]] static Image fromJson(const Json& /*json*/) {
+        throw KeyedError("a picture cannot be written");
+    }
+};
+
+template <> struct Keyed<DocumentPicture> {
+    static Json toJson(const DocumentPicture& value) {
+        return Json{{"width", value.width}, {"height", value.height}};
+    }
+    [[noreturn]] static DocumentPicture fromJson(const Json& /*json*/) {
         throw KeyedError("a picture cannot be written");
     }
 };

@@ -7,7 +7,7 @@
 
 namespace ombrivane {
 
-PhotoPicker::PhotoPicker(const Field<std::optional<Image>>& source) :
+PhotoPicker::PhotoPicker(const Field<std::optional<DocumentPicture>>& source) :
     Screen("PhotoPicker"), image(fields, "image", source) {}
 
 void PhotoPicker::appear() {
@@ -22,11 +22,11 @@ void PhotoPicker::disappear() { platform().photos->dismiss(); }
 void PhotoPicker::didFinishPicking(const PhotoLibrary::Picked& picked) {
     if (!picked.cancelled && picked.editedImage) {
         // A picture that cannot be compressed is none; the customer may pick another.
-        const auto compressed = platform().images->jpeg(*picked.editedImage, compressionQuality);
-        if (!compressed) return;
-        const auto decoded = platform().images->decode(*compressed, documentLimits());
-        if (!decoded) return;
-        image = decoded;
+        auto jpeg = platform().images->jpeg(*picked.editedImage, compressionQuality);
+        if (!jpeg) return;
+        image = DocumentPicture{picked.editedImage->width,
+                                picked.editedImage->height,
+                                std::make_shared<const std::string>(*std::move(jpeg))};
     }
     dismiss();
 }

@@ -16,9 +16,9 @@ public:
     static constexpr double compressionQuality = 0.5;
 
     /// @param source is written with the picture.
-    explicit PhotoPicker(const Field<std::optional<Image>>& source);
+    explicit PhotoPicker(const Field<std::optional<DocumentPicture>>& source);
 
-    Binding<std::optional<Image>> image;
+    Binding<std::optional<DocumentPicture>> image;
 
     void appear() override;
     void disappear() override;

@@ -12,7 +12,7 @@ namespace {
 using Parts = std::vector<std::pair<std::string, std::string>>; ///< head and value of each
 
 /// Ends the process for a form that is not exactly parts between boundaries.
-Parts partsOf(const ombrivane::MultipartForm& form) {
+Parts partsOf(ombrivane::MultipartForm& form) {
     const std::string type = form.contentType();
     const std::string prefix = "multipart/form-data; boundary=";
     require(type.starts_with(prefix), "the type names the boundary");

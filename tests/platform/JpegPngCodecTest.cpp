@@ -251,6 +251,15 @@ TEST(JpegPngCodec, WritesJpegOnWhiteAndSmallerWithLessQuality) {
     EXPECT_EQ(jpeg->find("Exif"), std::string::npos);
 }
 
+TEST(JpegPngCodec, WritesTheSamePngRowByRow) {
+    JpegPngCodec codec;
+    const std::string jpeg = *codec.jpeg(cornered(), best);
+    EXPECT_EQ(codec.pngOfJpeg(jpeg, documentLimits()), codec.png(*codec.decode(jpeg, documentLimits())));
+    EXPECT_FALSE(codec.pngOfJpeg(jpeg.substr(0, jpeg.size() / 2), documentLimits())) << "cut short";
+    EXPECT_FALSE(codec.pngOfJpeg(jpeg, {jpeg.size(), 1, 1})) << "beyond its limits";
+    EXPECT_FALSE(codec.pngOfJpeg("", documentLimits()));
+}
+
 TEST(JpegPngCodec, WritesNothingForWhatIsNoWholePicture) {
     JpegPngCodec codec;
     Image cut = cornered();

@@ -59,11 +59,13 @@ TEST_F(BookingTest, APassengerGoesOutWithoutWhatIsAbsent) {
 
 /// Two points of colour, and their bytes as a file of the form.
 TEST_F(BookingTest, DocumentsTravelAsAFormByteForByte) {
-    const Image picture{2,
-                        1,
-                        std::make_shared<std::vector<std::uint8_t>>(
-                            std::vector<std::uint8_t>{255, 0, 0, 255, 0, 0, 255, 255})};
-    const std::string png = *platform().images->png(picture);
+    const Image points{2,
+                       1,
+                       std::make_shared<std::vector<std::uint8_t>>(
+                           std::vector<std::uint8_t>{255, 0, 0, 255, 0, 0, 255, 255})};
+    const DocumentPicture picture{
+        2, 1, std::make_shared<const std::string>(*platform().images->jpeg(points, 0.5))};
+    const std::string png = *platform().images->pngOfJpeg(*picture.jpeg, documentLimits());
     ASSERT_NE(png.find('\0'), std::string::npos) << "so that a text function would cut it";
     Outcome outcome;
     PassengerDocumentsProvider().upload(

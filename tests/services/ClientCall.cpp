@@ -276,7 +276,7 @@ std::vector<ClientCall> bookings() {
          first("reservation"),
          {},
          [=](Outcome& outcome) {
-             const std::vector<std::optional<Image>> none(passengers.size());
+             const std::vector<std::optional<DocumentPicture>> none(passengers.size());
              PassengerDocumentsProvider().upload(passengers,
                                                  none,
                                                  booking.passengers,

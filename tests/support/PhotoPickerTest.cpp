@@ -1,6 +1,7 @@
 #include "support/PhotoPicker.h"
 
 #include "fakes/World.h"
+#include "platform/JpegPngCodec.h"
 #include "support/Link.h"
 #include "support/Navigator.h"
 
@@ -12,7 +13,7 @@ namespace {
 class Form final : public Screen {
 public:
     Form() : Screen("Form") {}
-    Published<std::optional<Image>> documentImage{fields, "documentImage"};
+    Published<std::optional<DocumentPicture>> documentImage{fields, "documentImage"};
     Published<bool> isShowingPhotoPicker{fields, "isShowingPhotoPicker", false};
     Link picker{*this, Presentation::sheet, isShowingPhotoPicker, [this] {
                     return std::make_shared<PhotoPicker>(documentImage);
@@ -43,9 +44,12 @@ TEST_F(PhotoPickerTest, WritesThePickedPictureThroughJpegAndReplacesTheOneBefore
     ASSERT_TRUE(world.photos->isOpen());
     world.photos->pick({false, photo(200)});
     ASSERT_TRUE(isClosed());
-    const Image first = form->documentImage.get().value();
-    EXPECT_EQ(first.width, 4);
-    EXPECT_EQ(first.points->at(3), 255) << "a JPEG has no opacity";
+    const DocumentPicture first = form->documentImage.get().value();
+    EXPECT_EQ(first.width * 10 + first.height, 42);
+    const auto shown = JpegPngCodec().decode(*first.jpeg, documentLimits());
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->width * 10 + shown->height, 42);
+    EXPECT_NEAR(shown->points->at(0), 200, 4) << "as it was picked";
 
     open();
     world.photos->pick({false, photo(255, 2, 2)});
@@ -54,7 +58,7 @@ TEST_F(PhotoPickerTest, WritesThePickedPictureThroughJpegAndReplacesTheOneBefore
 }
 
 TEST_F(PhotoPickerTest, ClosesWithoutWritingWhenNoPictureWasPicked) {
-    const Image before = photo(9);
+    const DocumentPicture before{4, 2, std::make_shared<const std::string>("kept")};
     form->documentImage = before;
     for (const auto& picked : {PhotoLibrary::Picked{true, std::nullopt},
                                PhotoLibrary::Picked{false, std::nullopt},

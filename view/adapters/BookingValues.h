@@ -6,7 +6,7 @@
 #include "booking/FormColour.h"
 #include "booking/JourneyCard.h"
 #include "booking/TicketTravellerInfo.h"
-#include "platform/Image.h"
+#include "platform/DocumentPicture.h"
 #include "support/Day.h"
 
 #include <optional>
@@ -28,7 +28,7 @@ inline QString shown(FormColour colour) { return formColourNames.at(static_cast<
 inline QString shown(const std::optional<Day>& day) {
     return day ? QString::fromStdString(day->text()) : QString();
 }
-inline bool shown(const std::optional<Image>& image) { return image.has_value(); }
+inline bool shown(const std::optional<DocumentPicture>& picture) { return picture.has_value(); }
 
 /// One leg of a journey.
 class LegValue : public QObject {
