@@ -1,6 +1,6 @@
 #include "platform/CurlTransfer.h"
 
-#include "support/Fault.h"
+#include "support/Attempted.h"
 
 namespace ombrivane {
 namespace {
@@ -92,8 +92,9 @@ std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t cou
         transfer.tooLarge_ = true;
         return 0;
     }
-    transfer.received_.append(bytes, length);
-    return length;
+    // Nothing may be thrown through libcurl.
+    const auto failure = attempted([&] { transfer.received_.append(bytes, length); });
+    return failure ? 0 : length;
 }
 
 int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t, curl_off_t sent) {
@@ -113,14 +114,14 @@ int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t,
 }
 
 void CurlTransfer::fail(int code, const std::string& text, const std::string& developerText) {
-    guarded([&] { completion_({std::nullopt, Error{domain, code, text, developerText}}); });
+    contained([&] { completion_({std::nullopt, Error{domain, code, text, developerText}}); });
 }
 
 void CurlTransfer::complete(CURLcode result) {
     if (tooLarge_) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText);
     if (silent_) result = CURLE_OPERATION_TIMEDOUT;
     if (result != CURLE_OK) return fail(result, textOf(result), curl_easy_strerror(result));
-    guarded([&] { completion_({std::move(received_), std::nullopt}); });
+    contained([&] { completion_({std::move(received_), std::nullopt}); });
 }
 
 void CurlTransfer::abandon() { fail(CURLE_ABORTED_BY_CALLBACK, abandonedText); }

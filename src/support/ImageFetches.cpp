@@ -1,6 +1,7 @@
 #include "support/ImageFetches.h"
 
 #include "platform/Platform.h"
+#include "support/Attempted.h"
 
 #include <utility>
 
@@ -30,7 +31,9 @@ void ImageFetches::start(const std::string& url) {
                 return;
             }
             processing->async([deliver, codec, data = std::move(*answer.data)] {
-                deliver(codec->decode(data, logoLimits()));
+                std::optional<Image> image;
+                attempted([&] { image = codec->decode(data, logoLimits()); });
+                deliver(std::move(image));
             });
         });
 }

@@ -1,6 +1,7 @@
 #include "support/PhotoPicker.h"
 
 #include "platform/Platform.h"
+#include "support/Attempted.h"
 
 #include <memory>
 
@@ -21,9 +22,13 @@ void PhotoPicker::disappear() { platform().photos->dismiss(); }
 void PhotoPicker::didFinishPicking(const PhotoLibrary::Picked& picked) {
     if (!picked.cancelled && picked.editedImage) {
         // A picture that cannot be compressed is none; the customer may pick another.
-        const auto compressed = platform().images->jpeg(*picked.editedImage, compressionQuality);
-        if (!compressed) return;
-        const auto decoded = platform().images->decode(*compressed, documentLimits());
+        std::optional<Image> decoded;
+        attempted([&] {
+            auto& codec = *platform().images;
+            if (const auto compressed = codec.jpeg(*picked.editedImage, compressionQuality)) {
+                decoded = codec.decode(*compressed, documentLimits());
+            }
+        });
         if (!decoded) return;
         image = decoded;
     }
