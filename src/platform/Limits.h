@@ -11,6 +11,11 @@ inline constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
 
 /// An answer of the service, after decompression. A list of 1,000 offers takes about 7 MB.
 inline constexpr std::size_t answerBytes = 32 * mebibyte;
+/// The elements of one list of an answer, and the members of an answer.
+inline constexpr std::size_t listElements = 10'000;
+/// What reading an answer and the records that it makes may take beyond the answer's own bytes: three bytes
+/// can ask for a record of a kilobyte.
+inline constexpr std::size_t structureBytes = 56 * mebibyte;
 /// A picture from an address, before decoding.
 inline constexpr std::size_t logoBytes = mebibyte;
 /// Either side of a picture from an address, in points.
