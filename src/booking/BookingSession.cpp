@@ -97,8 +97,8 @@ void BookingSession::refuse(std::string message) {
 void BookingSession::proceed() {
     if (!emergencyContact.get()) return refuse(contactMissing);
     if (passengersList->size() != uniquePassangerList->size()) return refuse(passengersMissing);
-    if (passengersList->empty()) fatalFault("a booking without passengers was continued");
-    if (passengersList->front().dob.empty()) return refuse(passengersMissing);
+    // An availability may count nobody.
+    if (passengersList->empty() || passengersList->front().dob.empty()) return refuse(passengersMissing);
     showProgressView = true;
     reserve();
 }

@@ -91,23 +91,30 @@ TEST_F(BookingTest, DocumentsTravelAsAFormByteForByte) {
     EXPECT_NE(world.network->last().headers.front().second, contentType) << "each form has its own boundary";
 }
 
-TEST_F(BookingTest, DocumentsThatDoNotPairAreAFault) {
-    const Image impossible{2, 1, nullptr};
+TEST_F(BookingTest, NothingIsSentForWhoeverHasNoDocument) {
     const struct {
         std::size_t passengers;
-        std::vector<std::optional<Image>> documents;
-    } rows[] = {{1, {std::nullopt, std::nullopt}}, {2, {std::nullopt}}, {2, {std::nullopt, impossible}}};
+        std::size_t documents;
+        std::size_t sent;
+    } rows[] = {{1, 2, 1}, {2, 1, 1}, {0, 0, 0}, {3, 3, 2}};
     for (const auto& row : rows) {
-        const std::vector<Passenger> passengers(row.passengers);
-        EXPECT_FALSE(guarded([&] {
-            PassengerDocumentsProvider().upload(passengers,
-                                                row.documents,
-                                                {{"1", "", ""}, {"2", "", ""}},
-                                                "R1",
-                                                [](const auto&, const auto&) {});
-        }));
-        EXPECT_EQ(world.takeFaults().size(), 1U);
+        PassengerDocumentsProvider().upload(std::vector<Passenger>(row.passengers),
+                                            std::vector<std::optional<Image>>(row.documents),
+                                            {{"P1", "", ""}, {"P2", "", ""}},
+                                            "R1",
+                                            [](const auto&, const auto&) {});
+        const std::string form = world.network->last().body.value_or("");
+        EXPECT_EQ(form.find("documentType[P1]") != std::string::npos, row.sent >= 1);
+        EXPECT_EQ(form.find("documentType[P2]") != std::string::npos, row.sent >= 2);
     }
+}
+
+TEST_F(BookingTest, APictureThatCannotBeWrittenIsAnErrorBeforeAnythingIsSent) {
+    Outcome outcome;
+    PassengerDocumentsProvider().upload(
+        std::vector<Passenger>(1), {Image{2, 1, nullptr}}, {{"P1", "", ""}}, "R1", into<Booking>(outcome));
+    ASSERT_TRUE(outcome.error);
+    EXPECT_EQ(outcome.error->localizedDescription, "A document could not be sent.");
     EXPECT_TRUE(world.network->sent().empty());
 }
 
