@@ -27,7 +27,7 @@ constexpr std::array<Setting, 4> settings{{{10'000'000, "All Airlines", ""},
 
 /// The offers as the service sends them, before they are sorted.
 OneWayOffers unsorted(std::size_t count) {
-    return Envelope(searchAnswer(count)).offers<FlightSearchOneWay>();
+    return Envelope(searchAnswer(count), SIZE_MAX).offers<FlightSearchOneWay>();
 }
 
 std::vector<FlightSearchOneWay> copied(const OneWayOffers& offers) {

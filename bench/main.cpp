@@ -48,7 +48,7 @@ void parse(benchmark::State& state) {
 
 void sort(benchmark::State& state) {
     const auto answer = bench::searchAnswer(static_cast<std::size_t>(state.range(0)));
-    const auto offers = Envelope(answer).offers<FlightSearchOneWay>();
+    const auto offers = Envelope(answer, SIZE_MAX).offers<FlightSearchOneWay>();
     for ([[maybe_unused]] auto round : state) {
         state.PauseTiming();
         OneWayOffers sorted = offers;

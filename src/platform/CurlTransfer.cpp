@@ -1,7 +1,7 @@
 #include "platform/CurlTransfer.h"
 
 #include "platform/TlsRules.h"
-#include "support/Fault.h"
+#include "support/Attempted.h"
 
 namespace ombrivane {
 namespace {
@@ -56,13 +56,7 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const
     set(curl, CURLOPT_PROTOCOLS_STR, "https");
     set(curl, CURLOPT_URL, request_.url.c_str());
     set(curl, CURLOPT_HTTPHEADER, headers_.get());
-    if (request_.method == "POST") {
-        const std::string empty;
-        const std::string& body = request_.body ? *request_.body : empty;
-        set(curl, CURLOPT_POST, 1L);
-        set(curl, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
-        set(curl, request_.body ? CURLOPT_POSTFIELDS : CURLOPT_COPYPOSTFIELDS, body.c_str());
-    }
+    if (request_.method == "POST") carryBody();
     set(curl, CURLOPT_NOSIGNAL, 1L);
     // A name server that says nothing holds up nobody: its thread is left behind, it ends by itself.
     set(curl, CURLOPT_QUICK_EXIT, 1L);
@@ -76,6 +70,34 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const
     set(curl, CURLOPT_WRITEDATA, this);
     set(curl, CURLOPT_HEADERFUNCTION, &CurlTransfer::receiveHeader);
     set(curl, CURLOPT_HEADERDATA, this);
+}
+
+void CurlTransfer::carryBody() {
+    if (request_.body) request_.pieces.assign(1, std::move(*request_.body));
+    curl_off_t size = 0;
+    for (const auto& piece : request_.pieces)
+        size += static_cast<curl_off_t>(piece.size());
+    set(handle(), CURLOPT_POST, 1L);
+    set(handle(), CURLOPT_POSTFIELDSIZE_LARGE, size);
+    set(handle(), CURLOPT_READFUNCTION, &CurlTransfer::give);
+    set(handle(), CURLOPT_READDATA, this);
+}
+
+std::size_t CurlTransfer::give(char* room, std::size_t size, std::size_t count, void* self) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    auto& pieces = transfer.request_.pieces;
+    std::size_t given = 0;
+    while (given < size * count && transfer.piece_ < pieces.size()) {
+        std::string& piece = pieces[transfer.piece_];
+        const std::size_t length = piece.copy(room + given, size * count - given, transfer.offset_);
+        given += length;
+        transfer.offset_ += length;
+        if (transfer.offset_ < piece.size()) continue;
+        piece = std::string(); // with its memory
+        ++transfer.piece_;
+        transfer.offset_ = 0;
+    }
+    return given;
 }
 
 void CurlTransfer::isolate() {
@@ -99,8 +121,9 @@ std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t cou
         transfer.tooLarge_ = "the body has more than " + std::to_string(transfer.request_.answerBytes);
         return 0;
     }
-    transfer.received_.append(bytes, length);
-    return length;
+    // Nothing may be thrown through libcurl.
+    const auto failure = attempted([&] { transfer.received_.append(bytes, length); });
+    return failure ? 0 : length;
 }
 
 std::size_t CurlTransfer::receiveHeader(char* /*bytes*/, std::size_t size, std::size_t count, void* self) {
@@ -126,7 +149,7 @@ int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t,
 }
 
 void CurlTransfer::fail(int code, const std::string& text, const std::string& developerText) {
-    guarded([&] { completion_({std::nullopt, Error{domain, code, text, developerText}}); });
+    contained([&] { completion_({std::nullopt, Error{domain, code, text, developerText}}); });
 }
 
 void CurlTransfer::complete(CURLcode result) {
@@ -137,7 +160,7 @@ void CurlTransfer::complete(CURLcode result) {
                     "no body moved for " + std::to_string(request_.timeoutInterval.count()) + " s");
     }
     if (result != CURLE_OK) return fail(result, textOf(result), curl_easy_strerror(result));
-    guarded([&] { completion_({std::move(received_), std::nullopt}); });
+    contained([&] { completion_({std::move(received_), std::nullopt}); });
 }
 
 void CurlTransfer::abandon() { fail(CURLE_ABORTED_BY_CALLBACK, abandonedText); }

@@ -36,6 +36,9 @@ private:
         void operator()(curl_slist* list) const { curl_slist_free_all(list); }
     };
 
+    void carryBody();
+    /// libcurl asks for what is to be sent next. It cannot ask again for what has been sent.
+    static std::size_t give(char* room, std::size_t size, std::size_t count, void* self);
     static std::size_t receive(char* bytes, std::size_t size, std::size_t count, void* self);
     static std::size_t receiveHeader(char* bytes, std::size_t size, std::size_t count, void* self);
     /// Ends a transfer whose bodies have not moved for too long: headers, trailers and informational answers
@@ -49,6 +52,8 @@ private:
     HttpCompletion completion_;
     std::unique_ptr<CURL, Free> handle_;
     std::unique_ptr<curl_slist, Free> headers_;
+    std::size_t piece_ = 0;  ///< that is being sent
+    std::size_t offset_ = 0; ///< within it
     std::string received_;
     std::size_t headerBytes_ = 0;
     std::string tooLarge_; ///< what is larger than its limit

@@ -19,9 +19,11 @@ struct HttpRequest {
     std::string method = "GET";                               ///< as it is sent
     std::vector<std::pair<std::string, std::string>> headers; ///< name and value, in their order
     std::optional<std::string> body;                          ///< sent as it stands; none with nothing
-    std::chrono::seconds timeoutInterval = limits::idle;      ///< the longest silence
-    std::chrono::seconds wholeInterval = limits::request;     ///< the longest duration in all
-    std::size_t answerBytes = limits::recordBytes;            ///< a longer answer is an error
+    /// A long body in place of `body`: sent one behind the other, each let go of once it is sent.
+    std::vector<std::string> pieces;
+    std::chrono::seconds timeoutInterval = limits::idle;  ///< the longest silence
+    std::chrono::seconds wholeInterval = limits::request; ///< the longest duration in all
+    std::size_t answerBytes = limits::recordBytes;        ///< a longer answer is an error
 };
 
 /// What came back. The status is not part of it: no status code is ever read.

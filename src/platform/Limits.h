@@ -19,6 +19,11 @@ inline constexpr std::size_t lookupBytes = 2 * mebibyte;
 inline constexpr std::size_t recordBytes = mebibyte / 4;
 /// All lines of an answer before and after its body, informational answers included. No header is read.
 inline constexpr std::size_t headerBytes = mebibyte / 16;
+/// The elements of one list of an answer, and the members of an answer.
+inline constexpr std::size_t listElements = 10'000;
+/// What reading an answer and the records that it makes may take beyond the answer's own bytes: three bytes
+/// can ask for a record of a kilobyte.
+inline constexpr std::size_t structureBytes = 56 * mebibyte;
 /// A picture from an address, before decoding.
 inline constexpr std::size_t logoBytes = mebibyte;
 /// Either side of a picture from an address, in points.

@@ -12,11 +12,13 @@ namespace ombrivane {
 /// A handler for a completion whose first act is the hop to the main queue. What `then` holds goes with it,
 /// so that a screen never dies on a thread of the network.
 template <class Result, class Then> auto onMain(Then then) {
-    return [then = std::move(then)](Result result, std::optional<Error> error) mutable {
+    return [then = std::optional(std::move(then))](Result result, std::optional<Error> error) mutable {
+        // Handed on only once, also where the hop failed.
+        if (!then) return;
         mainQueue().async(
-            [then = std::move(then), result = std::move(result), error = std::move(error)]() mutable {
-                then(std::move(result), std::move(error));
-            });
+            [then = *std::exchange(then, std::nullopt),
+             result = std::move(result),
+             error = std::move(error)]() mutable { then(std::move(result), std::move(error)); });
     };
 }
 

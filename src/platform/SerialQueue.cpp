@@ -1,6 +1,6 @@
 #include "platform/SerialQueue.h"
 
-#include "support/Fault.h"
+#include "support/Attempted.h"
 
 #include <condition_variable>
 #include <deque>
@@ -74,7 +74,7 @@ void SerialQueue::run(const std::shared_ptr<State>& state) {
         Step step = std::move(state->steps.front());
         state->steps.pop_front();
         lock.unlock();
-        guarded(step);
+        contained(step);
         step = nullptr;
         lock.lock();
     }

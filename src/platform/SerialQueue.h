@@ -19,7 +19,8 @@ public:
     /// Waits for the step that is running and lets the others go without running them.
     ~SerialQueue();
 
-    /// Runs `step` once, after those queued before. Any thread. A step that is left by a fault ends there.
+    /// Runs `step` once, after those queued before. Any thread. A step that is left by a fault or an
+    /// exception ends there.
     void async(Step step);
 
 private:

@@ -10,32 +10,29 @@
 #include "records/FlightSearchOneWay.h"
 #include "records/FlightSearchRoundTrip.h"
 #include "records/FlightTicketing.h"
+#include "records/JsonDocument.h"
 #include "records/Passenger.h"
 #include "records/PaymentSummary.h"
 
 namespace ombrivane {
 
-template <class Record> void decode(const simdjson::dom::element& element, Record& record) {
-    Decoder<Record>::decode(element, record);
+template <class Record> void decode(const simdjson::dom::element& element, Record& record, DecodeRoom& room) {
+    Decoder<Record>::decode(element, record, room);
 }
 
 template <class Record> Record decode(const simdjson::dom::element& element) {
     Record record;
-    decode(element, record);
+    DecodeRoom room;
+    decode(element, record, room);
     return record;
 }
 
 template <class Record> Record decodeText(std::string_view json) {
-    simdjson::dom::parser parser;
-    simdjson::dom::element root;
-    if (const auto failure = parser.parse(json.data(), json.size()).get(root)) {
-        throw DecodeError(notUnderstood, simdjson::error_message(failure));
-    }
-    return decode<Record>(root);
+    return decode<Record>(JsonDocument(json).root());
 }
 
 #define OMBRIVANE_DECODES(Record)                                                                            \
-    template void decode<Record>(const simdjson::dom::element&, Record&);                                    \
+    template void decode<Record>(const simdjson::dom::element&, Record&, DecodeRoom&);                       \
     template Record decode<Record>(const simdjson::dom::element&);                                           \
     template Record decodeText<Record>(std::string_view);
 

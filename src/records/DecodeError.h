@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Error.h"
+#include "support/Attempted.h"
 
 #include <stdexcept>
 #include <string>
@@ -13,7 +13,7 @@ inline constexpr const char* notUnderstood = "The service's answer could not be 
 
 /// A record that did not decode: where it failed and why. Thrown inside of one decode and turned into an
 /// `Error` before a completion hears of it.
-class DecodeError : public std::exception {
+class DecodeError : public std::exception, public ErrorSource {
 public:
     /// @param description what the customer may read
     /// @param reason what was wrong, for the developer
@@ -29,7 +29,7 @@ public:
     const char* what() const noexcept override { return reason_.c_str(); }
 
     /// With "path: reason" for the developer.
-    Error error() const;
+    Error error() const override;
 
 private:
     std::string path_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "records/DecodeError.h"
+#include "records/DecodeRoom.h"
 #include "records/Wire.h"
 #include "support/Uuid.h"
 
@@ -27,15 +28,16 @@ template <class T> struct Decoder;
 }
 
 template <> struct Decoder<std::string> {
-    static void decode(const JsonElement& json, std::string& value) {
+    static void decode(const JsonElement& json, std::string& value, DecodeRoom& room) {
         std::string_view text;
         if (json.get(text) != simdjson::SUCCESS) wants("a text");
+        room.takeText(text.size());
         value.assign(text);
     }
 };
 
 template <> struct Decoder<bool> {
-    static void decode(const JsonElement& json, bool& value) {
+    static void decode(const JsonElement& json, bool& value, DecodeRoom& /*room*/) {
         if (json.get(value) != simdjson::SUCCESS) wants("true or false");
     }
 };
@@ -51,19 +53,19 @@ template <> struct Decoder<std::int64_t> {
         value = static_cast<std::int64_t>(number);
         return true;
     }
-    static void decode(const JsonElement& json, std::int64_t& value) {
+    static void decode(const JsonElement& json, std::int64_t& value, DecodeRoom& /*room*/) {
         if (!read(json, value)) wants("a whole number");
     }
 };
 
 template <> struct Decoder<double> {
-    static void decode(const JsonElement& json, double& value) {
+    static void decode(const JsonElement& json, double& value, DecodeRoom& /*room*/) {
         if (json.get(value) != simdjson::SUCCESS) wants("a number");
     }
 };
 
 template <> struct Decoder<Uuid> {
-    static void decode(const JsonElement& json, Uuid& value) {
+    static void decode(const JsonElement& json, Uuid& value, DecodeRoom& /*room*/) {
         std::string_view text;
         const auto uuid = json.get(text) == simdjson::SUCCESS ? Uuid::parse(text) : std::nullopt;
         if (!uuid) wants("the text of a UUID");
@@ -72,13 +74,14 @@ template <> struct Decoder<Uuid> {
 };
 
 template <TaggedScalar T> struct Decoder<T> {
-    static void decode(const JsonElement& json, T& value) {
+    static void decode(const JsonElement& json, T& value, DecodeRoom& room) {
         using First = std::variant_alternative_t<0, typename T::Payload>;
         First first{};
         std::string_view text;
         if (readFirst(json, first)) {
             value.payload = first;
         } else if (json.get(text) == simdjson::SUCCESS) {
+            room.takeText(text.size());
             value.payload = std::string(text);
         } else {
             throw DecodeError(std::string(T::wrongType), std::string(T::wrongType));
@@ -95,20 +98,22 @@ private:
 };
 
 template <class T> struct Decoder<std::optional<T>> {
-    static void decode(const JsonElement& json, std::optional<T>& value) {
+    static void decode(const JsonElement& json, std::optional<T>& value, DecodeRoom& room) {
         if (json.is_null()) return value.reset();
-        Decoder<T>::decode(json, value.emplace());
+        Decoder<T>::decode(json, value.emplace(), room);
     }
 };
 
 template <class T> struct Decoder<std::vector<T>> {
-    static void decode(const JsonElement& json, std::vector<T>& values) {
+    static void decode(const JsonElement& json, std::vector<T>& values, DecodeRoom& room) {
         simdjson::dom::array array;
         if (json.get(array) != simdjson::SUCCESS) wants("an array");
+        // The elements were parsed, so that there are as many, and they are paid for.
+        room.takeList(array.size(), sizeof(T));
         values.reserve(array.size());
         for (const JsonElement element : array) {
             try {
-                Decoder<T>::decode(element, values.emplace_back());
+                Decoder<T>::decode(element, values.emplace_back(), room);
             } catch (DecodeError& error) {
                 error.within(values.size() - 1);
                 throw;
@@ -121,25 +126,26 @@ template <class T> constexpr bool isOptional = false;
 template <class T> constexpr bool isOptional<std::optional<T>> = true;
 
 template <WireRecord T> struct Decoder<T> {
-    static void decode(const JsonElement& json, T& record) {
+    static void decode(const JsonElement& json, T& record, DecodeRoom& room) {
         simdjson::dom::object object;
         if (json.get(object) != simdjson::SUCCESS) wants("an object");
-        takeAll(object, record, std::make_index_sequence<std::tuple_size_v<decltype(T::wire)>>());
+        takeAll(object, record, room, std::make_index_sequence<std::tuple_size_v<decltype(T::wire)>>());
     }
 
 private:
     using Iterator = simdjson::dom::object::iterator;
 
     template <std::size_t... Row>
-    static void takeAll(const simdjson::dom::object& object, T& record, std::index_sequence<Row...> /*all*/) {
+    static void takeAll(const simdjson::dom::object& object, T& record, DecodeRoom& room,
+                        std::index_sequence<Row...> /*all*/) {
         auto next = object.begin();
-        (take<Row>(object, next, record), ...);
+        (take<Row>(object, next, record, room), ...);
     }
 
     /// Keys usually arrive in the order of the table, so the one that follows is looked at first. One
     /// function for each row: comparing with a key that is known beforehand takes no call.
     template <std::size_t Row>
-    static void take(const simdjson::dom::object& object, Iterator& next, T& record) {
+    static void take(const simdjson::dom::object& object, Iterator& next, T& record, DecodeRoom& room) {
         constexpr auto row = std::get<Row>(T::wire);
         auto& value = record.*(row.member);
         using Value = std::decay_t<decltype(value)>;
@@ -154,7 +160,7 @@ private:
             next = found;
         }
         try {
-            Decoder<Value>::decode(next.value(), value);
+            Decoder<Value>::decode(next.value(), value, room);
         } catch (DecodeError& error) {
             error.within(row.key);
             throw;

@@ -1,29 +1,26 @@
 #pragma once
 
-#include <memory>
-#include <string>
+#include "records/JsonParser.h"
 
-namespace simdjson::dom {
-class element;
-}
+#include <simdjson.h>
+
+#include <string_view>
 
 namespace ombrivane {
 
 /// One parsed text of JSON. What is read from it is valid as long as it lives.
 class JsonDocument {
 public:
-    /// Parses and checks the whole of `bytes`. @throws DecodeError when they are no JSON (UTF-8, at most
-    /// 1,024 levels).
-    explicit JsonDocument(const std::string& bytes);
-    ~JsonDocument();
-    JsonDocument(const JsonDocument&) = delete;
-    JsonDocument& operator=(const JsonDocument&) = delete;
+    /// Parses and checks the whole of `bytes`. @throws DecodeError when they are no JSON, as `JsonParser`
+    /// says
+    explicit JsonDocument(std::string_view bytes) : root_(parser_.parse(bytes)) {}
 
-    const simdjson::dom::element& root() const;
+    const simdjson::dom::element& root() const { return root_; }
 
 private:
-    struct Parsed;
-    std::unique_ptr<Parsed> parsed_;
+    DecodeRoom room_;
+    JsonParser parser_{room_};
+    simdjson::dom::element root_;
 };
 
 } // namespace ombrivane

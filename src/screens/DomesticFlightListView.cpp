@@ -107,6 +107,12 @@ bool DomesticFlightListView::listIsEmpty() const {
                                               : flightListVM.filteredReturnFlights->empty();
 }
 
+bool DomesticFlightListView::canBeFiltered() const {
+    if (!flightListVM.hasReturnDate) return !flightListVM.onewayFlights->empty();
+    return flightListVM.index == departureTab ? !flightListVM.departureFlights->empty()
+                                              : !flightListVM.returnFlights->empty();
+}
+
 void DomesticFlightListView::tapReturnTab() {
     if (!flightListVM.flight.get()) return refuse("Please select a flight first.");
     flightListVM.index = returnTab;

@@ -27,6 +27,7 @@ protected:
     void sendSearch(const FlightQuery& query, bool roundTrip) override;
     std::shared_ptr<Screen> list() const override;
     bool listIsEmpty() const override;
+    bool canBeFiltered() const override;
     std::shared_ptr<Screen> makeFilter() override;
     std::optional<std::int64_t> totalCost() const override;
     std::optional<std::string> totalCurrency() const override;

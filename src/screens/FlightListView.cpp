@@ -64,6 +64,11 @@ bool FlightListView::listIsEmpty() const {
                                       : flightListVM.filteredOnewayFlights->empty();
 }
 
+bool FlightListView::canBeFiltered() const {
+    return flightListVM.hasReturnDate ? !flightListVM.roundtripFlights->empty()
+                                      : !flightListVM.onewayFlights->empty();
+}
+
 void FlightListView::clearSelection() {
     flightListVM.showContinueButton = false;
     selection().clear();

@@ -75,7 +75,7 @@ ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view model
         [this] { return !model_->hasReturnDate; }),
     openFilter(
         *this, "openFilter", [this] { model_->showFilterBottomSheet = true; },
-        [this] { return showsFloatingBar.get(); }),
+        [this] { return showsFloatingBar.get() && canBeFiltered(); }),
     scrollUp(
         *this, "scrollUp", [this] { model_->scrollToTop = true; }, [this] { return showsScrollUp.get(); }),
     continue_(
@@ -89,7 +89,14 @@ ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view model
     noFlights_(
         std::make_shared<NoFlightRecommendationsView>(false, [] { AppState::shared().resetNavigation(); })),
     nothingLeft_(std::make_shared<NoFlightRecommendationsView>(
-        true, [shared = model_] { shared->showFilterBottomSheet = true; })),
+        true,
+        [this] {
+            if (canBeFiltered()) {
+                model_->showFilterBottomSheet = true;
+            } else {
+                AppState::shared().resetNavigation(); // no filter left these out
+            }
+        })),
     filterSheet_(*this, Presentation::sheet, model_->showFilterBottomSheet, [this] { return makeFilter(); }),
     returnDateSheet_(*this, Presentation::sheet, model_->showCustomRoundtripDatePickerBottomSheet,
                      [this] {

@@ -79,6 +79,8 @@ protected:
     virtual void clearForSearch() {}
     virtual std::shared_ptr<Screen> list() const = 0;
     virtual bool listIsEmpty() const = 0;
+    /// Whether the list that is shown has offers, filtered out or not.
+    virtual bool canBeFiltered() const = 0;
     virtual std::shared_ptr<Screen> makeFilter() = 0;
     virtual std::optional<std::int64_t> totalCost() const = 0;
     virtual std::optional<std::string> totalCurrency() const = 0;

@@ -43,13 +43,13 @@ template <class Visit> void FilterBottomSheetViewModel::visitOffers(Visit visit)
 void FilterBottomSheetViewModel::calculateMaxPrice() {
     std::int64_t most = 0;
     visitOffers([&most](const auto& offer) { most = std::max(most, offer.fareInformation.totalCost); });
-    maxPrice = static_cast<double>(most);
+    maxPrice = amountOf(most);
 }
 
 void FilterBottomSheetViewModel::calculateMinPrice() {
     std::int64_t least = dearest;
     visitOffers([&least](const auto& offer) { least = std::min(least, offer.fareInformation.totalCost); });
-    minPrice = static_cast<double>(least);
+    minPrice = amountOf(least);
 }
 
 void FilterBottomSheetViewModel::collectAirlines() {
@@ -81,8 +81,8 @@ void FilterBottomSheetViewModel::applyFilter(double price, const std::string& se
         if (selectedId != allAirlines && journey.carrierName != selectedId) return false;
         if (offer->fareInformation.totalCost > ceiling) return false;
         if (bucket == nullptr) return true;
-        const std::int64_t hour = departureHour(journey.timeOfDeparture);
-        return hour >= bucket->firstHour && hour <= bucket->lastHour;
+        const auto hour = departureHour(journey.timeOfDeparture);
+        return hour && *hour >= bucket->firstHour && *hour <= bucket->lastHour;
     };
     const auto filter = [&passes](const auto& offers) {
         std::decay_t<decltype(offers)> kept;

@@ -1,7 +1,5 @@
 #include "search/TimeBucket.h"
 
-#include "support/Fault.h"
-
 #include <charconv>
 
 namespace ombrivane {
@@ -13,9 +11,9 @@ const TimeBucket* timeBucket(const std::string& key) {
     return nullptr;
 }
 
-std::int64_t departureHour(const std::string& time) {
+std::optional<std::int64_t> departureHour(const std::string& time) {
     const std::string_view piece = std::string_view(time).substr(0, time.find(':'));
-    if (piece.empty()) fatalFault("a departure time has no hour: \"" + time + "\"");
+    if (piece.empty()) return std::nullopt;
     std::int64_t hour = 0;
     const char* end = piece.data() + piece.size();
     const auto [stop, failure] = std::from_chars(piece.data(), end, hour);

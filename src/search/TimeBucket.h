@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace ombrivane {
@@ -27,8 +28,8 @@ inline constexpr std::array<TimeBucket, 4> timeBuckets{{
 /// The bucket with `key`, or nullptr.
 const TimeBucket* timeBucket(const std::string& key);
 
-/// The whole number before the first ":" of a departure time, 0 where there is none. Nothing before the ":"
-/// is a fault.
-std::int64_t departureHour(const std::string& time);
+/// The whole number before the first ":" of a departure time, 0 where another text stands, and no hour where
+/// none does.
+std::optional<std::int64_t> departureHour(const std::string& time);
 
 } // namespace ombrivane

@@ -2,6 +2,7 @@
 
 #include "support/Fault.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ombrivane {
@@ -12,10 +13,15 @@ std::int64_t wholeNumber(double value, const std::string& what) {
     return static_cast<std::int64_t>(value);
 }
 
+double amountOf(std::int64_t amount) {
+    constexpr double most = 9223372036854774784.0; // 2^63 - 1024
+    return std::min(static_cast<double>(amount), most);
+}
+
 std::int64_t sumOf(std::int64_t one, std::int64_t other) {
     std::int64_t sum = 0;
-    if (__builtin_add_overflow(one, other, &sum)) fatalFault("the sum of two fares overflows");
-    return sum;
+    if (!__builtin_add_overflow(one, other, &sum)) return sum;
+    return one > 0 ? INT64_MAX : INT64_MIN;
 }
 
 bool exceedsBalance(std::int64_t amount, const std::optional<double>& walletBalance) {

@@ -10,7 +10,10 @@ namespace ombrivane {
 /// `what`.
 std::int64_t wholeNumber(double value, const std::string& what);
 
-/// The sum of two amounts. An overflow is a fault.
+/// `amount` as a double that is a 64-bit number again: the largest are not exact, and would round up beyond.
+double amountOf(std::int64_t amount);
+
+/// The sum of two amounts, or the amount next to it that there is.
 std::int64_t sumOf(std::int64_t one, std::int64_t other);
 
 /// Whether `amount` is more than the wallet holds, its balance truncated to whole units; without a balance

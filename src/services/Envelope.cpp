@@ -13,6 +13,9 @@
 
 #include <simdjson.h>
 
+#include <algorithm>
+#include <deque>
+
 namespace ombrivane {
 namespace {
 
@@ -53,20 +56,26 @@ simdjson::dom::array arrayOf(const element& value) {
     return array;
 }
 
+template <class Record> Record decoded(const element& value, DecodeRoom& room) {
+    Record record;
+    decode(value, record, room);
+    return record;
+}
+
 /// Decodes each element by itself into a place of its own.
-template <class Record> std::vector<Record> decodeEach(const element& value) {
+template <class Record> std::vector<Record> decodeEach(const element& value, DecodeRoom& room) {
     const simdjson::dom::array array = arrayOf(value);
+    room.takeList(array.size(), sizeof(Record));
     std::vector<Record> records;
-    records.reserve(array.size());
     for (const element item : array)
-        within(records.size(), [&] { decode(item, records.emplace_back()); });
+        within(records.size(), [&] { decode(item, records.emplace_back(), room); });
     return records;
 }
 
-/// Pointers to the records of one list, which lives as long as any of them is held: one allocation, and one
-/// count for all, which stays in the cache while a list of pointers is copied.
-template <class Record> std::vector<std::shared_ptr<const Record>> shared(std::vector<Record> records) {
-    const auto list = std::make_shared<const std::vector<Record>>(std::move(records));
+/// Pointers to the records of one list, which lives as long as any of them is held, by one count for all,
+/// which stays in the cache while a list of pointers is copied.
+template <class Record> std::vector<std::shared_ptr<const Record>> shared(std::deque<Record> records) {
+    const auto list = std::make_shared<const std::deque<Record>>(std::move(records));
     std::vector<std::shared_ptr<const Record>> pointers;
     pointers.reserve(list->size());
     for (const Record& record : *list)
@@ -85,7 +94,7 @@ std::string Envelope::failureMessage() const {
 
 template <class Record> Record Envelope::record() const {
     const element data = answer_.value("data");
-    return within(std::string_view("data"), [&] { return decode<Record>(data); });
+    return within(std::string_view("data"), [&] { return decoded<Record>(data, answer_.room()); });
 }
 
 element Envelope::memberOfData(std::string_view key) const {
@@ -95,12 +104,12 @@ element Envelope::memberOfData(std::string_view key) const {
 
 template <class Record> Record Envelope::record(std::string_view key) const {
     const element value = memberOfData(key);
-    return within("data." + std::string(key), [&] { return decode<Record>(value); });
+    return within("data." + std::string(key), [&] { return decoded<Record>(value, answer_.room()); });
 }
 
 template <class Record> std::vector<Record> Envelope::records(std::string_view key) const {
     const element value = memberOfData(key);
-    return within("data." + std::string(key), [&] { return decodeEach<Record>(value); });
+    return within("data." + std::string(key), [&] { return decodeEach<Record>(value, answer_.room()); });
 }
 
 std::string Envelope::text(std::string_view key) const {
@@ -108,34 +117,57 @@ std::string Envelope::text(std::string_view key) const {
     return within(std::string_view("data"), [&] { return textOf(at(data, key), key); });
 }
 
-template <class Offer> std::vector<std::shared_ptr<const Offer>> Envelope::offers() const {
+template <class Offer, class Each>
+std::vector<std::shared_ptr<const Offer>> Envelope::decodeOffers(const JsonAnswer::Elements& elements,
+                                                                 Each each) const {
+    std::deque<Offer> offers; // grows with what has been decoded, and moves none of it
+    for (const std::string_view json : elements) {
+        within(offers.size(), [&] {
+            answer_.room().take(sizeof(Offer));
+            Offer& offer = offers.emplace_back();
+            decode(answer_.parsed(json), offer, answer_.room());
+            each(offer, json);
+        });
+    }
+    return shared(std::move(offers));
+}
+
+const JsonAnswer::Elements& Envelope::elements() const {
     const auto& elements = answer_.elements();
     if (!elements) {
         answer_.value("data"); // which may be missing
         breach("data", "wants an array");
     }
+    return *elements;
+}
+
+template <class Offer> std::vector<std::shared_ptr<const Offer>> Envelope::offers() const {
+    const auto& list = elements();
     return within(std::string_view("data"), [&] {
-        std::vector<Offer> offers;
-        offers.reserve(elements->size());
-        for (const std::string_view json : *elements) {
-            within(offers.size(), [&] {
-                Offer& offer = offers.emplace_back();
-                decode(answer_.parsed(json), offer);
-                offer.rawData = answer_.rawData(json);
-            });
-        }
-        return shared(std::move(offers));
+        return decodeOffers<Offer>(
+            list, [this](Offer& offer, std::string_view json) { offer.rawData = answer_.rawData(json); });
     });
 }
 
-template <class Offer> std::vector<std::shared_ptr<const Offer>> Envelope::offersAt(std::size_t index) const {
-    const element data = answer_.value("data");
+template <class Offer>
+std::array<std::vector<std::shared_ptr<const Offer>>, 2> Envelope::pairOfOffers() const {
+    const auto& lists = elements();
     return within(std::string_view("data"), [&] {
-        element list;
-        if (arrayOf(data).at(index).get(list) != simdjson::SUCCESS) {
-            throw DecodeError(notUnderstood, "lacks its list " + std::to_string(index));
+        std::array<std::vector<std::shared_ptr<const Offer>>, 2> pair;
+        for (std::size_t index = 0; index < std::max(lists.size(), pair.size()); ++index) {
+            if (index >= lists.size()) {
+                throw DecodeError(notUnderstood, "lacks its list " + std::to_string(index));
+            }
+            within(index, [&] {
+                if (index < pair.size()) {
+                    pair.at(index) = decodeOffers<Offer>(answer_.elementsOf(lists[index]),
+                                                         [](Offer& /*offer*/, std::string_view /*json*/) {});
+                } else {
+                    answer_.parsed(lists[index]); // nobody reads it, but it is part of the answer
+                }
+            });
         }
-        return within(index, [&] { return shared(decodeEach<Offer>(list)); });
+        return pair;
     });
 }
 
@@ -158,6 +190,6 @@ template std::vector<Country> Envelope::records(std::string_view) const;
 template std::vector<Airport> Envelope::records(std::string_view) const;
 template OneWayOffers Envelope::offers() const;
 template RoundTripOffers Envelope::offers() const;
-template OneWayOffers Envelope::offersAt(std::size_t) const;
+template std::array<OneWayOffers, 2> Envelope::pairOfOffers() const;
 
 } // namespace ombrivane

@@ -2,10 +2,12 @@
 
 #include "records/JsonAnswer.h"
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ombrivane {
@@ -16,7 +18,9 @@ namespace ombrivane {
 class Envelope {
 public:
     /// @throws DecodeError for bytes that are no JSON object; one inside of a list shows when it is read
-    explicit Envelope(const std::string& bytes) : answer_(bytes, "data") {}
+    /// @param room what reading may take beyond the bytes
+    explicit Envelope(std::string bytes, std::size_t room = limits::structureBytes) :
+        answer_(std::move(bytes), "data", room) {}
 
     bool success() const;
     /// The service's own message of a failure: `data.error`.
@@ -33,15 +37,23 @@ public:
 
     /// The offers of the array that `data` is, each with its own JSON in `rawData`.
     template <class Offer> std::vector<std::shared_ptr<const Offer>> offers() const;
-    /// The offers of the array at `index` of the array that `data` is, without `rawData`.
-    template <class Offer> std::vector<std::shared_ptr<const Offer>> offersAt(std::size_t index) const;
+    /// The offers of the two arrays that the array `data` begins with, without `rawData`.
+    template <class Offer> std::array<std::vector<std::shared_ptr<const Offer>>, 2> pairOfOffers() const;
 
     /// A value beside `success`.
     bool topLevelFlag(std::string_view key) const;
     std::string topLevelText(std::string_view key) const;
 
+    /// Checks what nobody has read: without it, an answer that is no JSON in there would pass.
+    /// @throws DecodeError
+    void checkUnread() const { answer_.checkUnread(); }
+
 private:
     simdjson::dom::element memberOfData(std::string_view key) const;
+    const JsonAnswer::Elements& elements() const;
+    template <class Offer, class Each>
+    std::vector<std::shared_ptr<const Offer>> decodeOffers(const JsonAnswer::Elements& elements,
+                                                           Each each) const;
 
     JsonAnswer answer_;
 };

@@ -15,8 +15,8 @@ void FlightSearchRoundTripProvider::searchSpecialRoundFlights(
     send<SpecialRoundFlights>(
         searchCall(query),
         [](const Envelope& envelope) {
-            return SpecialRoundFlights{envelope.offersAt<FlightSearchOneWay>(0),
-                                       envelope.offersAt<FlightSearchOneWay>(1)};
+            auto [departing, returning] = envelope.pairOfOffers<FlightSearchOneWay>();
+            return SpecialRoundFlights{std::move(departing), std::move(returning)};
         },
         completion);
 }

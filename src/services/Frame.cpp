@@ -1,14 +1,23 @@
 #include "services/Frame.h"
 
 #include "platform/Platform.h"
-#include "records/DecodeError.h"
 #include "services/CustomError.h"
 #include "services/Reachability.h"
 #include "services/Url.h"
 #include "state/AppState.h"
+#include "support/Attempted.h"
+
+#include <string_view>
 
 namespace ombrivane {
 namespace {
+
+/// A line end in a header could begin a second request. @throws Error
+void requireOneLine(const std::string& name, const std::string& value) {
+    using namespace std::string_view_literals;
+    if (value.find_first_of("\r\n\0"sv) == std::string::npos) return;
+    throw Error{"Encoding", 0, "The request could not be written.", name + ": more than one line"};
+}
 
 HttpRequest requestFor(const ServiceCall& call, std::string url) {
     HttpRequest request;
@@ -21,43 +30,47 @@ HttpRequest requestFor(const ServiceCall& call, std::string url) {
     if (call.bearerToken) {
         request.headers.emplace_back("Authorization", "Bearer " + AppState::shared().accessToken.get());
     }
-    request.body = call.body();
+    for (const auto& [name, value] : request.headers)
+        requireOneLine(name, value);
+    if (call.pieces) {
+        request.pieces = call.pieces();
+    } else {
+        request.body = call.body();
+    }
     return request;
 }
 
-Error refusal(const std::string& domain, std::string message) { return {domain, 0, std::move(message)}; }
+HttpAnswer failed(Error error) { return {std::nullopt, std::move(error)}; }
 
 } // namespace
 
-void detail::perform(const ServiceCall& call, std::function<void(const Envelope&)> answered,
-                     std::function<void(std::optional<Error>)> failed) {
-    if (!Reachability::isConnectedToNetwork()) return failed(makeError(CustomError::noInternetConnection));
-    std::string url = call.url();
-    if (!isUrl(url)) return failed(makeError(CustomError::invalidUrl));
-    std::optional<HttpRequest> request;
-    try {
-        request = requestFor(call, std::move(url));
-    } catch (const Error& error) {
-        return failed(error);
+void detail::perform(const ServiceCall& call, HttpCompletion answered) {
+    if (!Reachability::isConnectedToNetwork()) {
+        return answered(failed(makeError(CustomError::noInternetConnection)));
     }
+    std::string url = call.url();
+    if (!isUrl(url)) return answered(failed(makeError(CustomError::invalidUrl)));
+    HttpRequest request;
+    auto failure = attempted([&] { request = requestFor(call, std::move(url)); });
+    if (failure) return answered(failed(*std::move(failure)));
+    platform().network->send(std::move(request), std::move(answered));
+}
 
-    platform().network->send(std::move(*request),
-                             [answered = std::move(answered),
-                              failed = std::move(failed),
-                              domain = call.failureDomain](HttpAnswer answer) {
-                                 // The response itself is not looked at: a status says less than the
-                                 // envelope.
-                                 if (!answer.data || answer.error) return failed(std::move(answer.error));
-                                 std::optional<Error> failure;
-                                 try {
-                                     const Envelope envelope(*answer.data);
-                                     if (envelope.success()) return answered(envelope);
-                                     failure = refusal(domain, envelope.failureMessage());
-                                 } catch (const DecodeError& error) {
-                                     failure = error.error();
-                                 }
-                                 failed(std::move(failure));
-                             });
+std::optional<Error> detail::readAnswer(HttpAnswer answer, const std::string& failureDomain,
+                                        const std::function<void(const Envelope&)>& read) {
+    // The response itself is not looked at: a status says less than the envelope.
+    if (!answer.data || answer.error) return std::move(answer.error);
+    std::optional<Error> refusal;
+    auto failure = attempted([&] {
+        const Envelope envelope(*std::move(answer.data));
+        if (envelope.success()) {
+            read(envelope);
+        } else {
+            refusal = Error{failureDomain, 0, envelope.failureMessage()};
+        }
+        envelope.checkUnread();
+    });
+    return failure ? failure : refusal;
 }
 
 } // namespace ombrivane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/HttpRequest.h"
 #include "platform/Limits.h"
 #include "services/Envelope.h"
 #include "support/Completion.h"
@@ -8,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ombrivane {
 
@@ -22,6 +24,8 @@ struct ServiceCall {
     /// Asked for when the request is otherwise built. No text: the request goes out without a body. An
     /// `Error` that it throws ends the call before anything is sent.
     std::function<std::optional<std::string>()> body = [] { return std::nullopt; };
+    /// In place of `body` for a long one, see `HttpRequest::pieces`.
+    std::function<std::vector<std::string>()> pieces;
     std::string contentType = "application/json";
     bool bearerToken = true;
     std::string failureDomain = serviceDomain;
@@ -31,11 +35,14 @@ struct ServiceCall {
 
 namespace detail {
 
-/// Goes through the frame: the online check, the address, the request. `answered` hears of the envelope of a
-/// success on a thread of the network; `failed` of everything else, on that thread or, before anything was
-/// sent, on the caller's.
-void perform(const ServiceCall& call, std::function<void(const Envelope&)> answered,
-             std::function<void(std::optional<Error>)> failed);
+/// Goes through the frame: the online check, the address, the request. `answered` hears of the answer on a
+/// thread of the network, or of why nothing was sent on the caller's.
+void perform(const ServiceCall& call, HttpCompletion answered);
+
+/// Hands the envelope of a success to `read`. @return why there is no success, or nothing also where the
+/// network has neither bytes nor an error
+std::optional<Error> readAnswer(HttpAnswer answer, const std::string& failureDomain,
+                                const std::function<void(const Envelope&)>& read);
 
 } // namespace detail
 
@@ -46,9 +53,13 @@ template <class Result>
 void send(const ServiceCall& call, std::function<Result(const Envelope&)> read,
           const Completion<Result>& completion) {
     detail::perform(
-        call,
-        [read = std::move(read), completion](const Envelope& envelope) { completion(read(envelope)); },
-        [completion](std::optional<Error> error) { completion(Result(), std::move(error)); });
+        call, [read = std::move(read), completion, domain = call.failureDomain](HttpAnswer answer) {
+            std::optional<Result> result;
+            auto error = detail::readAnswer(
+                std::move(answer), domain, [&](const Envelope& envelope) { result.emplace(read(envelope)); });
+            if (error || !result) return completion(Result(), std::move(error));
+            completion(*std::move(result));
+        });
 }
 
 } // namespace ombrivane

@@ -4,6 +4,8 @@
 
 #include <fmt/core.h>
 
+#include <utility>
+
 namespace ombrivane {
 
 MultipartForm::MultipartForm() : boundary_("Boundary-" + Uuid::random().text()) {}
@@ -27,19 +29,9 @@ void MultipartForm::addFile(std::string_view name, std::string_view fileName, st
     pieces_.emplace_back("\r\n");
 }
 
-std::string MultipartForm::finished() {
+std::vector<std::string> MultipartForm::finished() {
     pieces_.push_back("--" + boundary_ + "--");
-    std::size_t size = 0;
-    for (const auto& piece : pieces_)
-        size += piece.size();
-    std::string bytes;
-    bytes.reserve(size);
-    for (auto& piece : pieces_) {
-        bytes += piece;
-        piece = std::string(); // with its memory
-    }
-    pieces_.clear();
-    return bytes;
+    return std::exchange(pieces_, {});
 }
 
 } // namespace ombrivane

@@ -18,9 +18,9 @@ public:
     void addText(std::string_view name, std::string_view value);
     void addFile(std::string_view name, std::string_view fileName, std::string_view type, std::string data);
 
-    /// All parts and the closing boundary, with no line end after it. Each piece is let go of as it is
-    /// joined; the form is empty then.
-    std::string finished();
+    /// All parts and the closing boundary, with no line end after it, as pieces that follow one another. The
+    /// form is empty then.
+    std::vector<std::string> finished();
 
 private:
     std::string boundary_;

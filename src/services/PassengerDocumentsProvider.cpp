@@ -6,12 +6,15 @@
 #include "services/MultipartForm.h"
 #include "state/AppState.h"
 
+#include <algorithm>
+
 namespace ombrivane {
 namespace {
 
+/// @throws Error for a picture that cannot be written
 std::string pngOf(const DocumentPicture& picture) {
-    auto png = platform().images->pngOfJpeg(*picture.jpeg, documentLimits());
-    if (!png) fatalFault("a document picture has no PNG form");
+    auto png = picture.jpeg ? platform().images->pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
+    if (!png) throw Error{"Encoding", 0, "A document could not be sent.", "a picture has no PNG form"};
     return *std::move(png);
 }
 
@@ -27,13 +30,12 @@ void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers
     call.url = [] { return Endpoints::shared().documents; };
     call.contentType = form.contentType();
     call.wholeInterval = limits::upload;
-    call.body = [&]() -> std::optional<std::string> {
+    call.pieces = [&] {
         form.addText("user_type", AppState::shared().userType.get());
         form.addText("bookingReferenceID", bookingReferenceID);
-        for (std::size_t i = 0; i < bookedPassengers.size(); ++i) {
-            if (i >= passengers.size() || i >= documents.size()) {
-                fatalFault("the answer books more passengers than there are documents for");
-            }
+        // The answer may book more than were sent: nothing is known of those.
+        const auto known = std::min({bookedPassengers.size(), passengers.size(), documents.size()});
+        for (std::size_t i = 0; i < known; ++i) {
             const std::string& id = bookedPassengers[i].passengerID;
             form.addText("documentType[" + id + "]", passengers[i].documentType);
             if (documents[i]) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Attempted.h"
 #include "support/Error.h"
 #include "support/Fault.h"
 
@@ -13,7 +14,7 @@ namespace ombrivane {
 
 /// The one answer of an operation: a result and, when it failed, an error. Called exactly once: a second call
 /// is a fault, and one that is dropped without a call answers by itself with an error, so that nobody waits
-/// for ever. Any thread.
+/// for ever. A handler that throws hears once more, of the empty result and what it threw. Any thread.
 template <class Result> class Completion {
 public:
     using Handler = std::function<void(Result, std::optional<Error>)>;
@@ -44,7 +45,7 @@ private:
         State& operator=(const State&) = delete;
         ~State() {
             if (called || !handler) return;
-            guarded([this] {
+            contained([this] {
                 handler(Result(), Error{"Ombrivane", 1, "The operation ended without an answer."});
             });
         }
@@ -55,7 +56,8 @@ private:
             called = true;
             // The last call lets go of what the handler holds, on the thread that it hands it to.
             Handler now = remaining == 0 ? std::exchange(handler, nullptr) : handler;
-            now(std::move(result), std::move(error));
+            const auto thrown = attempted([&] { now(std::move(result), std::move(error)); });
+            if (thrown) attempted([&] { now(Result(), thrown); });
         }
 
         Handler handler;

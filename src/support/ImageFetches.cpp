@@ -3,6 +3,7 @@
 #include "platform/Limits.h"
 #include "platform/Platform.h"
 #include "platform/SerialQueue.h"
+#include "support/Attempted.h"
 
 #include <algorithm>
 #include <deque>
@@ -50,7 +51,9 @@ struct ImageFetches::State : std::enable_shared_from_this<State> {
             url, [deliver, codec = platform().images, queue = processing](HttpAnswer answer) {
                 if (!answer.data) return deliver(std::nullopt);
                 queue->async([deliver, codec, data = std::move(*answer.data)] {
-                    deliver(codec->decode(data, logoLimits()));
+                    std::optional<Image> image;
+                    attempted([&] { image = codec->decode(data, logoLimits()); });
+                    deliver(std::move(image));
                 });
             });
     }

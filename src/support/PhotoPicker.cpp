@@ -1,6 +1,7 @@
 #include "support/PhotoPicker.h"
 
 #include "platform/Platform.h"
+#include "support/Attempted.h"
 #include "support/Fault.h"
 
 #include <memory>
@@ -22,7 +23,8 @@ void PhotoPicker::disappear() { platform().photos->dismiss(); }
 void PhotoPicker::didFinishPicking(const PhotoLibrary::Picked& picked) {
     if (!picked.cancelled && picked.editedImage) {
         // A picture that cannot be compressed is none; the customer may pick another.
-        auto jpeg = platform().images->jpeg(*picked.editedImage, compressionQuality);
+        std::optional<std::string> jpeg;
+        attempted([&] { jpeg = platform().images->jpeg(*picked.editedImage, compressionQuality); });
         if (!jpeg) return;
         image = DocumentPicture{picked.editedImage->width,
                                 picked.editedImage->height,

@@ -193,6 +193,43 @@ TEST_P(SessionTest, OneAvailabilityIsUnderWayAndTheFormsWaitForItsSlots) {
     EXPECT_EQ(world.network->outstanding(), 0U);
 }
 
+TEST_P(SessionTest, AnAvailabilityThatCountsNobodyIsNotReserved) {
+    wallet.adults = 0;
+    wallet.toReady();
+    wallet.tap("continue");
+    EXPECT_EQ(message(), "Please fill the details for all passengers.");
+    EXPECT_EQ(wallet.sentTo("reservation"), 0U);
+}
+
+TEST_P(SessionTest, AReservationStandsWhomeverItNames) {
+    wallet.toReady();
+    for (const std::size_t named : {3U, 0U}) {
+        SCOPED_TRACE(named);
+        if (wallet.isShown()) wallet.tap("continue");
+        Json answer = wallet.honest();
+        Json& passengers = answer["data"]["bookingSummary"]["passengers"];
+        const Json passenger = passengers.at(0);
+        passengers = Json::array();
+        for (std::size_t i = 0; i < named; ++i) {
+            passengers.push_back(passenger);
+            passengers.back()["passengerID"] = "P" + std::to_string(i);
+        }
+        wallet.answer(answer);
+        if (documents) {
+            const std::string form = world.network->last().body.value_or("");
+            EXPECT_EQ(form.find("documentImage[P0]") != std::string::npos, named > 0);
+            EXPECT_EQ(form.find("P1"), std::string::npos) << "nothing is known of a second";
+            wallet.answer();
+        }
+        ASSERT_EQ(wallet.handedOver.size(), 1U);
+        EXPECT_EQ(wallet.handedOver.front()["bookingSummary"]["passengers"].size(), named);
+        if (named == 0) break;
+        wallet.handedOver.clear();
+        wallet.reserved = 0;
+        wallet.toReady();
+    }
+}
+
 TEST_P(SessionTest, AFailedAvailabilityLeavesAfterThreeSecondsUnlessTheCustomerWasFaster) {
     wallet.toGate();
     wallet.answer();

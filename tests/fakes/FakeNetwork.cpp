@@ -3,10 +3,13 @@
 #include "support/Fault.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace ombrivane::fakes {
 
 void FakeNetwork::send(HttpRequest request, HttpCompletion completion) {
+    for (const auto& piece : std::exchange(request.pieces, {}))
+        request.body = request.body.value_or("") + piece;
     sent_.push_back(request);
     open_.push_back({std::move(request), std::move(completion)});
 }

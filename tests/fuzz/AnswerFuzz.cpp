@@ -17,6 +17,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -33,6 +34,12 @@ template <class Function> auto unlessRefused(Function function) -> std::optional
     }
 }
 
+/// The answer behind its byte order mark.
+std::string_view withoutMark(std::string_view bytes) {
+    if (bytes.starts_with("\xef\xbb\xbf")) bytes.remove_prefix(3);
+    return bytes;
+}
+
 std::string text(const element& json) { return simdjson::minify(json); }
 
 /// Pieces may stand as deep as the whole, so that the whole may be a little deeper.
@@ -42,7 +49,7 @@ bool isDeep(const std::string& bytes) {
 
 /// The members and the elements of the list, as JSON without white space.
 std::string readAsWhole(const std::string& bytes) {
-    const JsonDocument document(bytes);
+    const JsonDocument document(withoutMark(bytes));
     simdjson::dom::object object;
     if (document.root().get(object) != simdjson::SUCCESS) throw DecodeError("", "no object");
     std::string all;
@@ -75,7 +82,7 @@ std::string readInPieces(const std::string& bytes, const std::vector<std::string
 
 std::vector<std::string> keysOf(const std::string& bytes) {
     std::vector<std::string> keys;
-    const JsonDocument document(bytes);
+    const JsonDocument document(withoutMark(bytes));
     simdjson::dom::object object;
     if (document.root().get(object) != simdjson::SUCCESS) return keys;
     for (const auto member : object)
@@ -94,7 +101,7 @@ void compareReading(const std::string& bytes) {
 template <class Offer> void compareOffers(const std::string& bytes) {
     const auto offers = unlessRefused([&] { return Envelope(bytes).offers<Offer>(); });
     auto whole = unlessRefused([&] {
-        const JsonDocument document(bytes);
+        const JsonDocument document(withoutMark(bytes));
         simdjson::dom::array list;
         if (document.root()["data"].get(list) != simdjson::SUCCESS) throw DecodeError("", "no list");
         std::vector<Offer> records;
@@ -130,7 +137,7 @@ void readAll(const std::string& bytes) {
     unlessRefused([&] { return answer.record<OWFlightAvailability>(); });
     unlessRefused([&] { return answer.records<Airport>("airports"); });
     unlessRefused([&] { return answer.record<FlightBooking>("order"); });
-    unlessRefused([&] { return answer.offersAt<FlightSearchOneWay>(1); });
+    unlessRefused([&] { return answer.pairOfOffers<FlightSearchOneWay>(); });
 }
 
 } // namespace

@@ -17,7 +17,9 @@ Parts partsOf(ombrivane::MultipartForm& form) {
     const std::string prefix = "multipart/form-data; boundary=";
     require(type.starts_with(prefix), "the type names the boundary");
     const std::string line = "--" + type.substr(prefix.size());
-    std::string body = form.finished();
+    std::string body;
+    for (const auto& piece : form.finished())
+        body += piece;
     Parts parts;
     while (!body.starts_with(line + "--")) {
         require(body.starts_with(line + "\r\n"), "a part begins with the boundary");

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <future>
+#include <new>
 #include <vector>
 
 namespace ombrivane {
@@ -28,6 +29,15 @@ TEST(SerialQueue, RunsStepsOfSeveralThreadsOneAtATimeOnAThreadOfItsOwn) {
         EXPECT_NE(ran.get_future().get(), std::this_thread::get_id());
     }
     EXPECT_EQ(count, 2000);
+}
+
+TEST(SerialQueue, GoesOnAfterAStepThatThrew) {
+    std::promise<void> ran;
+    SerialQueue queue("throwing");
+    queue.async([] { throw std::bad_alloc(); });
+    queue.async([] { throw 7; });
+    queue.async([&ran] { ran.set_value(); });
+    ran.get_future().get();
 }
 
 TEST(SerialQueue, FinishesTheRunningStepAndDropsTheOthersWhenItEnds) {

@@ -163,14 +163,26 @@ TEST_F(DomesticFlightListViewTest, TheOneSnackBarSaysTheMessageOfItsLastReason) 
     EXPECT_EQ(message(), "You don't have sufficient fund.");
 }
 
-TEST_F(DomesticFlightListViewTest, ASumThatOverflowsIsAFault) {
+TEST_F(DomesticFlightListViewTest, ASumThatNoNumberHoldsIsMoreThanTheWalletHas) {
+    appState.walletBalance = 1e9;
     openRound(std::numeric_limits<std::int64_t>::max() - 100, 5000);
+    chooseBoth();
+    screen->continue_();
+    EXPECT_EQ(message(), "You don't have sufficient fund.");
+    EXPECT_EQ(top(), "DomesticFlightListView");
+}
+
+TEST_F(DomesticFlightListViewTest, AnEmptyHalfHasNothingToFilter) {
+    open(true);
+    answer(Json::array({listOf({{"a", 10}}), Json::array()}));
+    EXPECT_TRUE(screen->openFilter.isEnabled());
     tapItem(0);
     screen->tapReturningFlights();
-    tapItem(0);
-    screen->continue_();
-    EXPECT_FALSE(world.takeFaults().empty());
-    EXPECT_EQ(top(), "DomesticFlightListView");
+    EXPECT_FALSE(screen->openFilter.isEnabled());
+    appState.domesticSearchRootViewActive = true;
+    std::static_pointer_cast<NoFlightRecommendationsView>(Navigator::withParts(screen).back())->button();
+    EXPECT_FALSE(model().showFilterBottomSheet);
+    EXPECT_FALSE(appState.domesticSearchRootViewActive);
 }
 
 TEST_F(DomesticFlightListViewTest, AFilterClearsByItsTabAndTheTabsShareItsSelection) {

@@ -330,13 +330,25 @@ TEST_F(FlightListViewTest, AFilterThatLeavesNothingOffersToBeModified) {
     EXPECT_EQ(top(), "FilterBottomSheetView");
 }
 
-TEST_F(FlightListViewTest, AFilterOverAListWithoutAnyOfferIsAFault) {
+TEST_F(FlightListViewTest, WithoutAnyOfferThereIsNothingToFilterAndTheWayLeadsToTheSearch) {
+    for (const bool roundTrip : {false, true}) {
+        open(roundTrip);
+        answer(Json::array());
+        EXPECT_FALSE(screen->openFilter.isEnabled());
+        appState.onewaySearchRootViewActive = true;
+        std::static_pointer_cast<NoFlightRecommendationsView>(Navigator::withParts(screen).back())->button();
+        EXPECT_FALSE(appState.onewaySearchRootViewActive);
+        EXPECT_FALSE(model().showFilterBottomSheet);
+    }
+}
+
+TEST_F(FlightListViewTest, TheDearestOfferCanBeFiltered) {
     open();
-    answer(Json::array());
+    answer(listOf({{"a", INT64_MAX}, {"b", INT64_MIN}}));
     screen->openFilter();
-    const auto faults = world.takeFaults();
-    ASSERT_EQ(faults.size(), 1U);
-    EXPECT_NE(faults[0].find("price range is empty"), std::string::npos);
+    EXPECT_FALSE(filter().priceRange.get().empty());
+    filter().apply();
+    EXPECT_EQ(top(), "FlightListView");
 }
 
 TEST_F(FlightListViewTest, TheStripOfARoundTripHasACardForEachPairOfTotalAndAirline) {

@@ -1,5 +1,6 @@
 #include "records/Decode.h"
 #include "services/FlightBookingProvider.h"
+#include "services/HeapMeter.h"
 #include "services/Outcome.h"
 #include "services/PassengerDocumentsProvider.h"
 #include "services/ServiceFixture.h"
@@ -93,24 +94,72 @@ TEST_F(BookingTest, DocumentsTravelAsAFormByteForByte) {
     EXPECT_NE(world.network->last().headers.front().second, contentType) << "each form has its own boundary";
 }
 
-TEST_F(BookingTest, DocumentsThatDoNotPairAreAFault) {
-    const Image impossible{2, 1, nullptr};
+TEST_F(BookingTest, NothingIsSentForWhoeverHasNoDocument) {
     const struct {
         std::size_t passengers;
-        std::vector<std::optional<Image>> documents;
-    } rows[] = {{1, {std::nullopt, std::nullopt}}, {2, {std::nullopt}}, {2, {std::nullopt, impossible}}};
+        std::size_t documents;
+        std::size_t sent;
+    } rows[] = {{1, 2, 1}, {2, 1, 1}, {0, 0, 0}, {3, 3, 2}};
     for (const auto& row : rows) {
-        const std::vector<Passenger> passengers(row.passengers);
-        EXPECT_FALSE(guarded([&] {
-            PassengerDocumentsProvider().upload(passengers,
-                                                row.documents,
-                                                {{"1", "", ""}, {"2", "", ""}},
-                                                "R1",
-                                                [](const auto&, const auto&) {});
-        }));
-        EXPECT_EQ(world.takeFaults().size(), 1U);
+        PassengerDocumentsProvider().upload(std::vector<Passenger>(row.passengers),
+                                            std::vector<std::optional<DocumentPicture>>(row.documents),
+                                            {{"P1", "", ""}, {"P2", "", ""}},
+                                            "R1",
+                                            [](const auto&, const auto&) {});
+        const std::string form = world.network->last().body.value_or("");
+        EXPECT_EQ(form.find("documentType[P1]") != std::string::npos, row.sent >= 1);
+        EXPECT_EQ(form.find("documentType[P2]") != std::string::npos, row.sent >= 2);
     }
+}
+
+TEST_F(BookingTest, APictureThatCannotBeWrittenIsAnErrorBeforeAnythingIsSent) {
+    Outcome outcome;
+    PassengerDocumentsProvider().upload(std::vector<Passenger>(1),
+                                        {DocumentPicture{2, 1, nullptr}},
+                                        {{"P1", "", ""}},
+                                        "R1",
+                                        into<Booking>(outcome));
+    ASSERT_TRUE(outcome.error);
+    EXPECT_EQ(outcome.error->localizedDescription, "A document could not be sent.");
     EXPECT_TRUE(world.network->sent().empty());
+}
+
+/// Takes what is sent as the network does, and joins nothing.
+class CountingNetwork final : public Network {
+public:
+    void send(HttpRequest request, HttpCompletion /*completion*/) override {
+        for (const auto& piece : request.pieces)
+            bytes += piece.size();
+    }
+    void fetchPicture(const std::string& /*url*/, HttpCompletion /*completion*/) override {}
+    std::size_t bytes = 0;
+};
+
+TEST_F(BookingTest, PicturesOfACameraTakeLittleMoreThanTheirOwnBytes) {
+    constexpr int width = 4000;
+    constexpr int height = 3000;
+    std::vector<std::uint8_t> points(std::size_t{4} * width * height);
+    for (std::size_t i = 0; i < points.size(); ++i) // like a photo: neither plain nor noise
+        points[i] = i % 4 == 3
+                        ? 255
+                        : static_cast<std::uint8_t>((i / 40 + i / (4 * width) * 3) ^ (i * 2654435761U >> 29));
+    auto jpeg = platform().images->jpeg(
+        {width, height, std::make_shared<std::vector<std::uint8_t>>(std::move(points))}, 0.5);
+    const DocumentPicture picture{width, height, std::make_shared<const std::string>(*std::move(jpeg))};
+    const std::size_t travellers = 3;
+    Platform ports = platform();
+    const auto network = std::make_shared<CountingNetwork>();
+    ports.network = network;
+    Platform::install(ports);
+    const std::vector<FlightBookingPassenger> booked(travellers, {"P", "", ""});
+    const HeapMeter meter;
+    PassengerDocumentsProvider().upload(std::vector<Passenger>(travellers),
+                                        std::vector<std::optional<DocumentPicture>>(travellers, picture),
+                                        booked,
+                                        "R1",
+                                        [](const auto&, const auto&) {});
+    EXPECT_GT(network->bytes, travellers * 1'000'000);
+    EXPECT_LT(meter.peak(), network->bytes + 64 * limits::mebibyte);
 }
 
 } // namespace

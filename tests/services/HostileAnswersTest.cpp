@@ -64,9 +64,22 @@ std::string deleted(const std::string& json, const JsonSpan& span) {
 }
 
 TEST_F(HostileAnswersTest, EveryValueDamaged) {
-    const std::string values[] = {"null", "true", "-1", "1e300", "9223372036854775808", "\"\"", "{}", "[]"};
-    const std::string rarer[] = {"[null]", "\"\\u0000\\\"]}\"", "0.5", "\"" + std::string(5000, 'x') + "\""};
-    const std::string noValues[] = {"nul", "\"", "\\", "{", "]", "1 2", "\"\\ud800\"", "\"\xc3\"", "1e999"};
+    const std::string values[] = {"null",
+                                  "true",
+                                  "-1",
+                                  "1e300",
+                                  "9223372036854775808",
+                                  "1e400",
+                                  "-123456789012345678901234567890",
+                                  "\"\"",
+                                  "{}",
+                                  "[]"};
+    const std::string rarer[] = {"[null]",
+                                 "\"\\u202e\\u0301\\ud83d\\ude00\"",
+                                 "\"\\u0000\\\"]}\"",
+                                 "0.5",
+                                 "\"" + std::string(5000, 'x') + "\""};
+    const std::string noValues[] = {"nul", "\"", "\\", "{", "]", "1 2", "\"\\ud800\"", "\"\xc3\"", "1e"};
     std::size_t turn = 0;
     for (const ClientCall& call : calls) {
         if (call.name == "search_special") continue; // its offers are those of one way

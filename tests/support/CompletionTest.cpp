@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <new>
 #include <string>
 #include <thread>
 #include <vector>
@@ -67,6 +68,19 @@ TEST_F(CompletionTest, LetsGoOfWhatItHoldsWithItsLastCall) {
     EXPECT_EQ(screen.use_count(), 2);
     answer(1);
     EXPECT_EQ(screen.use_count(), 1);
+}
+
+TEST_F(CompletionTest, AHandlerThatThrowsHearsOfItAndNothingEscapes) {
+    for (const bool throwsAgain : {false, true}) {
+        heard.clear();
+        const Answer answer{[&](std::optional<int> result, const std::optional<Error>& error) {
+            recording()(result, error);
+            if (result || throwsAgain) throw std::bad_alloc();
+        }};
+        EXPECT_NO_THROW(answer(1));
+        EXPECT_EQ(heard, (std::vector<std::string>{"1 -", "- Ombrivane"}));
+    }
+    EXPECT_NO_THROW((Answer{[](std::optional<int>, const std::optional<Error>&) { throw 7; }}));
 }
 
 TEST_F(CompletionTest, AFaultOfTheHandlerDoesNotEscapeFromTheDrop) {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <new>
 #include <thread>
 
 namespace ombrivane {
@@ -128,6 +129,33 @@ TEST_F(ImageLoaderTest, AFailureLeavesNoPictureAndTheNextLoadTriesAgain) {
         EXPECT_FALSE(cache->image(address));
     }
     EXPECT_EQ(world.network->sent().size(), failures.size());
+}
+
+/// Reads no picture.
+class ThrowingCodec final : public ImageCodec {
+public:
+    std::optional<Image> decode(const std::string& /*bytes*/, const PictureLimits& /*limits*/) override {
+        throw std::bad_alloc();
+    }
+    std::optional<std::string> jpeg(const Image& /*image*/, double /*quality*/) override {
+        throw std::bad_alloc();
+    }
+    std::optional<std::string> png(const Image& /*image*/) override { throw std::bad_alloc(); }
+    std::optional<std::string> pngOfJpeg(const std::string& /*jpeg*/,
+                                         const PictureLimits& /*limits*/) override {
+        throw std::bad_alloc();
+    }
+};
+
+TEST_F(ImageLoaderTest, APictureForWhichThereIsNoMemoryIsNone) {
+    Platform ports = platform();
+    ports.images = std::make_shared<ThrowingCodec>();
+    Platform::install(ports);
+    const auto one = loader();
+    one->load();
+    world.network->answer("bytes");
+    ASSERT_TRUE(settle([&] { return !one->isLoading.get(); }));
+    EXPECT_FALSE(one->image.get());
 }
 
 TEST_F(ImageLoaderTest, FetchesOverTlsOnly) {

@@ -1,0 +1,19 @@
+#include "records/DecodeRoom.h"
+
+#include "records/DecodeError.h"
+
+#include <fmt/core.h>
+
+namespace ombrivane {
+
+void DecodeRoom::refuse() {
+    throw DecodeError(notUnderstood,
+                      fmt::format("takes more than {} MiB of memory beyond the answer's bytes",
+                                  limits::structureBytes / limits::mebibyte));
+}
+
+void DecodeRoom::refuseCount() {
+    throw DecodeError(notUnderstood, fmt::format("more than {} elements", limits::listElements));
+}
+
+} // namespace ombrivane

@@ -1,0 +1,32 @@
+#include "support/Attempted.h"
+
+#include "support/Fault.h"
+
+namespace ombrivane {
+namespace {
+
+Error unforeseen(const char* what) { return {"Ombrivane", 3, "The operation could not be completed.", what}; }
+
+} // namespace
+
+Error detail::currentError() {
+    try {
+        throw;
+    } catch (const Fault&) {
+        throw;
+    } catch (const Error& error) {
+        return error;
+    } catch (const ErrorSource& source) {
+        return source.error();
+    } catch (const std::exception& exception) {
+        return unforeseen(exception.what());
+    } catch (...) {
+        return unforeseen("an exception of an unknown type");
+    }
+}
+
+void contained(const std::function<void()>& step) {
+    guarded([&step] { attempted(step); });
+}
+
+} // namespace ombrivane

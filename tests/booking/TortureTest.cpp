@@ -1,0 +1,177 @@
+#include "Wallet.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <new>
+#include <utility>
+
+namespace ombrivane {
+namespace {
+
+/// Counts the calls of one port. The call that is to fail does, and those after it where it fails for ever.
+class Failing {
+public:
+    Failing(std::size_t failing, bool forEver) : failing_(failing), forEver_(forEver) {}
+    bool fails() {
+        const std::size_t call = calls_++;
+        return call == failing_ || (forEver_ && call > failing_);
+    }
+    std::size_t calls() const { return calls_; }
+    static constexpr std::size_t none = SIZE_MAX;
+
+private:
+    std::size_t calls_ = 0;
+    std::size_t failing_;
+    bool forEver_;
+};
+
+using Calls = std::shared_ptr<Failing>;
+
+class FailingReachability final : public ReachabilityMeasure {
+public:
+    explicit FailingReachability(Calls calls) : calls_(std::move(calls)) {}
+    std::optional<std::uint32_t> flags() override {
+        return calls_->fails() ? std::nullopt : std::optional<std::uint32_t>(reachableFlag);
+    }
+
+private:
+    Calls calls_;
+};
+
+class FailingCodec final : public ImageCodec {
+public:
+    explicit FailingCodec(Calls calls, bool throws) :
+        inner_(platform().images), calls_(std::move(calls)), throws_(throws) {}
+    std::optional<Image> decode(const std::string& bytes, const PictureLimits& limits) override {
+        return fails() ? std::nullopt : inner_->decode(bytes, limits);
+    }
+    std::optional<std::string> jpeg(const Image& image, double quality) override {
+        return fails() ? std::nullopt : inner_->jpeg(image, quality);
+    }
+    std::optional<std::string> png(const Image& image) override {
+        return fails() ? std::nullopt : inner_->png(image);
+    }
+    std::optional<std::string> pngOfJpeg(const std::string& jpeg, const PictureLimits& limits) override {
+        return fails() ? std::nullopt : inner_->pngOfJpeg(jpeg, limits);
+    }
+
+private:
+    bool fails() {
+        if (!calls_->fails()) return false;
+        if (throws_) throw std::bad_alloc();
+        return true;
+    }
+    std::shared_ptr<ImageCodec> inner_;
+    Calls calls_;
+    bool throws_;
+};
+
+/// In front of the network that the wallet answers for.
+class FailingNetwork final : public Network {
+public:
+    FailingNetwork(std::shared_ptr<Network> inner, Calls calls, HttpAnswer answer) :
+        inner_(std::move(inner)), calls_(std::move(calls)), answer_(std::move(answer)) {}
+    void send(HttpRequest request, HttpCompletion completion) override {
+        if (!calls_->fails()) return inner_->send(std::move(request), std::move(completion));
+        inner_->send(std::move(request),
+                     [completion = std::move(completion), answer = answer_](const HttpAnswer&) {
+                         completion(answer);
+                     });
+    }
+    void fetchPicture(const std::string& url, HttpCompletion completion) override {
+        HttpRequest request;
+        request.url = url;
+        send(std::move(request), std::move(completion));
+    }
+
+private:
+    std::shared_ptr<Network> inner_;
+    Calls calls_;
+    HttpAnswer answer_;
+};
+
+struct Torture {
+    const char* name;
+    std::function<void(Platform&, const Calls&)> install;
+};
+
+Torture answering(const char* name, const HttpAnswer& answer) {
+    return {name, [answer](Platform& ports, const Calls& calls) {
+                ports.network = std::make_shared<FailingNetwork>(ports.network, calls, answer);
+            }};
+}
+
+const Torture tortures[] = {
+    answering("no connection", {std::nullopt, Error{"Network", 7, "Not reached."}}),
+    answering("nothing", {std::nullopt, std::nullopt}),
+    answering("no content", {"", std::nullopt}),
+    answering("a refusal", {R"({"success":false,"data":{"error":"No."}})", std::nullopt}),
+    answering("an empty list", {R"({"success":true,"hasRestrictions":false,"data":[]})", std::nullopt}),
+    {"offline",
+     [](Platform& ports, const Calls& calls) {
+         ports.reachability = std::make_shared<FailingReachability>(calls);
+     }},
+    {"no picture",
+     [](Platform& ports, const Calls& calls) {
+         ports.images = std::make_shared<FailingCodec>(calls, false);
+     }},
+    {"no memory for pictures",
+     [](Platform& ports, const Calls& calls) { ports.images = std::make_shared<FailingCodec>(calls, true); }},
+};
+
+/// Taps on as far as the screens let it, as a customer who does not give up.
+void insist(Wallet& wallet) {
+    const std::function<void()> stations[] = {[&] { wallet.toReady(); },
+                                              [&] { wallet.tap("continue"); },
+                                              [&] { wallet.settle(); },
+                                              [&] { wallet.tap("continue"); }};
+    for (const auto& station : stations) {
+        try {
+            station();
+        } catch (const Fault&) {
+            throw;
+        } catch (const std::exception&) {
+            // A control that is not there: the failure led elsewhere.
+        }
+    }
+}
+
+class TortureTest : public testing::TestWithParam<std::tuple<Trip, bool>> {};
+
+INSTANTIATE_TEST_SUITE_P(Trips, TortureTest, everyTrip, tripName);
+
+/// Of each port every call of a booking fails, once and for ever. No fault, every completion is answered,
+/// nothing is handed over twice.
+TEST_P(TortureTest, EveryCallOfEveryPortMayFail) {
+    const auto& [trip, documents] = GetParam();
+    for (const Torture& torture : tortures) {
+        const auto callsOf = [&](std::size_t failing, bool forEver, std::size_t handedOver) {
+            SCOPED_TRACE(std::string(torture.name) + " at call " + std::to_string(failing) +
+                         (forEver ? " and for ever" : ""));
+            fakes::World world;
+            const auto calls = std::make_shared<Failing>(failing, forEver);
+            Platform ports = platform();
+            torture.install(ports, calls);
+            Platform::install(ports);
+            Wallet wallet(world, trip, documents);
+            insist(wallet);
+            wallet.settle();
+            EXPECT_EQ(world.takeFaults(), std::vector<std::string>());
+            EXPECT_LE(wallet.handedOver.size(), 1U);
+            EXPECT_GE(wallet.handedOver.size(), handedOver);
+            for (const auto& word : wallet.heard)
+                EXPECT_FALSE(word.starts_with("late ")) << word;
+            return calls->calls();
+        };
+        const std::size_t calls = callsOf(Failing::none, false, 1);
+        for (std::size_t failing = 0; failing < calls; ++failing) {
+            callsOf(failing, false, 0);
+            callsOf(failing, true, 0);
+        }
+    }
+}
+
+} // namespace
+} // namespace ombrivane
