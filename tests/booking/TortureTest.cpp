@@ -32,7 +32,7 @@ using Calls = std::shared_ptr<Failing>;
 class FailingReachability final : public ReachabilityMeasure {
 public:
     explicit FailingReachability(Calls calls) : calls_(std::move(calls)) {}
-    std::optional<std::uint32_t> flags() override {
+    std::optional<std::uint32_t> flags(const std::string& /*host*/) override {
         return calls_->fails() ? std::nullopt : std::optional<std::uint32_t>(reachableFlag);
     }
 
