@@ -7,6 +7,7 @@
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
+#include "session/Reservations.h"
 #include "support/Fault.h"
 #include "support/SharedInstance.h"
 
@@ -33,6 +34,12 @@ public:
         if (options.testHost) hosts.test = *options.testHost;
         if (options.productionHost) hosts.production = *options.productionHost;
         ServiceHosts::use(hosts);
+        receipts_ = Reservations::shared().observe([this] {
+            while (const auto reserved = Reservations::shared().take()) {
+                log_.event(
+                    Json{{"event", "reservation"}, {"PNR", reserved->at("bookingSummary").value("PNR", "")}});
+            }
+        });
     }
 
     Wallet(const Wallet&) = delete;
@@ -124,6 +131,7 @@ private:
     std::shared_ptr<ScriptedPhotos> photos_ = std::make_shared<ScriptedPhotos>();
     std::atomic<bool> faulted_ = false;
     std::unique_ptr<OmbrivaneView> view_;
+    Subscription receipts_;
 };
 
 } // namespace
