@@ -99,7 +99,9 @@ void BookingConfirmationView::issueTicket() {
 void BookingConfirmationView::ticketIssued(std::optional<FlightTicketing> ticket,
                                            const std::optional<Error>& error) {
     if (error || !ticket) {
-        task_ = mainQueue().after(messageDuration, [] { AppState::shared().resetNavigation(); });
+        task_ = mainQueue().after(messageDuration, [this] {
+            if (!viewIsGone()) AppState::shared().resetNavigation();
+        });
         // The bar says what `errorMessage` holds, which nothing has written.
         showSnackBar = true;
         return;

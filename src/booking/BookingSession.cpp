@@ -152,7 +152,7 @@ void BookingSession::failReservation(const Error& error) {
 void BookingSession::handOver(const FlightBooking& booking) {
     const auto hold = shared_from_this();
     showProgressView = false;
-    AppState::shared().resetNavigation();
+    if (!viewIsGone()) AppState::shared().resetNavigation();
     completionCallback_(handOverDictionary(booking), std::nullopt);
 }
 
