@@ -72,6 +72,7 @@ void DemoWallet::installPlatform() {
     ports.reachability = reachability_;
     if (!options_.script.empty()) {
         ports.photos = photos_;
+        ports.diagnostics = std::make_shared<journey::ReportedDiagnostics>(log_, false);
         ports.urls = std::make_shared<journey::ReportedUrls>(log_);
         ports.sharing = std::make_shared<journey::ReportedSharing>(log_);
     }

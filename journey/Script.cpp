@@ -108,7 +108,7 @@ std::string Script::help() {
            "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
            "  wait-event NAME [OBJECT] [SECONDS]\n"
            "                                waits for an event: callback, reservation, closed,\n"
-           "                                opened-url, shared; one that holds all members of\n"
+           "                                failed-call, opened-url, shared; one that holds all members of\n"
            "                                OBJECT, at any depth\n"
            "  no-event NAME                 ends the script if there is such an event that was not waited "
            "for\n"

@@ -71,7 +71,7 @@ private:
         ports.photos = photos_;
         ports.urls = std::make_shared<ReportedUrls>(log_);
         ports.sharing = std::make_shared<ReportedSharing>(log_);
-        if (options_.diagnostics) ports.diagnostics = std::make_shared<PrintedDiagnostics>();
+        ports.diagnostics = std::make_shared<ReportedDiagnostics>(log_, options_.diagnostics);
         ports.system = options_.system;
         if (options_.now) clock_->startAt(*options_.now);
         if (options_.reachability) reachability_->say(*options_.reachability);

@@ -117,7 +117,8 @@ void BookingConfirmationView::reportBooking() {
     if (!summary) {
         completionCallback_(
             std::nullopt,
-            Error{"Encoding", 0, "The booking could not be reported.", "bookingSummary: is absent"});
+            Error{
+                errorDomain::encoding, 0, "The booking could not be reported.", "bookingSummary: is absent"});
         return;
     }
     completionCallback_(Dictionary{{"exit", false}, {"bookingSummary", encode(*summary)}}, std::nullopt);

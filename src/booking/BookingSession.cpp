@@ -3,6 +3,7 @@
 #include "platform/OnMain.h"
 #include "records/Encode.h"
 #include "support/DateFormatter.h"
+#include "support/ErrorDomains.h"
 
 #include <fmt/core.h>
 
@@ -121,7 +122,10 @@ void BookingSession::reserve() {
 void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
                                          const std::optional<Error>& error) {
     if (error) return failReservation(*error);
-    if (!booking) return failReservation({"Ombrivane", 2, "The reservation was not answered."});
+    if (!booking)
+        return failReservation({errorDomain::service,
+                                static_cast<int>(ServiceError::noReservation),
+                                "The reservation was not answered."});
     if (!documentsRequired()) return handOver(*booking);
     willUpload();
     upload(*booking);

@@ -44,9 +44,8 @@ std::vector<Country> inPriorityOrder(const std::vector<Country>& decoded) {
 void CountryProvider::fetchCountries(const Completion<std::vector<Country>>& completion) const {
     ServiceCall call;
     call.method = "GET";
-    call.url = [] {
-        return Endpoints::shared().countries + "?user_type=" + AppState::shared().userType.get();
-    };
+    call.endpoint = endpoint::countries;
+    call.query = "?user_type=" + AppState::shared().userType.get();
     send<std::vector<Country>>(
         call,
         [](const Envelope& envelope) { return inPriorityOrder(envelope.records<Country>("countries")); },

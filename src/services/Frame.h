@@ -3,30 +3,33 @@
 #include "platform/Limits.h"
 #include "services/Envelope.h"
 #include "support/Completion.h"
+#include "support/ErrorDomains.h"
 
 #include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace ombrivane {
 
-/// The error domain of the service's own messages.
-inline constexpr const char* serviceDomain = "Ombrivane";
-
 /// What a client states of one request; the frame does the rest.
 struct ServiceCall {
-    /// The whole address; asked for after the connection was checked.
-    std::function<std::string()> url;
+    std::string_view endpoint; ///< one of `endpoint`
+    std::string query;         ///< follows it in the address as it stands
     std::string method = "POST";
     /// Asked for when the request is otherwise built. No text: the request goes out without a body. An
     /// `Error` that it throws ends the call before anything is sent.
     std::function<std::optional<std::string>()> body = [] { return std::nullopt; };
     std::string contentType = "application/json";
     bool bearerToken = true;
-    std::string failureDomain = serviceDomain;
+    std::string failureDomain = errorDomain::service;
     std::chrono::seconds wholeInterval = limits::request;
 };
+
+/// Tells the diagnostics of a call that failed; the frame does, for every call that goes through it. Any
+/// thread.
+void reportFailedCall(std::string_view endpoint, const Error& error);
 
 namespace detail {
 

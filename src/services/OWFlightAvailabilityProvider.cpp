@@ -14,7 +14,7 @@ void OWFlightAvailabilityProvider::fetchAvailability(
     const Completion<std::optional<OWFlightAvailability>>& completion) const {
     const auto& offer = flight.oneWay();
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().availability; };
+    call.endpoint = endpoint::availability;
     call.body = [&] {
         Body body;
         body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);

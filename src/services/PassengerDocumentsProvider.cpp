@@ -24,7 +24,7 @@ void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers
                                         const Completion<std::optional<FlightBooking>>& completion) const {
     MultipartForm form;
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().documents; };
+    call.endpoint = endpoint::documents;
     call.contentType = form.contentType();
     call.wholeInterval = limits::upload;
     call.body = [&]() -> std::optional<std::string> {

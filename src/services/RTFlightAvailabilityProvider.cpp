@@ -16,7 +16,7 @@ void RTFlightAvailabilityProvider::fetchAvailability(
     const Completion<std::optional<RTFlightAvailability>>& completion) const {
     const auto& offer = flight.roundTrip();
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().availability; };
+    call.endpoint = endpoint::availability;
     call.body = [&] {
         Body body;
         body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
@@ -40,7 +40,7 @@ void RTFlightAvailabilityProvider::fetchAvailability(
     const auto& departing = flight.oneWay();
     const auto& returning = returnFlight.oneWay();
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().availability; };
+    call.endpoint = endpoint::availability;
     call.body = [&] {
         return Body()
             .add("user_type", AppState::shared().userType.get())

@@ -7,7 +7,7 @@ namespace ombrivane {
 void sendForRestrictions(std::function<std::optional<std::string>()> body,
                          const Completion<std::optional<std::string>>& completion) {
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().restrictions; };
+    call.endpoint = endpoint::restrictions;
     call.body = std::move(body);
     send<std::optional<std::string>>(
         call,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Error.h"
+#include "support/ErrorDomains.h"
 #include "support/Fault.h"
 
 #include <atomic>
@@ -45,7 +46,10 @@ private:
         ~State() {
             if (called || !handler) return;
             guarded([this] {
-                handler(Result(), Error{"Ombrivane", 1, "The operation ended without an answer."});
+                handler(Result(),
+                        Error{errorDomain::service,
+                              static_cast<int>(ServiceError::unanswered),
+                              "The operation ended without an answer."});
             });
         }
 
