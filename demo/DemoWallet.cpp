@@ -3,6 +3,7 @@
 #include "device/QtPlatform.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
+#include "session/Reservations.h"
 #include "support/Fault.h"
 #include "support/SharedInstance.h"
 
@@ -56,6 +57,8 @@ DemoWallet::DemoWallet(DemoOptions options) : options_(std::move(options)) {
 }
 
 DemoWallet::~DemoWallet() {
+    receipts_.cancel();
+    window_ = nullptr;
     engine_.reset();
     Platform::endNetwork();
     runUntil([] { return false; }, std::chrono::milliseconds(0));
@@ -76,6 +79,7 @@ void DemoWallet::installPlatform() {
     }
     if (!options_.script.empty()) {
         ports.photos = photos_;
+        ports.diagnostics = std::make_shared<journey::ReportedDiagnostics>(log_, false);
         ports.urls = std::make_shared<journey::ReportedUrls>(log_);
         ports.sharing = std::make_shared<journey::ReportedSharing>(log_);
     }
@@ -106,6 +110,13 @@ void DemoWallet::makeWindow() {
 
 void DemoWallet::listen() {
     session_->setCallback([this](auto dictionary, auto error) { receive(dictionary, error); });
+    receipts_ = Reservations::shared().observe([this] {
+        while (const auto reserved = Reservations::shared().take()) {
+            const std::string pnr = reserved->at("bookingSummary").value("PNR", "");
+            if (!options_.script.empty()) log_.event(Json{{"event", "reservation"}, {"PNR", pnr}});
+            addReceipt("Reserved: " + pnr);
+        }
+    });
     QObject::connect(session_, &view::OmbrivaneSession::closed, window_, [this] {
         if (!options_.script.empty()) log_.event(Json{{"event", "closed"}});
         QMetaObject::invokeMethod(window_, "closeComponent");
@@ -114,28 +125,23 @@ void DemoWallet::listen() {
 
 void DemoWallet::receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
     Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
-    QString receipt;
-    if (dictionary) {
-        event["dictionary"] = *dictionary;
-        if (dictionary->contains("bookingSummary")) {
-            receipt =
-                QString::fromStdString("Reserved: " + dictionary->at("bookingSummary").value("PNR", ""));
-        }
-    }
+    if (dictionary) event["dictionary"] = *dictionary;
     if (error) {
         event["error"] = Json{{"domain", error->domain},
                               {"code", error->code},
                               {"localizedDescription", error->localizedDescription}};
-        receipt = QString::fromStdString("Failed: " + error->localizedDescription);
+        queue_->async([this, text = "Failed: " + error->localizedDescription] { addReceipt(text); });
     }
     event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
     log_.event(std::move(event));
-    queue_->async([this, receipt] {
-        auto receipts = window_->property("receipts").toStringList();
-        receipts.prepend(receipt);
-        if (receipts.size() > shownReceipts) receipts.removeLast();
-        window_->setProperty("receipts", receipts);
-    });
+}
+
+void DemoWallet::addReceipt(const std::string& text) {
+    if (window_ == nullptr) return;
+    auto receipts = window_->property("receipts").toStringList();
+    receipts.prepend(QString::fromStdString(text));
+    if (receipts.size() > shownReceipts) receipts.removeLast();
+    window_->setProperty("receipts", receipts);
 }
 
 bool DemoWallet::runUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) {

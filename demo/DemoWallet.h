@@ -43,6 +43,7 @@ private:
     void writeTexts();
     void writePicture(const std::string& file);
     void receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error);
+    void addReceipt(const std::string& text);
 
     DemoOptions options_;
     std::thread::id mainThread_ = std::this_thread::get_id();
@@ -56,6 +57,7 @@ private:
     std::unique_ptr<QQmlApplicationEngine> engine_;
     QQuickWindow* window_ = nullptr;
     view::OmbrivaneSession* session_ = nullptr;
+    Subscription receipts_;
 };
 
 } // namespace ombrivane::demo

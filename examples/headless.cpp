@@ -2,6 +2,7 @@
 #include "platform/HeadlessPlatform.h"
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
+#include "session/Reservations.h"
 #include "support/Navigator.h"
 
 #include <iostream>
@@ -13,9 +14,13 @@ int main(int count, char** values) {
     ombrivane::Platform::install(ombrivane::headlessPlatform(loop, certificates));
     ombrivane::ServiceHosts::use({.production = service, .test = service});
 
+    auto& reservations = ombrivane::Reservations::shared();
+    const auto receipts = reservations.observe([&reservations] {
+        while (const auto reserved = reservations.take())
+            std::cout << reserved->dump() << "\n";
+    });
     ombrivane::OmbrivaneView view(
-        "wallet", "wallet-secret", "customer", 250000, "9800000000", "test", [](auto reserved, auto error) {
-            if (reserved) std::cout << reserved->dump() << "\n";
+        "wallet", "wallet-secret", "customer", 250000, "9800000000", "test", [](auto, auto error) {
             if (error) std::cout << error->localizedDescription << "\n";
         });
     view.show();

@@ -1,4 +1,4 @@
-// A wallet in QML: one import, one item, three handlers.
+// A wallet in QML: one import, the item, and the receipts, which outlive it.
 #include "Once.h"
 #include "device/QtPlatform.h"
 #include "services/ServiceHosts.h"
@@ -12,10 +12,10 @@ import Ombrivane
 Window {
     id: wallet
     visible: true; width: 390; height: 844
+    Reservations { onArrived: console.info(take()) }
     OmbrivaneView {
         anchors.fill: parent
         clientId: "wallet"; clientSecret: "wallet-secret"; walletBalance: 250000
-        onFinished: dictionary => console.info(dictionary)
         onFailed: message => console.info(message)
         onClosed: wallet.close()
         Component.onCompleted: open()

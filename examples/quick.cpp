@@ -1,7 +1,8 @@
-// A wallet in C++ with Qt Quick: it makes the view item and is told by a callback.
+// A wallet in C++ with Qt Quick: it makes the view item, and keeps its receipts outside of it.
 #include "Once.h"
 #include "device/QtPlatform.h"
 #include "services/ServiceHosts.h"
+#include "session/Reservations.h"
 
 #include <QGuiApplication>
 #include <QQuickView>
@@ -15,6 +16,12 @@ int main(int count, char** values) {
     ombrivane::Platform::install(ombrivane::view::qtPlatform(certificates));
     ombrivane::ServiceHosts::use({.production = service, .test = service});
 
+    auto& reservations = ombrivane::Reservations::shared();
+    const auto receipts = reservations.observe([&reservations] {
+        while (const auto reserved = reservations.take())
+            std::cout << reserved->dump() << "\n";
+    });
+
     QQuickView window;
     window.engine()->addImportPath("qrc:/com.framework.Ombrivane/qml");
     window.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -23,8 +30,7 @@ int main(int count, char** values) {
     session->clientId = "wallet";
     session->clientSecret = "wallet-secret";
     session->walletBalance = 250000;
-    session->setCallback([](auto reserved, auto error) {
-        if (reserved) std::cout << reserved->dump() << "\n";
+    session->setCallback([](auto, auto error) {
         if (error) std::cout << error->localizedDescription << "\n";
     });
     QObject::connect(session, &ombrivane::view::OmbrivaneSession::closed, &window, &QWindow::close);

@@ -2,6 +2,7 @@
 #include "Once.h"
 #include "device/QtPlatform.h"
 #include "services/ServiceHosts.h"
+#include "session/Reservations.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -16,6 +17,12 @@ int main(int count, char** values) {
     const QApplication application(count, values);
     ombrivane::Platform::install(ombrivane::view::qtPlatform(certificates));
     ombrivane::ServiceHosts::use({.production = service, .test = service});
+
+    auto& reservations = ombrivane::Reservations::shared();
+    const auto receipts = reservations.observe([&reservations] {
+        while (const auto reserved = reservations.take())
+            qInfo("%s", reserved->dump().c_str());
+    });
 
     QWidget wallet;
     QVBoxLayout layout(&wallet);

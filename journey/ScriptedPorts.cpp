@@ -2,6 +2,15 @@
 
 namespace ombrivane::journey {
 
+void ReportedDiagnostics::callFailed(const FailedCall& call) {
+    print(call.line());
+    log_.event(Json{{"event", "failed-call"},
+                    {"endpoint", call.endpoint},
+                    {"domain", call.domain},
+                    {"code", call.code},
+                    {"developer", call.developerText}});
+}
+
 std::optional<std::uint32_t> ScriptedReachability::flags(const std::string& host) {
     const std::int64_t word = said_;
     return word == measured ? route_.flags(host) : static_cast<std::uint32_t>(word);

@@ -38,6 +38,22 @@ private:
     std::deque<Picked> answers_;
 };
 
+/// Reports the calls that failed, and prints every line where it is asked to.
+class ReportedDiagnostics final : public Diagnostics {
+public:
+    ReportedDiagnostics(EventLog& log, bool prints) : log_(log), prints_(prints) {}
+
+    void print(std::string_view line) override {
+        if (prints_) printed_.print(line);
+    }
+    void callFailed(const FailedCall& call) override;
+
+private:
+    EventLog& log_;
+    bool prints_;
+    PrintedDiagnostics printed_;
+};
+
 /// Reports what the component opens and shares.
 class ReportedUrls final : public UrlOpener {
 public:

@@ -8,6 +8,7 @@
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
+#include "session/Reservations.h"
 #include "support/Fault.h"
 #include "support/SharedInstance.h"
 
@@ -34,6 +35,12 @@ public:
         if (options.testHost) hosts.test = *options.testHost;
         if (options.productionHost) hosts.production = *options.productionHost;
         ServiceHosts::use(hosts);
+        receipts_ = Reservations::shared().observe([this] {
+            while (const auto reserved = Reservations::shared().take()) {
+                log_.event(
+                    Json{{"event", "reservation"}, {"PNR", reserved->at("bookingSummary").value("PNR", "")}});
+            }
+        });
     }
 
     Wallet(const Wallet&) = delete;
@@ -65,7 +72,7 @@ private:
         ports.photos = photos_;
         ports.urls = std::make_shared<ReportedUrls>(log_);
         ports.sharing = std::make_shared<ReportedSharing>(log_);
-        if (options_.diagnostics) ports.diagnostics = std::make_shared<PrintedDiagnostics>();
+        ports.diagnostics = std::make_shared<ReportedDiagnostics>(log_, options_.diagnostics);
         ports.system = options_.system;
         if (options_.now) clock_->startAt(*options_.now);
         if (options_.reachability) reachability_->say(*options_.reachability);
@@ -134,6 +141,7 @@ private:
     std::atomic<bool> faulted_ = false;
     std::unique_ptr<OmbrivaneView> view_;
     Onlooker onlooker_;
+    Subscription receipts_;
 };
 
 } // namespace

@@ -101,7 +101,9 @@ void BookingConfirmationView::issueTicket() {
 void BookingConfirmationView::ticketIssued(std::optional<FlightTicketing> ticket,
                                            const std::optional<Error>& error) {
     if (error || !ticket) {
-        task_ = mainQueue().after(messageDuration, [] { AppState::shared().resetNavigation(); });
+        task_ = mainQueue().after(messageDuration, [this] {
+            if (!viewIsGone()) AppState::shared().resetNavigation();
+        });
         // The bar says what `errorMessage` holds, which nothing has written.
         showSnackBar = true;
         return;
@@ -117,7 +119,8 @@ void BookingConfirmationView::reportBooking() {
     if (!summary) {
         completionCallback_(
             std::nullopt,
-            Error{"Encoding", 0, "The booking could not be reported.", "bookingSummary: is absent"});
+            Error{
+                errorDomain::encoding, 0, "The booking could not be reported.", "bookingSummary: is absent"});
         return;
     }
     completionCallback_(Dictionary{{"exit", false}, {"bookingSummary", encode(*summary)}}, std::nullopt);

@@ -3,6 +3,7 @@
 #include "platform/OnMain.h"
 #include "records/Encode.h"
 #include "support/DateFormatter.h"
+#include "support/ErrorDomains.h"
 
 #include <fmt/core.h>
 
@@ -138,7 +139,10 @@ void BookingSession::reserve() {
 void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
                                          const std::optional<Error>& error) {
     if (error) return failReservation(*error);
-    if (!booking) return failReservation({"Ombrivane", 2, "The reservation was not answered."});
+    if (!booking)
+        return failReservation({errorDomain::service,
+                                static_cast<int>(ServiceError::noReservation),
+                                "The reservation was not answered."});
     if (!documentsRequired()) return handOver(*booking);
     willUpload();
     upload(*booking);
@@ -169,7 +173,7 @@ void BookingSession::failReservation(const Error& error) {
 void BookingSession::handOver(const FlightBooking& booking) {
     const auto hold = shared_from_this();
     showProgressView = false;
-    AppState::shared().resetNavigation();
+    if (!viewIsGone()) AppState::shared().resetNavigation();
     completionCallback_(handOverDictionary(booking), std::nullopt);
 }
 

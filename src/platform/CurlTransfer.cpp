@@ -2,11 +2,22 @@
 
 #include "platform/TlsRules.h"
 #include "support/Attempted.h"
+#include "support/ErrorDomains.h"
 
 namespace ombrivane {
 namespace {
 
-constexpr const char* domain = "Network";
+static_assert(static_cast<int>(NetworkError::hostNotFound) == CURLE_COULDNT_RESOLVE_HOST);
+static_assert(static_cast<int>(NetworkError::notConnected) == CURLE_COULDNT_CONNECT);
+static_assert(static_cast<int>(NetworkError::timedOut) == CURLE_OPERATION_TIMEDOUT);
+static_assert(static_cast<int>(NetworkError::notSecured) == CURLE_SSL_CONNECT_ERROR);
+static_assert(static_cast<int>(NetworkError::cancelled) == CURLE_ABORTED_BY_CALLBACK);
+static_assert(static_cast<int>(NetworkError::endedEarly) == CURLE_GOT_NOTHING);
+static_assert(static_cast<int>(NetworkError::broken) == CURLE_RECV_ERROR);
+static_assert(static_cast<int>(NetworkError::notTrusted) == CURLE_PEER_FAILED_VERIFICATION);
+static_assert(static_cast<int>(NetworkError::tooLarge) == CURLE_FILESIZE_EXCEEDED);
+static_assert(static_cast<int>(NetworkError::noCertificates) == CURLE_SSL_CACERT_BADFILE);
+
 constexpr const char* tooLargeText = "The answer is too large.";
 constexpr const char* abandonedText = "The request was cancelled.";
 
@@ -149,7 +160,7 @@ int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t,
 }
 
 void CurlTransfer::fail(int code, const std::string& text, const std::string& developerText) {
-    contained([&] { completion_({std::nullopt, Error{domain, code, text, developerText}}); });
+    contained([&] { completion_({std::nullopt, Error{errorDomain::network, code, text, developerText}}); });
 }
 
 void CurlTransfer::complete(CURLcode result) {

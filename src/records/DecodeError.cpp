@@ -1,5 +1,7 @@
 #include "records/DecodeError.h"
 
+#include "support/ErrorDomains.h"
+
 #include <fmt/core.h>
 
 namespace ombrivane {
@@ -15,7 +17,7 @@ void DecodeError::within(std::size_t index) {
 }
 
 Error DecodeError::error() const {
-    return {"Decoding", 0, description_, path_.empty() ? reason_ : path_ + ": " + reason_};
+    return {errorDomain::decoding, 0, description_, path_.empty() ? reason_ : path_ + ": " + reason_};
 }
 
 } // namespace ombrivane

@@ -11,9 +11,8 @@ void AirportSearchProvider::searchAirports(const std::string& query,
     ServiceCall call;
     call.answerBytes = limits::lookupBytes;
     call.method = "GET";
-    call.url = [&] {
-        return Endpoints::shared().airportSearch + query + "&user_type=" + AppState::shared().userType.get();
-    };
+    call.endpoint = endpoint::airportSearch;
+    call.query = "?q=" + query + "&user_type=" + AppState::shared().userType.get();
     send<std::vector<Airport>>(
         call, [](const Envelope& envelope) { return envelope.records<Airport>("airports"); }, completion);
 }

@@ -10,9 +10,9 @@ void AuthenticationProvider::authenticate(const std::string& clientId, const std
                                           const std::optional<std::string>& userType,
                                           const Completion<std::optional<Authentication>>& completion) const {
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().token; };
+    call.endpoint = endpoint::token;
     call.bearerToken = false;
-    call.failureDomain = "Ombrivane.Authentication";
+    call.failureDomain = errorDomain::authentication;
     call.body = [&] {
         return Body()
             .add("user_type", userType.value_or("customer"))

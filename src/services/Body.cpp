@@ -1,6 +1,7 @@
 #include "services/Body.h"
 
 #include "support/Error.h"
+#include "support/ErrorDomains.h"
 
 namespace ombrivane {
 namespace {
@@ -37,7 +38,8 @@ std::optional<std::string> Body::serialised() const {
 
 std::string Body::serialisedOrFail() const {
     auto text = serialised();
-    if (!text) throw Error{"Encoding", 0, "The request could not be written.", "a text is no UTF-8"};
+    if (!text)
+        throw Error{errorDomain::encoding, 0, "The request could not be written.", "a text is no UTF-8"};
     return *std::move(text);
 }
 

@@ -45,9 +45,8 @@ void CountryProvider::fetchCountries(const Completion<std::vector<Country>>& com
     ServiceCall call;
     call.answerBytes = limits::lookupBytes;
     call.method = "GET";
-    call.url = [] {
-        return Endpoints::shared().countries + "?user_type=" + AppState::shared().userType.get();
-    };
+    call.endpoint = endpoint::countries;
+    call.query = "?user_type=" + AppState::shared().userType.get();
     send<std::vector<Country>>(
         call,
         [](const Envelope& envelope) { return inPriorityOrder(envelope.records<Country>("countries")); },

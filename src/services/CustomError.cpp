@@ -7,8 +7,6 @@
 namespace ombrivane {
 namespace {
 
-constexpr const char* customDomain = "CustomError";
-
 struct Wording {
     const char* key;
     const char* comment; ///< for the translator
@@ -30,11 +28,11 @@ std::optional<std::string> errorDescription(CustomError error) {
 }
 
 Error makeError(CustomError error) {
-    return {customDomain, static_cast<int>(error), *errorDescription(error)};
+    return {errorDomain::custom, static_cast<int>(error), *errorDescription(error)};
 }
 
 bool is(const std::optional<Error>& error, CustomError custom) {
-    return error && error->domain == customDomain && error->code == static_cast<int>(custom);
+    return error && error->domain == errorDomain::custom && error->code == static_cast<int>(custom);
 }
 
 } // namespace ombrivane

@@ -1,20 +1,12 @@
 #pragma once
 
 #include "support/Error.h"
+#include "support/ErrorDomains.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
 namespace ombrivane {
-
-/// The failures that the component raises by itself.
-enum class CustomError : std::uint8_t {
-    invalidUrl,
-    noInternetConnection,
-    requiredIOSVersion,
-    sourceDestinationSame,
-};
 
 /// The localized description; never absent.
 std::optional<std::string> errorDescription(CustomError error);

@@ -11,7 +11,7 @@ namespace ombrivane {
 void DownloadTicketProvider::download(const std::string& ticketReferenceID,
                                       const Completion<std::string>& completion) const {
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().ticketDownload; };
+    call.endpoint = endpoint::ticketDownload;
     call.body = [&] {
         auto body = Body()
                         .add("user_type", AppState::shared().userType.get())

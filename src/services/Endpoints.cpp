@@ -11,20 +11,10 @@ std::string chooseBase() { return ServiceHosts::current().of(AppState::shared().
 
 } // namespace
 
-Endpoints::Endpoints() : baseURL(chooseBase()) {
-    const std::string prefix = baseURL + "/api/b2b/v2";
-    token = prefix + "/get-token";
-    airportSearch = prefix + "/search-airports?q=";
-    countries = prefix + "/countries";
-    flightSearch = prefix + "/search-flights";
-    availability = prefix + "/availability";
-    restrictions = prefix + "/verify-flights";
-    reservation = prefix + "/reservation";
-    documents = prefix + "/documents";
-    orderGeneration = prefix + "/kolmiwallet-generate-order";
-    orderConfirmation = prefix + "/kolmiwallet-confirm-order";
-    ticketIssue = prefix + "/issue-ticket";
-    ticketDownload = prefix + "/download-ticket";
+Endpoints::Endpoints() : baseURL(chooseBase()) {}
+
+std::string Endpoints::address(std::string_view endpoint) const {
+    return baseURL + "/api/b2b/v2" + std::string(endpoint);
 }
 
 const Endpoints& Endpoints::shared() { return SharedInstance<Endpoints>::get(); }

@@ -10,7 +10,10 @@ namespace ombrivane {
 namespace {
 
 Error notEncodable() {
-    return {"Encoding", 0, "The booking could not be sent.", "availabilitySummary: encodes to no object"};
+    return {errorDomain::encoding,
+            0,
+            "The booking could not be sent.",
+            "availabilitySummary: encodes to no object"};
 }
 
 } // namespace
@@ -20,9 +23,10 @@ void FlightBookingProvider::reserve(const std::vector<Passenger>& passengers,
                                     const EmergencyContact& emergencyContact,
                                     const Completion<std::optional<FlightBooking>>& completion) const {
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().reservation; };
+    call.endpoint = endpoint::reservation;
     call.body = [&]() -> std::optional<std::string> {
         if (!availabilitySummary) {
+            reportFailedCall(endpoint::reservation, notEncodable());
             completion.fail(notEncodable());
             return std::nullopt;
         }

@@ -12,7 +12,7 @@ void FlightTicketingProvider::issueTicket(
     const Completion<std::optional<FlightTicketing>>& completion) const {
     const BookingSummary summary = bookingSummary.value_or(BookingSummary());
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().ticketIssue; };
+    call.endpoint = endpoint::ticketIssue;
     call.body = [&] {
         return Body()
             .add("user_type", AppState::shared().userType.get())

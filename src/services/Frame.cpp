@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "services/CustomError.h"
+#include "services/Endpoints.h"
 #include "services/Reachability.h"
 #include "services/Url.h"
 #include "state/AppState.h"
@@ -16,7 +17,7 @@ namespace {
 void requireOneLine(const std::string& name, const std::string& value) {
     using namespace std::string_view_literals;
     if (value.find_first_of("\r\n\0"sv) == std::string::npos) return;
-    throw Error{"Encoding", 0, "The request could not be written.", name + ": more than one line"};
+    throw Error{errorDomain::encoding, 0, "The request could not be written.", name + ": more than one line"};
 }
 
 HttpRequest requestFor(const ServiceCall& call, std::string url) {
@@ -44,11 +45,17 @@ HttpAnswer failed(Error error) { return {std::nullopt, std::move(error)}; }
 
 } // namespace
 
+void reportFailedCall(std::string_view endpoint, const std::optional<Error>& error) {
+    static const Error nothing{errorDomain::network, 0, "", "neither an answer nor an error"};
+    const Error& told = error ? *error : nothing;
+    platform().diagnostics->callFailed({endpoint, told.domain, told.code, told.developerDescription});
+}
+
 void detail::perform(const ServiceCall& call, HttpCompletion answered) {
     if (!Reachability::isConnectedToNetwork()) {
         return answered(failed(makeError(CustomError::noInternetConnection)));
     }
-    std::string url = call.url();
+    std::string url = Endpoints::shared().address(call.endpoint) + call.query;
     if (!isUrl(url)) return answered(failed(makeError(CustomError::invalidUrl)));
     HttpRequest request;
     auto failure = attempted([&] { request = requestFor(call, std::move(url)); });

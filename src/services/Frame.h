@@ -4,22 +4,21 @@
 #include "platform/Limits.h"
 #include "services/Envelope.h"
 #include "support/Completion.h"
+#include "support/ErrorDomains.h"
 
 #include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ombrivane {
 
-/// The error domain of the service's own messages.
-inline constexpr const char* serviceDomain = "Ombrivane";
-
 /// What a client states of one request; the frame does the rest.
 struct ServiceCall {
-    /// The whole address; asked for after the connection was checked.
-    std::function<std::string()> url;
+    std::string_view endpoint; ///< one of `endpoint`
+    std::string query;         ///< follows it in the address as it stands
     std::string method = "POST";
     /// Asked for when the request is otherwise built. No text: the request goes out without a body. An
     /// `Error` that it throws ends the call before anything is sent.
@@ -28,10 +27,15 @@ struct ServiceCall {
     std::function<std::vector<std::string>()> pieces;
     std::string contentType = "application/json";
     bool bearerToken = true;
-    std::string failureDomain = serviceDomain;
+    std::string failureDomain = errorDomain::service;
     std::chrono::seconds wholeInterval = limits::request;
     std::size_t answerBytes = limits::recordBytes;
 };
+
+/// Tells the diagnostics of a call that failed; the frame does, for every call that goes through it. Any
+/// thread.
+/// @param error absent where the network had neither an answer nor an error
+void reportFailedCall(std::string_view endpoint, const std::optional<Error>& error);
 
 namespace detail {
 
@@ -53,12 +57,15 @@ template <class Result>
 void send(const ServiceCall& call, std::function<Result(const Envelope&)> read,
           const Completion<Result>& completion) {
     detail::perform(
-        call, [read = std::move(read), completion, domain = call.failureDomain](HttpAnswer answer) {
+        call,
+        [read = std::move(read), completion, endpoint = call.endpoint, domain = call.failureDomain](
+            HttpAnswer answer) {
             std::optional<Result> result;
             auto error = detail::readAnswer(
                 std::move(answer), domain, [&](const Envelope& envelope) { result.emplace(read(envelope)); });
-            if (error || !result) return completion(Result(), std::move(error));
-            completion(*std::move(result));
+            if (!error && result) return completion(*std::move(result));
+            reportFailedCall(endpoint, error);
+            completion(Result(), std::move(error));
         });
 }
 

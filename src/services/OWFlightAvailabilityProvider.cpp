@@ -15,7 +15,7 @@ void OWFlightAvailabilityProvider::fetchAvailability(
     const auto& offer = flight.oneWay();
     ServiceCall call;
     call.answerBytes = limits::lookupBytes;
-    call.url = [] { return Endpoints::shared().availability; };
+    call.endpoint = endpoint::availability;
     call.body = [&] {
         Body body;
         body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);

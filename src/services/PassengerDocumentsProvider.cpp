@@ -14,7 +14,7 @@ namespace {
 /// @throws Error for a picture that cannot be written
 std::string pngOf(const DocumentPicture& picture) {
     auto png = picture.jpeg ? platform().images->pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
-    if (!png) throw Error{"Encoding", 0, "A document could not be sent.", "a picture has no PNG form"};
+    if (!png) throw Error{errorDomain::encoding, 0, "A document could not be sent.", "a picture has no PNG form"};
     return *std::move(png);
 }
 
@@ -27,7 +27,7 @@ void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers
                                         const Completion<std::optional<FlightBooking>>& completion) const {
     MultipartForm form;
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().documents; };
+    call.endpoint = endpoint::documents;
     call.contentType = form.contentType();
     call.wholeInterval = limits::upload;
     call.pieces = [&] {

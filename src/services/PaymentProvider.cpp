@@ -11,7 +11,7 @@ void PaymentProvider::generateOrder(const std::string& bookingReferenceID, const
                                     const std::string& transactionID, const std::string& issuersNumber,
                                     const Completion<std::optional<PaymentSummary>>& completion) const {
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().orderGeneration; };
+    call.endpoint = endpoint::orderGeneration;
     call.body = [&] {
         return Body()
             .add("user_type", AppState::shared().userType.get())
@@ -31,7 +31,7 @@ void PaymentProvider::confirmOrder(const std::string& bookingReferenceID, const 
                                    const std::string& otp,
                                    const Completion<std::optional<BookingSummary>>& completion) const {
     ServiceCall call;
-    call.url = [] { return Endpoints::shared().orderConfirmation; };
+    call.endpoint = endpoint::orderConfirmation;
     call.body = [&] {
         return Body()
             .add("user_type", AppState::shared().userType.get())

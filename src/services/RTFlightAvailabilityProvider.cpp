@@ -17,7 +17,7 @@ void RTFlightAvailabilityProvider::fetchAvailability(
     const auto& offer = flight.roundTrip();
     ServiceCall call;
     call.answerBytes = limits::lookupBytes;
-    call.url = [] { return Endpoints::shared().availability; };
+    call.endpoint = endpoint::availability;
     call.body = [&] {
         Body body;
         body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
@@ -42,7 +42,7 @@ void RTFlightAvailabilityProvider::fetchAvailability(
     const auto& returning = returnFlight.oneWay();
     ServiceCall call;
     call.answerBytes = limits::lookupBytes;
-    call.url = [] { return Endpoints::shared().availability; };
+    call.endpoint = endpoint::availability;
     call.body = [&] {
         return Body()
             .add("user_type", AppState::shared().userType.get())

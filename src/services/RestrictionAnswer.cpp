@@ -8,7 +8,7 @@ void sendForRestrictions(std::function<std::optional<std::string>()> body,
                          const Completion<std::optional<std::string>>& completion) {
     ServiceCall call;
     call.answerBytes = limits::lookupBytes;
-    call.url = [] { return Endpoints::shared().restrictions; };
+    call.endpoint = endpoint::restrictions;
     call.body = std::move(body);
     send<std::optional<std::string>>(
         call,

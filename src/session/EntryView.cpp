@@ -6,6 +6,7 @@
 #include "session/Fonts.h"
 #include "state/AppState.h"
 #include "support/Fault.h"
+#include "support/SharedInstance.h"
 
 #include <utility>
 
@@ -21,6 +22,11 @@ std::function<void()> closing(Dismissal dismissal) {
     };
 }
 
+/// Whose the navigation flags of the process are.
+struct ShownLast {
+    const EntryView* view = nullptr;
+};
+
 } // namespace
 
 EntryView::EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal) :
@@ -28,10 +34,16 @@ EntryView::EntryView(EntryArguments arguments, CompletionCallback callback, Dism
     arguments_(std::move(arguments)),
     boundary_(std::make_shared<HostBoundary>(std::move(callback), closing(std::move(dismissal)))) {}
 
-EntryView::~EntryView() { boundary_->drop(); }
+bool EntryView::drop() {
+    dropped_ = true;
+    boundary_->drop();
+    auto& shown = SharedInstance<ShownLast>::get().view;
+    return shown == this && std::exchange(shown, nullptr) != nullptr;
+}
 
 void EntryView::appear() {
     if (std::exchange(bootstrapped_, true)) return;
+    SharedInstance<ShownLast>::get().view = this;
     if (platform().system.isBelow("iOS", 14)) {
         return boundary_->receive(std::nullopt, makeError(CustomError::requiredIOSVersion));
     }
@@ -54,11 +66,13 @@ void EntryView::appear() {
 }
 
 void EntryView::authenticated(std::optional<Authentication> authentication) {
+    if (dropped_) return;
     AppState::shared().update(authentication ? authentication->accessToken : "",
                               arguments_.userType.value_or("customer"),
                               arguments_.walletBalance,
                               arguments_.phone);
     registerFonts();
+    AppState::shared().resetNavigation(); // a view that still lives may have left its results there
     view = std::make_shared<MainView>(boundary_->internalCallback());
 }
 

@@ -39,8 +39,11 @@ struct Dismissal {
 class EntryView final : public Screen {
 public:
     EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal);
+    ~EntryView() override { drop(); }
+
     /// The host drops the view: it is called no more, but for the hand-over of a reservation under way.
-    ~EntryView() override;
+    /// @return whether it is the view that was shown last, whose navigation flags those of the process are
+    bool drop();
 
     void appear() override;
 
@@ -54,6 +57,7 @@ private:
     EntryArguments arguments_;
     std::shared_ptr<HostBoundary> boundary_;
     bool bootstrapped_ = false;
+    bool dropped_ = false;
 };
 
 } // namespace ombrivane

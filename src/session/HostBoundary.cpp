@@ -1,6 +1,7 @@
 #include "session/HostBoundary.h"
 
 #include "platform/Platform.h"
+#include "session/Reservations.h"
 #include "support/Fault.h"
 
 namespace ombrivane {
@@ -53,6 +54,7 @@ void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<E
 
     if (exitOf(*dictionary)) {
         const bool open = endUse();
+        Reservations::shared().keep(*dictionary);
         if (callback_) callback_(std::move(dictionary), std::nullopt);
         return closeIf(open);
     }

@@ -20,7 +20,8 @@ namespace ombrivane {
 ///
 /// Once the component has closed or its view was dropped nothing more is passed on, with one exception: a
 /// dictionary with "exit" true hands over a reservation that was made, and must reach the host whatever
-/// happened meanwhile. Any thread; no lock is held while the host is called.
+/// happened meanwhile. It goes to `Reservations` as well, before the host is called. Any thread; no lock is
+/// held while the host is called.
 class HostBoundary : public std::enable_shared_from_this<HostBoundary> {
 public:
     /// @param close takes the component off the screen; called on the main queue

@@ -1,14 +1,31 @@
 #include "session/OmbrivaneView.h"
 
 #include "session/EntryView.h"
+#include "state/AppState.h"
 #include "support/Navigator.h"
+
+#include <utility>
 
 namespace ombrivane {
 
 struct OmbrivaneView::Parts {
+    ~Parts() { leave(); }
+
+    /// Every screen leaves, and takes the flags that kept it on the stack along: they are those of the
+    /// process, and would show it in the next view. The screens go first, so that none comes into view by
+    /// that.
+    void leave() {
+        const auto leaving = std::exchange(entry, nullptr);
+        if (!leaving) return;
+        const bool ownsFlags = leaving->drop();
+        navigator.reset();
+        if (ownsFlags) AppState::shared().resetNavigation();
+    }
+
     EntryArguments arguments;
     CompletionCallback callback;
     Dismissal dismissal;
+    std::shared_ptr<EntryView> entry; ///< while it is shown
     std::unique_ptr<Navigator> navigator;
 };
 
@@ -29,13 +46,14 @@ OmbrivaneView::OmbrivaneView(std::string clientId, std::string clientSecret,
 OmbrivaneView::~OmbrivaneView() = default;
 
 void OmbrivaneView::onClose(std::function<void()> dismiss, std::function<void()> dismissFrontmost) {
+    if (!dismissFrontmost) dismissFrontmost = dismiss;
     parts_->dismissal = {std::move(dismiss), std::move(dismissFrontmost)};
 }
 
 void OmbrivaneView::show() {
-    parts_->navigator.reset();
-    parts_->navigator = std::make_unique<Navigator>(
-        std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal));
+    parts_->leave();
+    parts_->entry = std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal);
+    parts_->navigator = std::make_unique<Navigator>(parts_->entry);
     parts_->navigator->start();
 }
 

@@ -33,10 +33,13 @@ public:
     OmbrivaneView& operator=(const OmbrivaneView&) = delete;
 
     /// Called, as a step of the main queue, when the component wants to be taken off the screen. Below iOS 15
-    /// it is the frontmost view of the first window that has to go. Set it before the view is shown.
+    /// it is the frontmost view of the first window that has to go: `dismissFrontmost` is called there, where
+    /// it is given. Set it before the view is shown.
     void onClose(std::function<void()> dismiss, std::function<void()> dismissFrontmost = nullptr);
 
-    /// The view comes on screen: the bootstrap starts. Shown again, it starts again.
+    /// The view comes on screen: the bootstrap starts. Shown again, it starts again. The callback may come
+    /// before this returns: below iOS 14, and where there is no connection. Like every call of the host, it
+    /// may drop the view, show it again or show another one.
     void show();
 
     /// The stack of screens; empty until the view is shown.

@@ -1,11 +1,17 @@
 #include "support/Attempted.h"
 
+#include "support/ErrorDomains.h"
 #include "support/Fault.h"
 
 namespace ombrivane {
 namespace {
 
-Error unforeseen(const char* what) { return {"Ombrivane", 3, "The operation could not be completed.", what}; }
+Error unforeseen(const char* what) {
+    return {errorDomain::service,
+            static_cast<int>(ServiceError::notCompleted),
+            "The operation could not be completed.",
+            what};
+}
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "support/Attempted.h"
 #include "support/Error.h"
+#include "support/ErrorDomains.h"
 #include "support/Fault.h"
 
 #include <atomic>
@@ -46,7 +47,10 @@ private:
         ~State() {
             if (called || !handler) return;
             contained([this] {
-                handler(Result(), Error{"Ombrivane", 1, "The operation ended without an answer."});
+                handler(Result(),
+                        Error{errorDomain::service,
+                              static_cast<int>(ServiceError::unanswered),
+                              "The operation ended without an answer."});
             });
         }
 

@@ -38,6 +38,7 @@ private:
 } // namespace
 
 Navigator::Navigator(std::shared_ptr<Screen> root) {
+    root->shownBy_ = self_;
     stack_.push_back({std::move(root), Presentation::push, nullptr});
 }
 
@@ -48,6 +49,7 @@ Navigator::~Navigator() {
         (*screen)->disappear();
     while (!stack_.empty()) {
         stack_.back().screen->covered_ = true; // whoever still holds it taps in vain
+        stack_.back().screen->dismissal_ = nullptr;
         stack_.pop_back();
     }
 }
@@ -166,6 +168,7 @@ bool Navigator::showOne() {
                 destination->dismissal_ = [link, self = std::weak_ptr<Screen>(screen)] {
                     if (const auto owner = self.lock()) link->flag().set(false);
                 };
+                destination->shownBy_ = self_;
                 stack_.push_back({destination, link->presentation(), link});
                 return true;
             }

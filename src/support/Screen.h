@@ -11,6 +11,7 @@
 namespace ombrivane {
 
 class Link;
+class Navigator;
 class Part;
 
 /// One screen: what it holds, shows and decides. It owns fields, derived texts, actions, links and parts.
@@ -42,6 +43,10 @@ public:
     /// Whether a tap reaches what is shown inside of this screen; not while progress or an end lies over it.
     virtual bool lendsInput() const { return true; }
 
+    /// Whether the view that showed this screen has gone. What such a screen still brings to its end leaves
+    /// the navigation of the process alone: it is another view's by now.
+    bool viewIsGone() const { return shownBy_ && *shownBy_ == nullptr; }
+
     /// What it can show over itself, in the order of declaration.
     const std::vector<Link*>& links() const { return links_; }
     /// What it shows inside of itself, in the order of declaration.
@@ -67,6 +72,7 @@ private:
     std::vector<Link*> links_;
     std::vector<Part*> parts_;
     std::function<void()> dismissal_;
+    std::shared_ptr<Navigator*> shownBy_; ///< what it points to is nullptr once the navigator has gone
     std::weak_ptr<Screen> host_;
     bool hosted_ = false;
     bool covered_ = false;

@@ -54,6 +54,9 @@ TEST_P(CanaryTest, NothingPersonalReachesALogAnErrorOrTheOutput) {
     texts.push_back(testing::internal::GetCapturedStderr());
     for (const auto& line : world.diagnostics->lines)
         texts.push_back(line);
+    const auto& failed = world.diagnostics->failedCalls;
+    EXPECT_GE(failed.size(), 4U) << "each failure has its line";
+    texts.insert(texts.end(), failed.begin(), failed.end());
     const std::string token = fakes::captured("token")["data"]["accessToken"];
     for (const std::string& secret : {std::string("Asha"),
                                       std::string("Lama"),

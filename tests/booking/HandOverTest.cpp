@@ -1,5 +1,7 @@
 #include "Wallet.h"
 
+#include "search/MainViewModel.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -43,6 +45,7 @@ const Interruption interruptions[] = {
     {"back to the search", [](auto&, auto&) { AppState::shared().resetNavigation(); }},
     {"the view dropped", [](auto&, Wallet& wallet) { wallet.drop(); }},
     {"the view dropped by its callback", [](auto&, Wallet& wallet) { wallet.dropsWhenCalled = true; }},
+    {"the view shown again by its callback", [](auto&, Wallet& wallet) { wallet.showsWhenCalled = true; }},
 };
 
 class HandOverTest : public testing::TestWithParam<std::tuple<Trip, bool>> {
@@ -102,6 +105,66 @@ TEST_P(HandOverTest, AReservationIsHandedOverOnceWhereverTheBookingIsInterrupted
               << " with a reservation sent\n";
     EXPECT_GE(states, 500U);
     EXPECT_GE(underWay, std::get<bool>(GetParam()) ? 112U : 80U);
+}
+
+/// The flags of the process that keep screens on the stack and are raised.
+std::vector<std::string> raisedFlags() {
+    std::vector<std::string> raised;
+    for (const Member* member : AppState::shared().fields.members()) {
+        if (member->key().ends_with("RootViewActive") && member->read().get<bool>())
+            raised.emplace_back(member->key());
+    }
+    return raised;
+}
+
+TEST_P(HandOverTest, AViewThatWasDroppedOnItsResultsBeginsAtTheSearchAndKeepsTheForm) {
+    fakes::World world;
+    Wallet wallet(world, std::get<Trip>(GetParam()));
+    wallet.toGate();
+    EXPECT_EQ(raisedFlags().size(), 1U);
+    wallet.drop();
+    EXPECT_EQ(raisedFlags(), std::vector<std::string>());
+    wallet.settle();
+    wallet.show();
+    wallet.answer();
+    EXPECT_EQ(wallet.top(), "OmbrivaneView");
+    EXPECT_EQ(wallet.sentTo("search-flights"), 1U);
+    EXPECT_EQ(MainViewModel::shared().departCity.get(), "Kathmandu");
+}
+
+TEST_P(HandOverTest, TheHandOverOfADroppedViewLeavesTheNextOneWhereItIs) {
+    for (const bool wentBack : {false, true}) {
+        fakes::World world;
+        Wallet wallet(world, std::get<Trip>(GetParam()), std::get<bool>(GetParam()));
+        wallet.toReady();
+        wallet.tap("continue");
+        if (wentBack) back(wallet, 1);
+        wallet.drop();
+        wallet.show();
+        wallet.answer(world.network->outstanding() - 1);
+        AppState::shared().onewayOriginRootViewActive = true;
+        wallet.answer();
+        if (wallet.documents) wallet.answer(world.network->outstanding() - 1);
+        EXPECT_EQ(wallet.handedOver.size(), 1U);
+        EXPECT_EQ(wallet.top(), "SelectOriginFlightView");
+    }
+}
+
+/// Two views at a time are not meant to be, but a page may leave after the next one has come.
+TEST(DroppedView, AViewThatLeavesLateTakesNothingFromTheOneShownAfterIt) {
+    fakes::World world;
+    Wallet first(world);
+    first.toGate();
+    world.network->answer(R"({"success":true,"hasRestrictions":false})");
+    Wallet second(world);
+    second.show();
+    second.answer();
+    EXPECT_EQ(second.top(), "OmbrivaneView");
+    AppState::shared().onewayDestinationRootViewActive = true;
+    first.drop();
+    EXPECT_EQ(second.top(), "SelectDestinationFlightView");
+    second.drop();
+    EXPECT_EQ(raisedFlags(), std::vector<std::string>());
 }
 
 INSTANTIATE_TEST_SUITE_P(Trips, HandOverTest, everyTrip, tripName);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace ombrivane {
 namespace {
@@ -40,6 +41,7 @@ void Wallet::show() {
                  number == shows_ || exit);
             if (exit) handedOver.push_back(*dictionary);
             if (dropsWhenCalled) drop();
+            if (std::exchange(showsWhenCalled, false)) show();
         });
     view_->onClose([this, number] {
         hear("close", number == shows_);

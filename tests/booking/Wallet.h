@@ -104,6 +104,7 @@ public:
     std::size_t infants = 0;
     bool documents;
     bool dropsWhenCalled = false;
+    bool showsWhenCalled = false; ///< another one; once
     /// Whether the main queue runs after each event until it is empty.
     bool drains = true;
     /// A passport cannot be saved where no document is demanded.

@@ -81,7 +81,9 @@ public:
 class RecordedDiagnostics final : public Diagnostics {
 public:
     void print(std::string_view line) override { lines.emplace_back(line); }
+    void callFailed(const FailedCall& call) override { failedCalls.push_back(call.line()); }
     std::vector<std::string> lines;
+    std::vector<std::string> failedCalls;
 };
 
 } // namespace ombrivane::fakes

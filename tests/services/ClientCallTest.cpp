@@ -10,7 +10,18 @@ namespace {
 using fakes::captured;
 using Headers = std::vector<std::pair<std::string, std::string>>;
 
-class ClientCallTest : public ServiceFixture {};
+class ClientCallTest : public ServiceFixture {
+protected:
+    std::vector<std::string> takeFailedCalls() { return std::exchange(world.diagnostics->failedCalls, {}); }
+
+    /// What the diagnostics are to hear of a call that failed in this way.
+    static std::string lineOf(const ClientCall& call, const std::optional<Error>& error) {
+        const std::string line = call.target.substr(0, call.target.find('?')) + " failed: ";
+        if (!error) return line + "Network 0, neither an answer nor an error";
+        const std::string known = line + error->domain + " " + std::to_string(error->code);
+        return error->developerDescription.empty() ? known : known + ", " + error->developerDescription;
+    }
+};
 
 /// The random boundary of a form by a short name.
 std::string withKnownBoundary(std::string text) {
@@ -52,11 +63,12 @@ TEST_F(ClientCallTest, SendsOneExactRequestAndReadsItsAnswer) {
         world.answer(captured(call.answer).dump(2));
         EXPECT_EQ(outcome.completions, 1);
         EXPECT_FALSE(outcome.error) << outcome.error->developerDescription;
+        EXPECT_EQ(takeFailedCalls(), std::vector<std::string>());
         EXPECT_EQ(outcome.result, call.result);
     }
 }
 
-TEST_F(ClientCallTest, TellsEachFailureOnceWithAnEmptyResult) {
+TEST_F(ClientCallTest, TellsEachFailureOnceWithAnEmptyResultAndOneDiagnosticLine) {
     const Error reset{"Transport", 54, "The connection was lost."};
     const std::string notUnderstood = "The service's answer could not be understood.";
     const struct {
@@ -95,6 +107,7 @@ TEST_F(ClientCallTest, TellsEachFailureOnceWithAnEmptyResult) {
             if (expected && expected->domain == "Ombrivane" && call.name == "token") {
                 expected->domain = "Ombrivane.Authentication";
             }
+            EXPECT_EQ(takeFailedCalls(), std::vector{lineOf(call, outcome.error)});
             if (outcome.error) outcome.error->developerDescription.clear();
             EXPECT_EQ(outcome.error, expected);
         }
@@ -111,6 +124,7 @@ TEST_F(ClientCallTest, SendsNothingWhenOfflineOrWithoutAnAddress) {
             EXPECT_EQ(outcome.completions, 1) << call.name;
             EXPECT_EQ(outcome.result, call.empty) << call.name;
             ASSERT_TRUE(outcome.error) << call.name;
+            EXPECT_EQ(takeFailedCalls(), std::vector{lineOf(call, outcome.error)});
             EXPECT_EQ(outcome.error->localizedDescription,
                       online ? "The provided url is not valid." : "You are not connected to internet.");
         }
@@ -134,6 +148,8 @@ TEST_F(ClientCallTest, WithoutAWritableBody) {
         EXPECT_EQ(outcome.completions, carriesItinerary ? 1 : 0);
         if (carriesItinerary) {
             EXPECT_TRUE(outcome.error);
+            EXPECT_EQ(takeFailedCalls(),
+                      std::vector{call.target + " failed: Encoding 0, a text is no UTF-8"});
             continue;
         }
         EXPECT_FALSE(world.network->waiting().body);

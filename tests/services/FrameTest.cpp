@@ -16,7 +16,7 @@ TEST_F(FrameTest, NothingButTestSelectsTheTestHost) {
     for (const std::string environment : {"test", "Test", " test", "test ", "", "production"}) {
         dropSharedInstances();
         AppState::shared().environment = environment;
-        EXPECT_EQ(Endpoints::shared().token,
+        EXPECT_EQ(Endpoints::shared().address(endpoint::token),
                   environment == "test" ? "https://test.example/api/b2b/v2/get-token"
                                         : "https://production.example/api/b2b/v2/get-token");
     }

@@ -110,6 +110,27 @@ TEST_F(HostileAnswersTest, EveryValueDamaged) {
     }
 }
 
+/// The diagnostics name the keys that the component knows, and nothing that an answer or a request says.
+TEST_F(HostileAnswersTest, NoValueReachesTheDiagnostics) {
+    auto& lines = world.diagnostics->failedCalls;
+    const std::string words[] = {"C4NARY", "T0KEN", "s3cret", "kath"};
+    for (const ClientCall& call : calls) {
+        const std::string json = bytesOf(call);
+        const JsonSpans spans(json);
+        for (const JsonSpan& span : spans.all()) {
+            for (const char* value : {"\"C4NARY\"", R"({"C4NARY":["C4NARY"]})", R"(["C4NARY"])"})
+                deliver(call, replaced(json, span.begin, span.end, value));
+        }
+        deliver(call, R"({"success":false,"data":{"error":"C4NARY","C4NARY":1}})");
+        deliver(call, "C4NARY");
+        EXPECT_FALSE(lines.empty()) << call.name;
+        for (const auto& line : std::exchange(lines, {})) {
+            for (const auto& word : words)
+                EXPECT_EQ(line.find(word), std::string::npos) << word << " in " << line;
+        }
+    }
+}
+
 TEST_F(HostileAnswersTest, CutOffAnywhereIsNeverASuccess) {
     for (const ClientCall& call : calls) {
         const std::string json = bytesOf(call);

@@ -34,8 +34,12 @@ protected:
                 if (error) heard.back() += " " + error->localizedDescription;
                 if (whenCalled) whenCalled();
             });
-        view->onClose([this] { heard.emplace_back("dismiss"); },
-                      [this] { heard.emplace_back("dismiss frontmost"); });
+        view->onClose(
+            [this] {
+                heard.emplace_back("dismiss");
+                if (whenClosed) whenClosed();
+            },
+            [this] { heard.emplace_back("dismiss frontmost"); });
     }
     void show() {
         if (!view) make();
@@ -51,6 +55,7 @@ protected:
     fakes::World world;
     Log heard;
     std::function<void()> whenCalled;
+    std::function<void()> whenClosed;
     std::unique_ptr<OmbrivaneView> view;
     AppState& state = AppState::shared();
 };
@@ -181,14 +186,20 @@ TEST_F(OmbrivaneViewTest, TellsTheHostOfEveryFailureOnceAndClosesInTheWayOfTheSy
     EXPECT_EQ(taken(), (Log{"nil You are not connected to internet.", "dismiss"}));
 }
 
-TEST_F(OmbrivaneViewTest, BelowFifteenAnApplicationWithoutAWindowIsAFault) {
+TEST_F(OmbrivaneViewTest, OneClosingFunctionServesEverySystemAndNoneIsAFaultBelowFifteen) {
     world.install({"iOS", 14, 5});
     make();
     view->onClose([this] { heard.emplace_back("dismiss"); });
     show();
     world.answer(refusal);
+    EXPECT_EQ(taken(), (Log{"nil Unknown client", "dismiss"}));
+
+    make();
+    view->onClose(nullptr);
+    show();
+    world.answer(refusal);
     EXPECT_EQ(taken(), (Log{"nil Unknown client"}));
-    EXPECT_EQ(world.takeFaults().size(), 1U);
+    EXPECT_EQ(world.takeFaults().size(), 1U) << "the application has no window";
 }
 
 TEST_F(OmbrivaneViewTest, BackOnTheFirstScreenClosesWithoutAWord) {
@@ -236,15 +247,67 @@ TEST_F(OmbrivaneViewTest, AViewDroppedAtAnyStepIsSilentFromThere) {
     EXPECT_TRUE(taken().empty());
 }
 
-TEST_F(OmbrivaneViewTest, MayBeDroppedInsideOfTheClosingStep) {
-    make();
-    view->onClose([this] {
-        view.reset();
-        heard.emplace_back("dismiss");
-    });
-    show();
-    world.answer(refusal);
-    EXPECT_EQ(taken(), (Log{"nil Unknown client", "dismiss"}));
+/// Every call of the host, those that come before `show` has returned included, by everything that it may do
+/// with its view.
+TEST_F(OmbrivaneViewTest, TheHostMayDropShowAgainOrShowAnotherInsideOfEveryCall) {
+    struct Event {
+        const char* name;
+        bool closing; ///< the host acts when it is asked to close, and not when it is told
+        std::function<void()> happen;
+    };
+    const auto offline = [this] {
+        world.reachability->word = 0;
+        show();
+        world.queue->drain();
+    };
+    const auto tooOld = [this] {
+        world.install({"iOS", 13, 0});
+        show();
+        world.queue->drain();
+    };
+    const auto refused = [this] {
+        show();
+        world.answer(refusal);
+    };
+    const auto left = [this] {
+        show();
+        world.answer(granted);
+        content()->back();
+        world.queue->drain();
+    };
+    const Event events[] = {{"no connection", false, offline},
+                            {"no connection, closing", true, offline},
+                            {"a system that is too old", false, tooOld},
+                            {"a refused token", false, refused},
+                            {"a refused token, closing", true, refused},
+                            {"left by the customer", true, left}};
+    const std::pair<const char*, std::function<void()>> actions[] = {{"drop", [this] { view.reset(); }},
+                                                                     {"show again", [this] { view->show(); }},
+                                                                     {"show another", [this] {
+                                                                          make();
+                                                                          show();
+                                                                      }}};
+    for (const auto& event : events) {
+        for (const auto& [name, action] : actions) {
+            SCOPED_TRACE(std::string(event.name) + ": " + name);
+            make();
+            std::size_t acted = 0;
+            (event.closing ? whenClosed : whenCalled) = [&, act = action] {
+                if (acted++ > 0) return;
+                world.install();
+                world.reachability->word = reachableFlag;
+                taken();
+                act();
+            };
+            event.happen();
+            EXPECT_EQ(acted, 1U);
+            EXPECT_TRUE(taken().empty()) << "the one that was told is not told more";
+            if (view) world.answer(granted);
+            EXPECT_EQ(content() != nullptr, view != nullptr);
+            whenCalled = whenClosed = nullptr;
+            view.reset();
+        }
+    }
 }
 
 TEST_F(OmbrivaneViewTest, ShownAgainItStartsAgainAndKeepsWhatTheProcessKeeps) {
