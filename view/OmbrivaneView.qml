@@ -16,7 +16,7 @@ FocusScope {
     property real textScale: 1
     property bool reducedMotion: false
     signal finished(dictionary: string)
-    signal failed(message: string)
+    signal failed(message: string, domain: string, code: int)
     signal closed
 
     function open() { session.open() }
@@ -28,7 +28,7 @@ FocusScope {
     OmbrivaneSession {
         id: session
         onFinished: dictionary => view.finished(dictionary)
-        onFailed: message => view.failed(message)
+        onFailed: (message, domain, code) => view.failed(message, domain, code)
         onClosed: view.closed()
     }
     Stage {

@@ -14,7 +14,8 @@ namespace {
 /// @throws Error for a picture that cannot be written
 std::string pngOf(const DocumentPicture& picture) {
     auto png = picture.jpeg ? platform().images->pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
-    if (!png) throw Error{errorDomain::encoding, 0, "A document could not be sent.", "a picture has no PNG form"};
+    if (!png)
+        throw Error{errorDomain::encoding, 0, "A document could not be sent.", "a picture has no PNG form"};
     return *std::move(png);
 }
 

@@ -73,8 +73,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!answer.data) return 0;
     require(answer.data->size() <= answerLimit, "an answer is within its limit");
     bool wasRead = false;
-    const auto error = detail::readAnswer(
-        std::move(answer), errorDomain::service, [&wasRead](const Envelope& /*envelope*/) { wasRead = true; });
+    const auto error = detail::readAnswer(std::move(answer),
+                                          errorDomain::service,
+                                          [&wasRead](const Envelope& /*envelope*/) { wasRead = true; });
     require(error || wasRead, "there is a result or an error");
     return 0;
 }

@@ -11,9 +11,10 @@ namespace {
 /// The value read from `json` and written again, or why it was not read.
 template <class T> std::string recoded(const std::string& json) {
     simdjson::dom::parser parser;
+    DecodeRoom room;
     T value{};
     try {
-        Decoder<T>::decode(parser.parse(json), value);
+        Decoder<T>::decode(parser.parse(json), value, room);
     } catch (const DecodeError& error) {
         return error.error().localizedDescription;
     }

@@ -31,6 +31,13 @@ WalkPorts::~WalkPorts() {
 
 void walk(WalkPorts& ports, Window& window, const std::string& file,
           const std::function<void(const std::string& name)>& look, const Commands& commands) {
+    std::ifstream lines(file);
+    ASSERT_TRUE(lines) << file;
+    walk(ports, window, lines, look, commands);
+}
+
+void walk(WalkPorts& ports, Window& window, std::istream& lines,
+          const std::function<void(const std::string& name)>& look, const Commands& commands) {
     auto& queue = dynamic_cast<QtMainQueue&>(*platform().mainQueue);
     bool faulted = false;
     journey::Script script({
@@ -45,7 +52,7 @@ void walk(WalkPorts& ports, Window& window, const std::string& file,
         .advance = [&](auto duration) { queue.advance(duration); },
         .open = [&] { window.open(); },
         .destroy = [&] { window.session().drop(); },
-        .navigator = [&] { return window.session().navigator(); },
+        .navigator = [&] { return window.hasSession() ? window.session().navigator() : nullptr; },
         .faulted = [&] { return faulted; },
         .log = ports.log,
         .clock = *ports.clock,
@@ -58,10 +65,8 @@ void walk(WalkPorts& ports, Window& window, const std::string& file,
     script.addCommand("faults", [](const std::string& fault) {
         service().setFaults(fault.empty() ? std::vector<std::string>() : std::vector{fault});
     });
-    std::ifstream lines(file);
-    ASSERT_TRUE(lines) << file;
     window.open();
-    EXPECT_EQ(script.play(lines), journey::Ending::done) << file;
+    EXPECT_EQ(script.play(lines), journey::Ending::done);
 }
 
 } // namespace ombrivane::view

@@ -6,6 +6,7 @@
 #include "Window.h"
 #include "platform/AdjustableClock.h"
 
+#include <istream>
 #include <map>
 #include <memory>
 #include <string>
@@ -37,6 +38,9 @@ using Commands = std::map<std::string, journey::Script::Command>;
 /// Plays a script against the pages of `window`; `look NAME` in it calls `look`. Adds a failure where the
 /// script stops early.
 void walk(WalkPorts& ports, Window& window, const std::string& file,
+          const std::function<void(const std::string& name)>& look, const Commands& commands = {});
+/// The same for the lines of a script.
+void walk(WalkPorts& ports, Window& window, std::istream& lines,
           const std::function<void(const std::string& name)>& look, const Commands& commands = {});
 
 } // namespace ombrivane::view

@@ -1,6 +1,5 @@
 #include "Window.h"
 
-#include "state/AppState.h"
 #include "support/Navigator.h"
 
 #include <gtest/gtest.h>
@@ -44,24 +43,26 @@ void addVisible(QQuickItem* item, std::vector<QQuickItem*>& items) {
 
 } // namespace
 
-Window::Window(int width, int height) {
+Window::Window(int width, int height) : Window(source, width, height) {
+    session_->setCallback([this](auto, auto) { ++callbacks; });
+    QObject::connect(session_, &OmbrivaneSession::closed, window_, [this] { ++closings; });
+}
+
+Window::Window(const char* wallet, int width, int height) {
     collected = &warnings_;
     qInstallMessageHandler(collect);
     engine_.addImportPath("qrc:/com.framework.Ombrivane/qml");
     QQmlComponent component(&engine_);
-    component.setData(source, QUrl("qrc:/test/Window.qml"));
+    component.setData(wallet, QUrl("qrc:/test/Window.qml"));
     root_.reset(component.create());
     if (!root_) throw std::runtime_error(component.errorString().toStdString());
     window_ = qobject_cast<QQuickWindow*>(root_.get());
     window_->resize(width, height);
     session_ = window_->findChild<OmbrivaneSession*>();
-    session_->setCallback([this](auto, auto) { ++callbacks; });
-    QObject::connect(session_, &OmbrivaneSession::closed, window_, [this] { ++closings; });
 }
 
 Window::~Window() {
-    session_->drop();
-    AppState::shared().resetNavigation(); // kept by the process, and not for the next test
+    if (session_) session_->drop();
     root_.reset();
     waitFor([] { return true; });
     qInstallMessageHandler(nullptr);
@@ -105,7 +106,7 @@ bool Window::waitFor(const std::function<bool()>& done) {
 
 bool Window::waitForScreen(const std::string& name) {
     return waitFor([&] {
-        const Navigator* navigator = session_->navigator();
+        const Navigator* navigator = session_ ? session_->navigator() : nullptr;
         return navigator != nullptr && navigator->find(name) != nullptr;
     });
 }

@@ -3,6 +3,7 @@
 #include "items/OmbrivaneSession.h"
 #include "sandbox/Sandbox.h"
 
+#include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -24,16 +25,21 @@ std::chrono::sys_seconds startOfTests();
 class Window {
 public:
     explicit Window(int width = 390, int height = 844);
+    /// A wallet of the test's own: a window with an `OmbrivaneView` in it, whose signals are its own
+    /// business.
+    explicit Window(const char* wallet, int width = 390, int height = 844);
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
     ~Window();
 
     OmbrivaneSession& session() { return *session_; }
+    /// Whether the page with the component lives.
+    bool hasSession() const { return !session_.isNull(); }
     QQuickWindow& window() { return *window_; }
 
     void open();
     /// Turns the event loop until `done` holds or ten seconds have passed; tells whether it held.
-    bool waitFor(const std::function<bool()>& done);
+    static bool waitFor(const std::function<bool()>& done);
     bool waitForScreen(const std::string& name);
     /// The visible item with this object name, nullptr where there is none.
     QQuickItem* item(const QString& name);
@@ -53,7 +59,7 @@ private:
     QQmlEngine engine_;
     std::unique_ptr<QObject> root_;
     QQuickWindow* window_ = nullptr;
-    OmbrivaneSession* session_ = nullptr;
+    QPointer<OmbrivaneSession> session_;
     std::vector<std::string> warnings_;
 };
 

@@ -6,31 +6,47 @@
 #include <QPointer>
 
 #include <cmath>
+#include <limits>
 
 namespace ombrivane::view {
 namespace {
 
-std::optional<std::string> given(const QString& text) {
-    return text.isEmpty() ? std::nullopt : std::optional(text.toStdString());
+std::optional<std::string> given(const std::optional<QString>& text) {
+    return text ? std::optional(text->toStdString()) : std::nullopt;
 }
 
 } // namespace
 
 OmbrivaneSession::~OmbrivaneSession() { drop(); }
 
+double OmbrivaneSession::givenWalletBalance() const {
+    return walletBalance.value_or(std::numeric_limits<double>::quiet_NaN());
+}
+
+void OmbrivaneSession::setWalletBalance(double given) {
+    walletBalance = std::isnan(given) ? std::nullopt : std::optional(given);
+}
+
 void OmbrivaneSession::drop() {
+    opened_.reset();
     stage_.follow(nullptr);
     view_.reset();
 }
 
-/// The signals come on the main thread and only while this lives.
+/// The signals come on the main thread and only while this lives; of a view that was dropped meanwhile comes
+/// the hand-over alone.
 CompletionCallback OmbrivaneSession::callback() {
     if (callback_) return callback_;
-    return [self = QPointer<OmbrivaneSession>(this)](
+    return [self = QPointer<OmbrivaneSession>(this), opened = std::weak_ptr(opened_)](
                std::optional<Dictionary> dictionary, std::optional<Error> error) {
-        mainQueue().async([self, dictionary = std::move(dictionary), error = std::move(error)] {
-            if (!self) return;
-            if (error) emit self->failed(QString::fromStdString(error->localizedDescription));
+        mainQueue().async([self, opened, dictionary = std::move(dictionary), error = std::move(error)] {
+            const bool handsOver = dictionary && dictionary->at("exit").get<bool>();
+            if (!self || (opened.expired() && !handsOver)) return;
+            if (error) {
+                return emit self->failed(QString::fromStdString(error->localizedDescription),
+                                         QString::fromStdString(error->domain),
+                                         error->code);
+            }
             if (dictionary) emit self->finished(QString::fromStdString(dictionary->dump()));
         });
     };
@@ -38,20 +54,22 @@ CompletionCallback OmbrivaneSession::callback() {
 
 void OmbrivaneSession::open() {
     drop();
+    opened_ = std::make_shared<Opened>();
     view_ = std::make_unique<OmbrivaneView>(clientId.toStdString(),
                                             clientSecret.toStdString(),
                                             given(userType),
-                                            std::isnan(walletBalance) ? std::nullopt
-                                                                      : std::optional(walletBalance),
+                                            walletBalance,
                                             given(phone),
                                             given(environment),
                                             callback());
-    const auto close = [self = QPointer<OmbrivaneSession>(this)] {
+    const QPointer<OmbrivaneSession> self(this);
+    view_->onClose([self] {
         if (self) emit self->closed();
-    };
-    view_->onClose(close, close);
+    });
+    // The host may be called before `show` returns, and may drop, open again or destroy this when it is.
+    const OmbrivaneView* shown = view_.get();
     guarded([this] { view_->show(); });
-    stage_.follow(view_->navigator());
+    if (self && view_.get() == shown && shown != nullptr) stage_.follow(shown->navigator());
 }
 
 } // namespace ombrivane::view

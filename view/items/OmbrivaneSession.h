@@ -6,7 +6,6 @@
 #include <QObject>
 #include <QQmlEngine>
 
-#include <limits>
 #include <memory>
 #include <optional>
 
@@ -19,10 +18,12 @@ class OmbrivaneSession : public QObject {
     QML_ELEMENT
     Q_PROPERTY(QString clientId MEMBER clientId FINAL)
     Q_PROPERTY(QString clientSecret MEMBER clientSecret FINAL)
-    Q_PROPERTY(QString userType MEMBER userType FINAL)          ///< empty: "customer"
-    Q_PROPERTY(double walletBalance MEMBER walletBalance FINAL) ///< NaN: no limit
-    Q_PROPERTY(QString phone MEMBER phone FINAL)
-    Q_PROPERTY(QString environment MEMBER environment FINAL) ///< empty: "test"
+    // The four that a wallet may not have: absent until they are given, and again when they are `undefined`.
+    Q_PROPERTY(QString userType READ givenUserType WRITE setUserType RESET resetUserType FINAL)
+    Q_PROPERTY(
+        double walletBalance READ givenWalletBalance WRITE setWalletBalance RESET resetWalletBalance FINAL)
+    Q_PROPERTY(QString phone READ givenPhone WRITE setPhone RESET resetPhone FINAL)
+    Q_PROPERTY(QString environment READ givenEnvironment WRITE setEnvironment RESET resetEnvironment FINAL)
     Q_PROPERTY(ombrivane::view::StageModel* stage READ stage CONSTANT FINAL)
 
 public:
@@ -34,32 +35,52 @@ public:
     /// The stack of screens; nullptr while the component is not open.
     Navigator* navigator() const { return view_ ? view_->navigator() : nullptr; }
 
-    /// Shows the component; shown again, it starts again.
+    /// Shows the component; shown again, it starts again. The callback may come before this returns, as
+    /// `OmbrivaneView::show` says; the signals do not.
     Q_INVOKABLE void open();
-    /// Drops the component, as a host may at any time.
+    /// Drops the component, as a host may at any time, also inside of the callback and of every signal.
     Q_INVOKABLE void drop();
 
     /// Called in place of the signals, on the thread that the component reached it on. Set before `open`.
     void setCallback(CompletionCallback callback) { callback_ = std::move(callback); }
 
-    QString clientId;     ///< the wallet's own, from the booking service
-    QString clientSecret; ///< never shown, printed or written
-    QString userType;     ///< empty: "customer"
-    double walletBalance = std::numeric_limits<double>::quiet_NaN(); ///< in whole rupees; NaN: no limit
-    QString phone;                                                   ///< of the customer, empty where unknown
-    QString environment;                                             ///< empty: "test"
+    QString clientId;                    ///< the wallet's own, from the booking service
+    QString clientSecret;                ///< never shown, printed or written
+    std::optional<QString> userType;     ///< absent: "customer"
+    std::optional<double> walletBalance; ///< in whole rupees; absent: no limit
+    std::optional<QString> phone;        ///< of the customer
+    std::optional<QString> environment; ///< absent: "test"; any text but "test", an empty one too: production
 
     /// The hand-over, or progress where "exit" in it is false; JSON. On the main thread.
     Q_SIGNAL void finished(const QString& dictionary);
-    /// The component failed, in the words of the error. On the main thread.
-    Q_SIGNAL void failed(const QString& message);
+    /// The component failed: in the words of the error, and by the domain and the code that
+    /// `support/ErrorDomains.h` names. On the main thread.
+    Q_SIGNAL void failed(const QString& message, const QString& domain, int code);
     /// The component wants to be taken off the screen.
     Q_SIGNAL void closed();
+
+    // For QML: what is absent reads as an empty text or as NaN.
+    QString givenUserType() const { return userType.value_or(QString()); }
+    QString givenPhone() const { return phone.value_or(QString()); }
+    QString givenEnvironment() const { return environment.value_or(QString()); }
+    double givenWalletBalance() const;
+    void setUserType(const QString& given) { userType = given; }
+    void setPhone(const QString& given) { phone = given; }
+    void setEnvironment(const QString& given) { environment = given; }
+    /// NaN is absent, as it is what an absent balance reads as.
+    void setWalletBalance(double given);
+    void resetUserType() { userType.reset(); }
+    void resetPhone() { phone.reset(); }
+    void resetEnvironment() { environment.reset(); }
+    void resetWalletBalance() { walletBalance.reset(); }
 
 private:
     CompletionCallback callback();
 
+    struct Opened {};
+
     CompletionCallback callback_;
+    std::shared_ptr<Opened> opened_; ///< while the view that was opened last is neither dropped nor replaced
     StageModel stage_;
     std::unique_ptr<OmbrivaneView> view_;
 };
