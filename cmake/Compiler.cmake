@@ -25,6 +25,11 @@ function(ombrivane_precompiled target)
     endif()
 endfunction()
 
+# Most of compiling a small file is reading what it includes: where nothing is built again and again, eight are read as one.
+function(ombrivane_united target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ${OMBRIVANE_UNITED} UNITY_BUILD_BATCH_SIZE 8)
+endfunction()
+
 if(OMBRIVANE_SANITIZE)
     add_compile_options(-fsanitize=${OMBRIVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${OMBRIVANE_SANITIZE})

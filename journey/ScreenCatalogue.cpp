@@ -147,12 +147,12 @@ void Catalogue::addBooking() {
                                                                   "Adult",
                                                                   {"passport"},
                                                                   true,
-                                                                  TravelDates{"2026-12-01", "2026-12-09"},
+                                                                  TravelDates{*Day::parse("2026-12-01"), *Day::parse("2026-12-09")},
                                                                   session->passengersList,
                                                                   session->documentList}));
     add("`openPhotoPicker` of `TravellerInformationView`", [] {
         Fields fields;
-        return std::make_shared<PhotoPicker>(Published<std::optional<Image>>(fields, "image"));
+        return std::make_shared<PhotoPicker>(Published<std::optional<DocumentPicture>>(fields, "image"));
     }());
     add("`button` of `PaymentView`, one way",
         std::make_shared<OWBookingConfirmationView>(

@@ -6,10 +6,6 @@ namespace {
 /// What the card holds before the availability has arrived.
 const BaggageBlock sampleBlock{"KTM - JFK", "7 Kg", "46 Kg"};
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 std::vector<BaggageBlock> blocksOf(const std::optional<OWFlightAvailability>& availability) {
     if (!availability) return {sampleBlock};
     const auto& flights = availability->flightsSummary;

@@ -13,11 +13,7 @@ namespace {
 
 constexpr const char* waiting = "Loading ...";
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
-std::vector<TicketFlightBlock> blocksOf(const std::optional<OWFlightAvailability>& availability) {
+std::vector<TicketFlightBlock> passengerBlocksOf(const std::optional<OWFlightAvailability>& availability) {
     if (!availability)
         return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
     const auto& flights = availability->flightsSummary;
@@ -32,7 +28,7 @@ std::vector<TicketFlightBlock> blocksOf(const std::optional<OWFlightAvailability
              baggage.baggage}};
 }
 
-std::vector<TicketFlightBlock> blocksOf(const std::optional<RTFlightAvailability>& availability) {
+std::vector<TicketFlightBlock> passengerBlocksOf(const std::optional<RTFlightAvailability>& availability) {
     if (!availability) {
         return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting},
                 {"Returning Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
@@ -159,7 +155,7 @@ OWBookingConfirmationView::OWBookingConfirmationView(std::optional<OWFlightAvail
                                                      std::string cabinName,
                                                      std::vector<Passenger> localPassengers,
                                                      CompletionCallback completionCallback) :
-    BookingConfirmationView("OWBookingConfirmationView", blocksOf(availability), std::move(summary),
+    BookingConfirmationView("OWBookingConfirmationView", passengerBlocksOf(availability), std::move(summary),
                             std::move(cabinName), std::move(localPassengers), std::move(completionCallback)),
     owFlightAvailability(fields, "owFlightAvailability", std::move(availability)) {}
 
@@ -168,7 +164,7 @@ RTBookingConfirmationView::RTBookingConfirmationView(std::optional<RTFlightAvail
                                                      std::string cabinName,
                                                      std::vector<Passenger> localPassengers,
                                                      CompletionCallback completionCallback) :
-    BookingConfirmationView("RTBookingConfirmationView", blocksOf(availability), std::move(summary),
+    BookingConfirmationView("RTBookingConfirmationView", passengerBlocksOf(availability), std::move(summary),
                             std::move(cabinName), std::move(localPassengers), std::move(completionCallback)),
     rtFlightAvailability(fields, "rtFlightAvailability", std::move(availability)) {}
 

@@ -17,10 +17,6 @@ constexpr const char* passengersMissing = "Please fill the details for all passe
 constexpr std::chrono::milliseconds second{1000};
 constexpr int minute = 60;
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 BookingSession::BookingSession(std::string_view screenName, BookingGiven given) :

@@ -8,10 +8,6 @@
 namespace ombrivane {
 namespace {
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 /// The pieces between single blanks, empty ones included.
 std::vector<std::string> pieces(const std::string& text) {
     std::vector<std::string> result;

@@ -8,10 +8,6 @@ namespace {
 
 constexpr const char* toDo = "Fill the passenger details";
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 ContactLine::ContactLine(std::string_view lineName, std::function<std::string()> titleText,

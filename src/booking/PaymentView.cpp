@@ -11,10 +11,6 @@ constexpr const char* partner = "kolmiWallet";
 /// Shown while there is no order.
 constexpr const char* sampleReference = "OMB26SAMPLE014";
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 PaymentView::PaymentView(PaymentGiven given) :

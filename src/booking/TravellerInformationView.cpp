@@ -45,10 +45,6 @@ Day pickedDate(const std::string& text) {
     return *day;
 }
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 DocumentTypeTile::DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen,

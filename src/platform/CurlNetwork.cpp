@@ -10,14 +10,6 @@
 #include <vector>
 
 namespace ombrivane {
-namespace {
-
-struct FreeMulti {
-    void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
-};
-
-} // namespace
-
 /// The network's thread. New transfers are handed over under a lock; all else is the thread's own.
 class CurlNetwork::Worker {
 public:
@@ -99,6 +91,10 @@ private:
             for (auto& transfer : left)
                 transfer->abandon();
     }
+
+    struct FreeMulti {
+        void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
+    };
 
     std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
     std::mutex mutex_;

@@ -13,10 +13,6 @@ namespace {
 
 constexpr const char* allAirlines = "All Airlines";
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 TimeCardView::TimeCardView(std::size_t bucket, const Field<std::string>& chosenTime) :

@@ -5,7 +5,7 @@
 namespace ombrivane {
 namespace {
 
-constexpr SearchFormTraits traits{
+constexpr SearchFormTraits oneWayTraits{
     .name = "OneWayView",
     .modelKey = "oneWayVM",
     .itineraryType = itineraryType::oneway,
@@ -18,6 +18,6 @@ constexpr SearchFormTraits traits{
 } // namespace
 
 OneWayView::OneWayView(CompletionCallback completionCallback) :
-    SearchForm(traits, std::move(completionCallback)) {}
+    SearchForm(oneWayTraits, std::move(completionCallback)) {}
 
 } // namespace ombrivane

@@ -16,10 +16,6 @@ constexpr const char* noFlightsFound = "Sorry! No flight recommendations found."
 /// About half of the header: a shorter scroll is a finger that rests.
 constexpr double headerLeavesAt = 32.0;
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view modelKey, SearchRequest request,

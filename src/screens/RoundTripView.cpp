@@ -5,7 +5,7 @@
 namespace ombrivane {
 namespace {
 
-constexpr SearchFormTraits traits{
+constexpr SearchFormTraits roundTripTraits{
     .name = "RoundTripView",
     .modelKey = "roundTripVM",
     .itineraryType = itineraryType::round,
@@ -18,6 +18,6 @@ constexpr SearchFormTraits traits{
 } // namespace
 
 RoundTripView::RoundTripView(CompletionCallback completionCallback) :
-    SearchForm(traits, std::move(completionCallback)) {}
+    SearchForm(roundTripTraits, std::move(completionCallback)) {}
 
 } // namespace ombrivane

@@ -15,10 +15,6 @@
 namespace ombrivane {
 namespace {
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 /// A date of the form, which is shown once its text has been chosen.
 std::string shownDate(const std::string& text, Day date) {
     return text.empty() ? "" : formatDay(date, dayPattern::form);

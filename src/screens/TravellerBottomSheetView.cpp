@@ -23,10 +23,6 @@ constexpr std::array<CabinChoice, 5> cabinChoices{{
 
 constexpr std::array kinds{TravellerKind::adult, TravellerKind::child, TravellerKind::infant};
 
-std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace
 
 TravellerBottomSheetView::TravellerBottomSheetView(MainViewModel& model) :

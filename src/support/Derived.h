@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace ombrivane {
 
@@ -57,5 +58,10 @@ private:
 
     std::shared_ptr<Core> core_;
 };
+
+/// The computation of a word that never changes.
+inline std::function<std::string()> constant(const char* text) {
+    return [text] { return std::string(text); };
+}
 
 } // namespace ombrivane

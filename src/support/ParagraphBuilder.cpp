@@ -6,7 +6,7 @@
 namespace ombrivane {
 namespace {
 
-constexpr std::string_view blanks = " \t\n\r\f";
+constexpr std::string_view collapsible = " \t\n\r\f";
 constexpr std::string_view hardBlank = "\u00A0";
 constexpr std::string_view cellSeparator = " \u00B7 ";
 
@@ -39,7 +39,7 @@ void dropTrailingBlanks(std::string& text) {
 
 void ParagraphBuilder::add(std::string_view text, bool underlined) {
     while (!text.empty()) {
-        const std::size_t word = text.find_first_not_of(blanks);
+        const std::size_t word = text.find_first_not_of(collapsible);
         if (word != 0 && !owesBlank_) {
             owesBlank_ = true;
             blankIsUnderlined_ = underlined;
@@ -47,7 +47,7 @@ void ParagraphBuilder::add(std::string_view text, bool underlined) {
         if (word == std::string_view::npos) return;
         if (std::exchange(owesBlank_, false)) append(" ", blankIsUnderlined_);
         text.remove_prefix(word);
-        const std::size_t end = std::min(text.find_first_of(blanks), text.size());
+        const std::size_t end = std::min(text.find_first_of(collapsible), text.size());
         append(text.substr(0, end), underlined);
         text.remove_prefix(end);
     }

@@ -8,7 +8,7 @@ namespace {
 using namespace std::chrono_literals;
 using Heard = std::vector<std::string>;
 
-constexpr const char* refused = R"({"success":false,"data":{"error":"Wrong password."}})";
+constexpr const char* refusedPayment = R"({"success":false,"data":{"error":"Wrong password."}})";
 
 /// The payment in place of a session's content, entered as no step of the session does.
 class PaymentTest : public testing::TestWithParam<std::tuple<Trip, bool>> {
@@ -55,7 +55,7 @@ TEST_P(PaymentTest, OpensAnOrderAndConfirmsItWithThePasswordAsOftenAsItTakes) {
     wallet.tap("payment.typeOtp", "1234");
     wallet.tap("payment.button");
     EXPECT_EQ(wallet.lastSent()["otp"], "1234");
-    wallet.answer(Json::parse(refused));
+    wallet.answer(Json::parse(refusedPayment));
     EXPECT_EQ(at("errorMessage"), "Wrong password.");
     EXPECT_EQ(at("showSnackBar"), true);
     EXPECT_EQ(at("payment.otpText"), "1234");

@@ -12,7 +12,7 @@ namespace {
 
 std::mutex mutex;
 std::condition_variable changed;
-bool silent = false;
+bool isSilent = false;
 int waiting = 0;
 
 constexpr std::chrono::seconds patience{20};
@@ -26,7 +26,7 @@ extern "C" __attribute__((visibility("default"))) int getaddrinfo(const char* no
         std::unique_lock lock(mutex);
         ++waiting;
         changed.notify_all();
-        changed.wait_for(lock, patience, [] { return !silent; });
+        changed.wait_for(lock, patience, [] { return !isSilent; });
         --waiting;
         changed.notify_all();
         return EAI_AGAIN;
@@ -39,12 +39,12 @@ namespace ombrivane::network {
 
 SilentNameServer::SilentNameServer() {
     const std::lock_guard lock(mutex);
-    silent = true;
+    isSilent = true;
 }
 
 SilentNameServer::~SilentNameServer() {
     std::unique_lock lock(mutex);
-    silent = false;
+    isSilent = false;
     changed.notify_all();
     changed.wait_for(lock, patience, [] { return waiting == 0; });
 }

@@ -9,7 +9,7 @@ namespace ombrivane {
 namespace {
 
 /// The value read from `json` and written again, or why it was not read.
-template <class T> std::string recoded(const std::string& json) {
+template <class T> std::string rewritten(const std::string& json) {
     simdjson::dom::parser parser;
     DecodeRoom room;
     T value{};
@@ -45,9 +45,9 @@ TEST(ScalarsTest, KeepTheJsonTypeThatArrived) {
         {"[7]", weight, free, time},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(recoded<Weight>(row.json), row.asWeight) << row.json;
-        EXPECT_EQ(recoded<FreeBaggage>(row.json), row.asFreeBaggage) << row.json;
-        EXPECT_EQ(recoded<ConnectionTime>(row.json), row.asConnectionTime) << row.json;
+        EXPECT_EQ(rewritten<Weight>(row.json), row.asWeight) << row.json;
+        EXPECT_EQ(rewritten<FreeBaggage>(row.json), row.asFreeBaggage) << row.json;
+        EXPECT_EQ(rewritten<ConnectionTime>(row.json), row.asConnectionTime) << row.json;
     }
 }
 

@@ -130,7 +130,7 @@ TEST_F(AnswerRoomTest, MemoryThatIsNotThereIsTheCompletionsError) {
         if (error) ++failures;
     };
     FlightQuery query;
-    query.departDate = *parseIso("2026-04-09T20:00:00Z");
+    query.departDate = Day::parse("2026-04-10").value();
     query.adults = query.children = query.infants = "1";
     const std::pair<const char*, std::function<void()>> rows[] = {
         {"token", [&] { AuthenticationProvider().authenticate("a", "b", std::nullopt, hear); }},

@@ -112,7 +112,7 @@ TEST_F(ReadExactlyTest, AnOfferGoesBackWithTheHugeNumbersItCameWith) {
     const std::string offer = withMembers(fakes::captured("search-oneway").at("data").at(0).dump(), members);
     OneWayOffers offers;
     FlightQuery query;
-    query.departDate = *parseIso("2026-04-09T20:00:00Z");
+    query.departDate = Day::parse("2026-04-10").value();
     query.adults = query.children = query.infants = "1";
     FlightSearchOneWayProvider().searchFlights(
         query, [&](OneWayOffers found, const std::optional<Error>&) { offers = std::move(found); });

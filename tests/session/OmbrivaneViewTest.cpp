@@ -265,7 +265,7 @@ TEST_F(OmbrivaneViewTest, TheHostMayDropShowAgainOrShowAnotherInsideOfEveryCall)
         show();
         world.queue->drain();
     };
-    const auto refused = [this] {
+    const auto refusedToken = [this] {
         show();
         world.answer(refusal);
     };
@@ -278,8 +278,8 @@ TEST_F(OmbrivaneViewTest, TheHostMayDropShowAgainOrShowAnotherInsideOfEveryCall)
     const Event events[] = {{"no connection", false, offline},
                             {"no connection, closing", true, offline},
                             {"a system that is too old", false, tooOld},
-                            {"a refused token", false, refused},
-                            {"a refused token, closing", true, refused},
+                            {"a refused token", false, refusedToken},
+                            {"a refused token, closing", true, refusedToken},
                             {"left by the customer", true, left}};
     const std::pair<const char*, std::function<void()>> actions[] = {{"drop", [this] { view.reset(); }},
                                                                      {"show again", [this] { view->show(); }},

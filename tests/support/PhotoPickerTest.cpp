@@ -10,9 +10,9 @@
 namespace ombrivane {
 namespace {
 
-class Form final : public Screen {
+class PictureForm final : public Screen {
 public:
-    Form() : Screen("Form") {}
+    PictureForm() : Screen("Form") {}
     Published<std::optional<DocumentPicture>> documentImage{fields, "documentImage"};
     Published<bool> isShowingPhotoPicker{fields, "isShowingPhotoPicker", false};
     Link picker{*this, Presentation::sheet, isShowingPhotoPicker, [this] {
@@ -36,7 +36,7 @@ protected:
     bool isClosed() { return !form->isShowingPhotoPicker.get() && !world.photos->isOpen(); }
 
     fakes::World world;
-    std::shared_ptr<Form> form = std::make_shared<Form>();
+    std::shared_ptr<PictureForm> form = std::make_shared<PictureForm>();
     Navigator navigator{form};
 };
 

@@ -1,6 +1,7 @@
 #include "Walk.h"
 
 #include "session/Reservations.h"
+#include "support/Navigator.h"
 
 #include <gtest/gtest.h>
 
