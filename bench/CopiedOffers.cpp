@@ -25,8 +25,8 @@ void CopiedOffers::filter(double price, const std::string& airline, const std::s
         if (airline != "All Airlines" && offer.flightSummary.carrierName != airline) return false;
         if (static_cast<double>(offer.fareInformation.totalCost) > price) return false;
         if (bucket == nullptr) return true;
-        const std::int64_t hour = departureHour(offer.flightSummary.timeOfDeparture);
-        return hour >= bucket->firstHour && hour <= bucket->lastHour;
+        const auto hour = departureHour(offer.flightSummary.timeOfDeparture);
+        return hour && *hour >= bucket->firstHour && *hour <= bucket->lastHour;
     });
     filtered_ = std::move(kept);
 }

@@ -143,13 +143,14 @@ void Catalogue::addBooking() {
                                                           session->emergencyContact,
                                                           session->passengersList));
     add("`tap` of a passenger's line",
-        std::make_shared<TravellerInformationView>(TravellerGiven{Uuid::random(),
-                                                                  "Adult",
-                                                                  {"passport"},
-                                                                  true,
-                                                                  TravelDates{*Day::parse("2026-12-01"), *Day::parse("2026-12-09")},
-                                                                  session->passengersList,
-                                                                  session->documentList}));
+        std::make_shared<TravellerInformationView>(
+            TravellerGiven{Uuid::random(),
+                           "Adult",
+                           {"passport"},
+                           true,
+                           TravelDates{*Day::parse("2026-12-01"), *Day::parse("2026-12-09")},
+                           session->passengersList,
+                           session->documentList}));
     add("`openPhotoPicker` of `TravellerInformationView`", [] {
         Fields fields;
         return std::make_shared<PhotoPicker>(Published<std::optional<DocumentPicture>>(fields, "image"));

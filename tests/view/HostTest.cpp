@@ -164,24 +164,29 @@ public slots:
     void closed() { hear("closed"); }
 };
 
-/// A host in C++ that owns the item, and deletes it outright.
+/// A host in C++ that owns the item, and deletes it.
 class CppHost {
 public:
     enum Kind { callback, sessionSignals, itemSignals };
 
     CppHost(Kind kind, const Event& event, const char* reaction) {
-        ear_.hear = [this, event, reaction](const char* signal) {
+        ear_.hear = [this, kind, event, reaction](const char* signal) {
             if (std::string_view(signal) != event.signal || reacted) return;
             reacted = true;
             if (std::string_view(reaction) == "drop") session->drop();
             if (std::string_view(reaction) == "open") session->open();
-            if (std::string_view(reaction) == "destroy") item_.reset();
+            if (std::string_view(reaction) != "destroy") return;
+            // Qt allows no QML object to be deleted inside of a handler of its own.
+            if (kind == itemSignals) item_.release()->deleteLater();
+            item_.reset();
         };
         engine_.addImportPath("qrc:/com.framework.Ombrivane/qml");
         QQmlComponent component(&engine_,
                                 QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/OmbrivaneView.qml"));
         item_.reset(component.create());
         session = item_->findChild<OmbrivaneSession*>();
+        session->clientId = "wallet";
+        session->clientSecret = "wallet-secret";
         if (kind == callback) session->setCallback([this](const auto&, const auto&) { ear_.told(); });
         if (kind == itemSignals) {
             QObject::connect(item_.get(), SIGNAL(failed(QString, QString, int)), &ear_, SLOT(told()));
