@@ -8,6 +8,7 @@
 
 #include <QtTest/QTest>
 
+#include <regex>
 #include <sstream>
 
 namespace ombrivane::view {
@@ -66,7 +67,9 @@ std::string bodiesSent() {
     for (const auto& request : service().requests())
         if (request.path.ends_with("/search-flights") || request.path.ends_with("/reservation"))
             bodies += request.path + " " + request.body + "\n";
-    return bodies;
+    // The identities of passengers are made afresh for each booking.
+    static const std::regex identity(R"("id":"[0-9A-Fa-f-]{36}")");
+    return std::regex_replace(bodies, identity, R"("id":"")");
 }
 
 /// One booking on the pages in `locale` and `zone`. @return what was sent
@@ -83,10 +86,12 @@ std::string book(const char* locale, const char* zone) {
     walk(ports,
          window,
          "tests/view/gallery/days.script",
-         [](const std::string&) {},
+         [&](const std::string&) { EXPECT_TRUE(window.waitFor([&] { return window.callbacks > 0; })); },
          {{"click", [&](const std::string& name) { window.click(QString::fromStdString(name)); }},
           {"turn", [&](const std::string& arguments) { turn(window, arguments); }}});
-    EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
+    for (const auto& warning :
+         window.takeWarnings()) // of pages; that a font lacks a script is none of theirs
+        EXPECT_EQ(warning.find("qrc:"), std::string::npos) << warning;
     return bodiesSent();
 }
 

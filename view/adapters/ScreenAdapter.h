@@ -29,7 +29,8 @@ protected:
     /// Follows `member`; `told` is called once for all changes of a turn, when it ends: a page that reads
     /// other members meanwhile finds them settled.
     template <class Observed> Subscription watch(Observed& member, Observer told) {
-        return member.observe(settled(std::move(told)));
+        const bool tellsAtOnce = member.kind() == MemberKind::field; // all else tells at the end already
+        return member.observe(tellsAtOnce ? settled(std::move(told)) : std::move(told));
     }
 
 private:
