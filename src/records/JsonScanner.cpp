@@ -17,8 +17,8 @@ bool isSpace(char character) {
 /// Which characters lead into or out of a container or into a string.
 constexpr auto leading = [] {
     std::array<bool, 256> marks{};
-    for (const unsigned char mark : {'"', '{', '}', '[', ']'})
-        marks[mark] = true;
+    for (const char mark : {'"', '{', '}', '[', ']'})
+        marks[static_cast<unsigned char>(mark)] = true;
     return marks;
 }();
 

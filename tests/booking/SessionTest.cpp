@@ -212,7 +212,7 @@ TEST_P(SessionTest, AReservationStandsWhomeverItNames) {
         passengers = Json::array();
         for (std::size_t i = 0; i < named; ++i) {
             passengers.push_back(passenger);
-            passengers.back()["passengerID"] = "P" + std::to_string(i);
+            passengers.back()["passenger_id"] = "P" + std::to_string(i);
         }
         wallet.answer(answer);
         if (documents) {

@@ -46,6 +46,7 @@ HttpAnswer transferred(const std::string& bytes) {
     request.url = "http://127.0.0.1/";
     request.method = "POST";
     request.body = "{}";
+    request.answerBytes = answerLimit;
     int completions = 0;
     HttpAnswer heard;
     CurlTransfer transfer(
@@ -54,7 +55,9 @@ HttpAnswer transferred(const std::string& bytes) {
             ++completions;
             heard = std::move(answer);
         },
-        answerLimit);
+        CurlSettings());
+    // The line in place of a connection has no TLS.
+    curl_easy_setopt(transfer.handle(), CURLOPT_PROTOCOLS_STR, "http");
     curl_socket_t line = lineWith(bytes);
     curl_easy_setopt(transfer.handle(), CURLOPT_OPENSOCKETFUNCTION, &open);
     curl_easy_setopt(transfer.handle(), CURLOPT_OPENSOCKETDATA, &line);
