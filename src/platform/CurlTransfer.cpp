@@ -84,7 +84,7 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const
 }
 
 void CurlTransfer::carryBody() {
-    if (request_.body) request_.pieces.assign(1, std::move(*request_.body));
+    if (request_.body) request_.pieces.push_back(std::move(*request_.body));
     curl_off_t size = 0;
     for (const auto& piece : request_.pieces)
         size += static_cast<curl_off_t>(piece.size());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/Api.h"
 #include "support/Day.h"
 
 #include <optional>
@@ -11,7 +10,7 @@ namespace ombrivane {
 
 /// A day between two limits, turned by its year, its month and its day: what the three wheels of a date field
 /// show, in the device's own calendar and digits. Each wheel's entries are counted from 0.
-class OMBRIVANE_API DateWheels {
+class DateWheels {
 public:
     /// One wheel: what it offers, and where it stands.
     struct Wheel {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/Api.h"
 #include "support/Keyed.h"
 
 #include <chrono>
@@ -13,7 +12,7 @@ namespace ombrivane {
 
 /// A calendar day: year, month and day of the Gregorian calendar, without a time and without a time zone.
 /// Every rule about days is computed here; what a customer reads of one is made by `formatDay`.
-class OMBRIVANE_API Day {
+class Day {
 public:
     /// The first of January 1970.
     constexpr Day() = default;
@@ -40,6 +39,7 @@ public:
     constexpr std::chrono::sys_days days() const { return days_; }
 
     /// The earlier one is less.
+    // NOLINTNEXTLINE(modernize-use-nullptr): the checker takes the zero of the comparison for a pointer
     constexpr auto operator<=>(const Day&) const = default;
 
 private:

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "support/Api.h"
-
 #include <functional>
 
 namespace ombrivane {
@@ -9,7 +7,7 @@ namespace ombrivane {
 /// One step of the component as a whole: a tap, an answer, a timer's tick, an assignment by a host or a
 /// script. What is computed from fields is settled when the outermost turn of a thread ends, so that nobody
 /// computes from the middle of a step, when one field is assigned and the one that belongs to it is not yet.
-class OMBRIVANE_API Turn {
+class Turn {
 public:
     Turn();
     Turn(const Turn&) = delete;
