@@ -27,6 +27,7 @@ class OmbrivaneSession : public QObject {
     Q_PROPERTY(ombrivane::view::StageModel* stage READ stage CONSTANT FINAL)
 
 public:
+    /// Without arguments, and not open.
     explicit OmbrivaneSession(QObject* parent = nullptr) : QObject(parent) {}
     ~OmbrivaneSession() override;
 
@@ -59,19 +60,29 @@ public:
     /// The component wants to be taken off the screen.
     Q_SIGNAL void closed();
 
-    // For QML: what is absent reads as an empty text or as NaN.
+    /// For QML: empty where absent.
     QString givenUserType() const { return userType.value_or(QString()); }
+    /// For QML: empty where absent.
     QString givenPhone() const { return phone.value_or(QString()); }
+    /// For QML: empty where absent.
     QString givenEnvironment() const { return environment.value_or(QString()); }
+    /// For QML: NaN where absent.
     double givenWalletBalance() const;
+    /// Given from here on, also when it is empty.
     void setUserType(const QString& given) { userType = given; }
+    /// Given from here on, also when it is empty.
     void setPhone(const QString& given) { phone = given; }
+    /// Given from here on, also when it is empty.
     void setEnvironment(const QString& given) { environment = given; }
     /// NaN is absent, as it is what an absent balance reads as.
     void setWalletBalance(double given);
+    /// Absent from here on.
     void resetUserType() { userType.reset(); }
+    /// Absent from here on.
     void resetPhone() { phone.reset(); }
+    /// Absent from here on.
     void resetEnvironment() { environment.reset(); }
+    /// Absent from here on.
     void resetWalletBalance() { walletBalance.reset(); }
 
 private:
