@@ -11,9 +11,6 @@ namespace ombrivane {
 /// The date arithmetic that the calendars share, in the device's calendar.
 class CustomDateHelper {
 public:
-    /// The day that `text` is, exactly "yyyy-MM-dd"; nothing for any other text.
-    static std::optional<Day> parse(const std::string& text) { return Day::parse(text); }
-
     /// Month and year of the month title, for instance {"June", "2022"}. The year is the week-based one.
     static std::pair<std::string, std::string> monthWords(Day day);
 
