@@ -47,15 +47,19 @@ private:
 
 } // namespace
 
-std::string gzippedFiller(std::string_view start, std::uint64_t size, std::string_view end) {
+std::string gzippedFiller(std::string_view start, std::uint64_t size, std::string_view end,
+                          std::string_view filler) {
     const std::uint64_t frame = start.size() + end.size();
     std::uint64_t left = size > frame ? size - frame : 0;
-    const std::string filler(64 * 1024, 'x');
+    constexpr std::size_t pieceSize = 64UL * 1024;
+    std::string pieces;
+    while (pieces.size() < pieceSize)
+        pieces += filler;
     GzipStream stream;
     stream.add(start);
     while (left > 0) {
-        const auto piece = static_cast<std::size_t>(std::min<std::uint64_t>(left, filler.size()));
-        stream.add(std::string_view(filler).substr(0, piece));
+        const auto piece = static_cast<std::size_t>(std::min<std::uint64_t>(left, pieces.size()));
+        stream.add(std::string_view(pieces).substr(0, piece));
         left -= piece;
     }
     stream.add(end);

@@ -7,8 +7,9 @@
 
 namespace ombrivane::sandbox {
 
-/// `start`, filler, and `end`, in all `size` bytes (at least as many as `start` and `end` have), packed.
-/// Memory stays in proportion to the packed size.
-std::string gzippedFiller(std::string_view start, std::uint64_t size, std::string_view end);
+/// `start`, `filler` again and again, and `end`, in all `size` bytes (at least as many as `start` and `end`
+/// have), packed. Memory stays in proportion to the packed size.
+std::string gzippedFiller(std::string_view start, std::uint64_t size, std::string_view end,
+                          std::string_view filler = "x");
 
 } // namespace ombrivane::sandbox

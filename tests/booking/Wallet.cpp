@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <stdexcept>
 #include <utility>
 
 namespace ombrivane {
@@ -56,6 +57,11 @@ void Wallet::show() {
 void Wallet::letGo() {
     page_.follow(nullptr);
     view_.reset();
+}
+
+Navigator& Wallet::navigator() const {
+    if (!isShown()) throw std::logic_error("nothing is shown");
+    return *view_->navigator();
 }
 
 void Wallet::drop() {
@@ -268,6 +274,22 @@ std::string Wallet::contract() const {
                " reservations";
     }
     return "";
+}
+
+void insist(Wallet& wallet) {
+    const std::function<void()> stations[] = {[&] { wallet.toReady(); },
+                                              [&] { wallet.tap("continue"); },
+                                              [&] { wallet.settle(); },
+                                              [&] { wallet.tap("continue"); }};
+    for (const auto& station : stations) {
+        try {
+            station();
+        } catch (const Fault&) {
+            throw;
+        } catch (const std::exception&) {
+            // A control that is not there: the road led elsewhere.
+        }
+    }
 }
 
 } // namespace ombrivane

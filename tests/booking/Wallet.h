@@ -54,7 +54,8 @@ public:
     void show();
     void drop();
     bool isShown() const { return view_ && view_->navigator() != nullptr; }
-    Navigator& navigator() const { return *view_->navigator(); }
+    /// Throws where nothing is shown.
+    Navigator& navigator() const;
     std::string top() const { return view_ ? std::string(navigator().top()->name()) : "nothing"; }
 
     /// Each is one event, with the steps of the main queue that follow from it.
@@ -131,5 +132,9 @@ private:
     journey::Onlooker page_;
     std::size_t shows_ = 0;
 };
+
+/// Takes the road from nothing to the hand-over as far as the screens let it, as a customer who does not give
+/// up. Only a fault comes out.
+void insist(Wallet& wallet);
 
 } // namespace ombrivane

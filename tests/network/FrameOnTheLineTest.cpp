@@ -1,6 +1,9 @@
 #include "fakes/World.h"
 #include "network/Line.h"
+#include "network/TlsServer.h"
+#include "sandbox/Gzip.h"
 #include "services/AuthenticationProvider.h"
+#include "services/FlightSearchOneWayProvider.h"
 #include "services/ServiceHosts.h"
 
 #include <gtest/gtest.h>
@@ -101,6 +104,35 @@ TEST_F(FrameOnTheLineTest, TheStatusIsNotReadAndARefusalIsTheServicesOwn) {
     const std::string wrong = std::string(secret) + "!";
     const Error error = authenticate(wrong).error.value_or(noAnswer);
     EXPECT_EQ(error, (Error{"Ombrivane.Authentication", 0, "Invalid credentials."}));
+}
+
+TEST(OffersOnTheLineTest, TenMillionEmptyOffersInThirtyKilobytesAreOneError) {
+    const std::string start = R"({"success":true,"data":[{})";
+    const std::string body = sandbox::gzippedFiller(start, start.size() + 30'000'000 + 2, "]}", ",{}");
+    ASSERT_LT(body.size(), 40'000U);
+    TlsServer service([&body](sandbox::TlsConnection& connection) {
+        if (readRequest(connection))
+            connection.write("HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: " +
+                             std::to_string(body.size()) + "\r\n\r\n" + body);
+    });
+    const fakes::World world;
+    ServiceHosts::use({service.url(""), service.url("")});
+    Platform ports = platform();
+    ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = service.caFile()});
+    Platform::install(std::move(ports));
+
+    std::promise<std::pair<std::size_t, Error>> promise;
+    FlightQuery query;
+    query.adults = "1";
+    query.children = query.infants = "0";
+    FlightSearchOneWayProvider().searchFlights(query, [&promise](const auto& offers, const auto& error) {
+        promise.set_value({offers.size(), error.value_or(noAnswer)});
+    });
+    const auto [offers, error] = promise.get_future().get();
+    EXPECT_EQ(offers, 0U);
+    EXPECT_EQ(error.domain, "Decoding");
+    EXPECT_NE(error.developerDescription.find("more than 10000 elements"), std::string::npos)
+        << error.developerDescription;
 }
 
 } // namespace

@@ -56,6 +56,7 @@ TEST(LimitsTest, TheLimitsThatAWalletRunsWith) {
         Line line({"/reservation " + row.fault});
         HttpRequest request = line.reservation();
         request.answerBytes = limits::searchBytes;
+        request.timeoutInterval = seconds(30);
         expectSize(line.send(request), row);
     }
     for (const SizeCase& row : {SizeCase{"huge=" + std::to_string(picture), picture},
