@@ -18,6 +18,7 @@ namespace {
 
 constexpr std::size_t manyOffers = 2'000;
 constexpr std::size_t fewOffers = 50;
+constexpr std::size_t markedOffers = 200;
 
 bool isText(const QQuickItem& item) {
     return item.inherits("QQuickText") && !item.property("text").toString().isEmpty();
@@ -164,6 +165,17 @@ void printScrolling(Scene& scene, LongList& list) {
                worst / typical);
 }
 
+/// Names as a hostile service writes them: the slowest frame of a pass, the median of the passes.
+void printMarkedNames(Scene& scene, LongList& list) {
+    constexpr int passes = 3;
+    std::vector<double> worst;
+    for (int pass = 0; pass < passes; ++pass) {
+        const auto frames = scrollThrough(scene, list).seconds;
+        worst.push_back(*std::max_element(frames.begin(), frames.end()));
+    }
+    fmt::print("list.marked_names_worst_ms {:.2f}\n", median(worst) * 1e3);
+}
+
 std::size_t heapInUse() {
     const auto state = mallinfo2();
     return state.uordblks + state.hblkhd;
@@ -203,6 +215,8 @@ void printListFigures() {
     LongList shortList(fewOffers, device.service().address());
     printFirstRows(scene, list);
     printScrolling(scene, list);
+    LongList marked(markedOffers, device.service().address(), 1'500);
+    printMarkedNames(scene, marked);
     printMemory(scene, list, shortList);
 }
 

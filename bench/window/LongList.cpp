@@ -24,16 +24,18 @@ SearchRequest request() {
     return request;
 }
 
-std::string answerOf(std::size_t offers, const std::string& service) {
+std::string answerOf(std::size_t offers, const std::string& service, int marks) {
+    const QString acute(QChar(0x0301));
     return QString::fromStdString(searchAnswer(offers))
         .replace("https://localhost:8443", QString::fromStdString(service))
+        .replace(" Air", " A" + acute.repeated(marks) + "ir")
         .toStdString();
 }
 
 } // namespace
 
-LongList::LongList(std::size_t offers, const std::string& service) :
-    offers_(pipeline(answerOf(offers, service))),
+LongList::LongList(std::size_t offers, const std::string& service, int marks) :
+    offers_(pipeline(answerOf(offers, service, marks))),
     screen_(std::make_shared<FlightListView>(request(), nullptr)) {
     renewAdapter();
 }

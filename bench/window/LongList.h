@@ -12,7 +12,8 @@ namespace ombrivane::bench {
 class LongList {
 public:
     /// @param service where the logos are fetched from
-    LongList(std::size_t offers, const std::string& service);
+    /// @param marks combining marks on a letter of most names of airlines and airports
+    LongList(std::size_t offers, const std::string& service, int marks = 0);
 
     /// The search is on its way: placeholders.
     void await();

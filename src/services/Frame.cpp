@@ -52,7 +52,8 @@ void reportFailedCall(std::string_view endpoint, const std::optional<Error>& err
 }
 
 void detail::perform(const ServiceCall& call, HttpCompletion answered) {
-    if (!Reachability::isConnectedToNetwork()) {
+    // A host that ends its network is as good as offline.
+    if (!platform().network || !Reachability::isConnectedToNetwork()) {
         return answered(failed(makeError(CustomError::noInternetConnection)));
     }
     std::string url = Endpoints::shared().address(call.endpoint) + call.query;

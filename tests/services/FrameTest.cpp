@@ -70,6 +70,14 @@ TEST_F(FrameTest, EachFailureOfItsOwnHasAText) {
         EXPECT_EQ(errorDescription(error), text);
 }
 
+TEST_F(FrameTest, ARequestAfterTheHostHasEndedItsNetworkIsAnError) {
+    Platform::endNetwork();
+    Outcome outcome;
+    AirportSearchProvider().searchAirports("KTM", into<std::vector<Airport>>(outcome));
+    EXPECT_EQ(outcome.completions, 1);
+    EXPECT_TRUE(is(outcome.error, CustomError::noInternetConnection));
+}
+
 TEST_F(FrameTest, TheAirportQueryGoesIntoTheAddressAsItStands) {
     const std::pair<const char*, const char*> rows[] = {
         {"", "?q=&user_type=customer"},
