@@ -1,6 +1,6 @@
 #include "CopiedOffers.h"
 
-#include "search/TimeBucket.h"
+#include "results/TimeBucket.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "screens/OfferListView.h"
-#include "search/FilterBottomSheetViewModel.h"
-#include "search/FlightListViewModel.h"
+#include "results/FilterBottomSheetViewModel.h"
+#include "results/FlightListViewModel.h"
+#include "results/OfferListView.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/ResultsModel.h"
+#include "results/ResultsModel.h"
 #include "services/Envelope.h"
 
 #include <cstdint>

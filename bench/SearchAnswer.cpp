@@ -1,6 +1,6 @@
 #include "SearchAnswer.h"
 
-#include "support/Json.h"
+#include "base/Json.h"
 
 #include <fmt/format.h>
 

@@ -4,14 +4,14 @@ include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Ombrivane)
 
 configure_package_config_file(
-    ${CMAKE_CURRENT_LIST_DIR}/OmbrivaneConfig.cmake.in ${CMAKE_BINARY_DIR}/OmbrivaneConfig.cmake
+    ${CMAKE_CURRENT_LIST_DIR}/OmbrivaneConfig.cmake.in ${PROJECT_BINARY_DIR}/OmbrivaneConfig.cmake
     INSTALL_DESTINATION ${package_folder})
-write_basic_package_version_file(${CMAKE_BINARY_DIR}/OmbrivaneConfigVersion.cmake COMPATIBILITY SameMinorVersion)
-install(FILES ${CMAKE_BINARY_DIR}/OmbrivaneConfig.cmake ${CMAKE_BINARY_DIR}/OmbrivaneConfigVersion.cmake
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/OmbrivaneConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/OmbrivaneConfig.cmake ${PROJECT_BINARY_DIR}/OmbrivaneConfigVersion.cmake
     DESTINATION ${package_folder})
 install(EXPORT OmbrivaneCore NAMESPACE Ombrivane:: DESTINATION ${package_folder})
-install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 if(OMBRIVANE_VIEW)
     install(EXPORT OmbrivaneView NAMESPACE Ombrivane:: DESTINATION ${package_folder})
-    install(FILES ${CMAKE_SOURCE_DIR}/resources/fonts/OFL.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/fonts)
+    install(FILES ${PROJECT_SOURCE_DIR}/resources/fonts/OFL.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/fonts)
 endif()

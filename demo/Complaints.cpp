@@ -1,6 +1,6 @@
 #include "Complaints.h"
 
-#include "support/Json.h"
+#include "base/Json.h"
 
 #include <atomic>
 #include <iostream>

@@ -1,11 +1,11 @@
 #include "DemoWallet.h"
 
+#include "base/Fault.h"
+#include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 #include "session/Reservations.h"
-#include "support/Fault.h"
-#include "support/SharedInstance.h"
 
 #include <QAccessible>
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #include "Complaints.h"
 #include "DemoOptions.h"
 #include "DemoWallet.h"
+#include "base/Date.h"
 #include "sandbox/Sandbox.h"
-#include "support/Date.h"
 
 #include <QGuiApplication>
 #include <QtQml/QQmlExtensionPlugin>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "items/OmbrivaneSession.h"
+#include "keyed/Navigator.h"
 #include "platform/Platform.h"
-#include "support/Navigator.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,9 +1,9 @@
 // A wallet without a view: the component's screens are worked by their keys, as the journeys do.
+#include "keyed/Navigator.h"
 #include "platform/HeadlessPlatform.h"
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
 #include "session/Reservations.h"
-#include "support/Navigator.h"
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 #include "Onlooker.h"
 
-#include "support/Rows.h"
+#include "keyed/Rows.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Navigator.h"
+#include "keyed/Navigator.h"
 
 #include <map>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Date.h"
 #include "platform/SystemVersion.h"
-#include "support/Date.h"
 
 #include <cstdint>
 #include <optional>

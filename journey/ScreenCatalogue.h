@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Screen.h"
+#include "keyed/Screen.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 #include "ScreenDocument.h"
 
-#include "support/Link.h"
-#include "support/Rows.h"
+#include "keyed/Link.h"
+#include "keyed/Rows.h"
 
 namespace ombrivane::journey {
 namespace {

@@ -1,6 +1,6 @@
 #include "ScreenPath.h"
 
-#include "support/Rows.h"
+#include "keyed/Rows.h"
 
 #include <charconv>
 #include <optional>

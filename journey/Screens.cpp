@@ -1,8 +1,8 @@
 #include "ScreenDocument.h"
+#include "base/SharedInstance.h"
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
 #include "platform/SystemLocalization.h"
-#include "support/SharedInstance.h"
 
 #include <fstream>
 #include <iostream>

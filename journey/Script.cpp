@@ -3,9 +3,9 @@
 #include "Matching.h"
 #include "Resources.h"
 #include "ScreenPath.h"
+#include "base/Fault.h"
 #include "platform/JpegPngCodec.h"
 #include "platform/Platform.h"
-#include "support/Fault.h"
 
 #include <fstream>
 #include <sstream>

@@ -3,14 +3,14 @@
 #include "Options.h"
 #include "Script.h"
 #include "ScriptedPorts.h"
+#include "base/Fault.h"
+#include "base/SharedInstance.h"
 #include "platform/DirectoryBundles.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 #include "session/OmbrivaneView.h"
 #include "session/Reservations.h"
-#include "support/Fault.h"
-#include "support/SharedInstance.h"
 
 #include <atomic>
 #include <fstream>

@@ -1,8 +1,8 @@
 #include "sandbox/HttpsServer.h"
 
-#include "sandbox/Delivery.h"
-#include "sandbox/Refusal.h"
-#include "sandbox/RequestReader.h"
+#include "sandbox/control/Delivery.h"
+#include "sandbox/wire/Refusal.h"
+#include "sandbox/wire/RequestReader.h"
 
 #include <cerrno>
 #include <csignal>

@@ -1,10 +1,10 @@
 // Accepts TLS connections on the loopback interface and gives each whole request to a handler.
 #pragma once
 
-#include "sandbox/Certificates.h"
-#include "sandbox/HttpMessage.h"
-#include "sandbox/RequestLog.h"
-#include "sandbox/TlsConnection.h"
+#include "sandbox/wire/Certificates.h"
+#include "sandbox/wire/HttpMessage.h"
+#include "sandbox/wire/RequestLog.h"
+#include "sandbox/wire/TlsConnection.h"
 
 #include <condition_variable>
 #include <cstdint>

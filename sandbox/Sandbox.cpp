@@ -1,8 +1,8 @@
 #include "sandbox/Sandbox.h"
 
-#include "sandbox/Delivery.h"
 #include "sandbox/HttpsServer.h"
-#include "sandbox/Service.h"
+#include "sandbox/control/Delivery.h"
+#include "sandbox/service/Service.h"
 
 #include <fmt/format.h>
 

@@ -1,9 +1,9 @@
 // A booking service for this machine: HTTPS on the loopback interface, with faults on demand.
 #pragma once
 
-#include "sandbox/FaultPlan.h"
-#include "sandbox/Options.h"
-#include "sandbox/RequestLog.h"
+#include "sandbox/control/FaultPlan.h"
+#include "sandbox/control/Options.h"
+#include "sandbox/wire/RequestLog.h"
 
 #include <chrono>
 #include <filesystem>

@@ -1,6 +1,6 @@
-#include "sandbox/CommandLine.h"
 #include "sandbox/Json.h"
 #include "sandbox/Sandbox.h"
+#include "sandbox/control/CommandLine.h"
 
 #include <csignal>
 #include <cstdio>

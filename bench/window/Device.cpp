@@ -1,8 +1,8 @@
 #include "Device.h"
 
+#include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
 #include "services/ServiceHosts.h"
-#include "support/SharedInstance.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,9 @@
 #include "Journey.h"
 
 #include "Script.h"
+#include "base/SharedInstance.h"
 #include "device/QtMainQueue.h"
 #include "state/AppState.h"
-#include "support/SharedInstance.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

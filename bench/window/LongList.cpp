@@ -3,7 +3,7 @@
 #include "Pipeline.h"
 #include "SearchAnswer.h"
 #include "adapters/PageTable.h"
-#include "support/Calendar.h"
+#include "dates/Calendar.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/ResultAdapters.h"
-#include "search/ResultsModel.h"
+#include "results/ResultsModel.h"
 
 #include <memory>
 #include <string>

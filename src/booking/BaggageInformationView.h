@@ -1,10 +1,10 @@
 #pragma once
 
+#include "keyed/Derived.h"
+#include "keyed/Field.h"
+#include "keyed/Screen.h"
 #include "records/FlightAvailability.h"
 #include "records/KeyedRecords.h"
-#include "support/Derived.h"
-#include "support/Field.h"
-#include "support/Screen.h"
 
 #include <optional>
 #include <string>

@@ -1,12 +1,12 @@
 #include "booking/BookingConfirmationView.h"
 
+#include "base/Https.h"
+#include "base/Url.h"
+#include "offers/OfferFormat.h"
 #include "platform/OnMain.h"
 #include "records/Encode.h"
-#include "search/OfferFormat.h"
 #include "services/CustomError.h"
-#include "services/Url.h"
 #include "state/AppState.h"
-#include "support/Https.h"
 
 namespace ombrivane {
 namespace {

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "booking/TicketTravellerInfo.h"
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Screen.h"
+#include "parts/CustomSnackBarView.h"
 #include "platform/Platform.h"
 #include "records/FlightAvailability.h"
 #include "records/FlightBooking.h"
@@ -10,10 +14,6 @@
 #include "services/DownloadTicketProvider.h"
 #include "services/FlightTicketingProvider.h"
 #include "state/CompletionCallback.h"
-#include "support/Action.h"
-#include "support/CustomSnackBarView.h"
-#include "support/Field.h"
-#include "support/Screen.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 #include "booking/BookingSession.h"
 
+#include "base/ErrorDomains.h"
+#include "dates/DateFormatter.h"
 #include "platform/OnMain.h"
 #include "records/Encode.h"
-#include "support/DateFormatter.h"
-#include "support/ErrorDomains.h"
 
 #include <fmt/core.h>
 

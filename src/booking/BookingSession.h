@@ -4,6 +4,12 @@
 #include "booking/PaymentView.h"
 #include "booking/SessionPhase.h"
 #include "booking/TravelDates.h"
+#include "images/KeyedImage.h"
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Link.h"
+#include "keyed/Screen.h"
+#include "parts/CustomSnackBarView.h"
 #include "platform/Platform.h"
 #include "records/KeyedRecords.h"
 #include "records/UniquePassanger.h"
@@ -11,12 +17,6 @@
 #include "services/PassengerDocumentsProvider.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
-#include "support/Action.h"
-#include "support/CustomSnackBarView.h"
-#include "support/Field.h"
-#include "support/KeyedImage.h"
-#include "support/Link.h"
-#include "support/Screen.h"
 
 #include <memory>
 #include <optional>

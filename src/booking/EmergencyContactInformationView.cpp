@@ -1,7 +1,7 @@
 #include "booking/EmergencyContactInformationView.h"
 
+#include "base/Fault.h"
 #include "state/AppState.h"
-#include "support/Fault.h"
 
 #include <algorithm>
 

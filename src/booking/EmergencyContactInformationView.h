@@ -1,13 +1,13 @@
 #pragma once
 
 #include "booking/EmergencyContactInformationViewModel.h"
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Screen.h"
+#include "parts/CustomSnackBarView.h"
 #include "records/EmergencyContact.h"
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
-#include "support/Action.h"
-#include "support/CustomSnackBarView.h"
-#include "support/Field.h"
-#include "support/Screen.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "booking/FormMarks.h"
-#include "support/Field.h"
+#include "keyed/Field.h"
 
 #include <string>
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "booking/JourneyCard.h"
+#include "keyed/Action.h"
+#include "keyed/Derived.h"
+#include "keyed/Field.h"
+#include "keyed/Screen.h"
 #include "records/KeyedRecords.h"
-#include "support/Action.h"
-#include "support/Derived.h"
-#include "support/Field.h"
-#include "support/Screen.h"
 
 #include <string>
 #include <vector>

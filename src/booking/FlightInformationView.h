@@ -2,13 +2,13 @@
 
 #include "booking/FlightDetailsView.h"
 #include "booking/JourneyCard.h"
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Link.h"
+#include "keyed/Screen.h"
 #include "records/FlightAvailability.h"
 #include "records/KeyedRecords.h"
 #include "records/UniquePassanger.h"
-#include "support/Action.h"
-#include "support/Field.h"
-#include "support/Link.h"
-#include "support/Screen.h"
 
 #include <memory>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Keyed.h"
+#include "keyed/Keyed.h"
 
 #include <array>
 

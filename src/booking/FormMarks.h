@@ -1,7 +1,7 @@
 #pragma once
 
 #include "booking/FormColour.h"
-#include "support/Field.h"
+#include "keyed/Field.h"
 
 namespace ombrivane {
 

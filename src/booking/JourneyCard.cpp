@@ -1,6 +1,6 @@
 #include "booking/JourneyCard.h"
 
-#include "search/OfferFormat.h"
+#include "offers/OfferFormat.h"
 
 namespace ombrivane {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "keyed/Keyed.h"
 #include "records/FlightsSummary.h"
 #include "records/RTFlightsSummary.h"
-#include "support/Keyed.h"
 
 #include <optional>
 #include <string>

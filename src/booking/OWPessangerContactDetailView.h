@@ -1,17 +1,17 @@
 #pragma once
 
 #include "booking/TravelDates.h"
+#include "images/KeyedImage.h"
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Link.h"
+#include "keyed/Rows.h"
+#include "keyed/Screen.h"
 #include "platform/DocumentPicture.h"
 #include "records/EmergencyContact.h"
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
 #include "records/UniquePassanger.h"
-#include "support/Action.h"
-#include "support/Field.h"
-#include "support/KeyedImage.h"
-#include "support/Link.h"
-#include "support/Rows.h"
-#include "support/Screen.h"
 
 #include <functional>
 #include <memory>

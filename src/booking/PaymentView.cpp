@@ -1,7 +1,7 @@
 #include "booking/PaymentView.h"
 
+#include "offers/OfferFormat.h"
 #include "platform/OnMain.h"
-#include "search/OfferFormat.h"
 #include "state/AppState.h"
 
 namespace ombrivane {

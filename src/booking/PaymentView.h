@@ -1,12 +1,12 @@
 #pragma once
 
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Screen.h"
 #include "records/FlightBooking.h"
 #include "records/KeyedRecords.h"
 #include "records/PaymentSummary.h"
 #include "services/PaymentProvider.h"
-#include "support/Action.h"
-#include "support/Field.h"
-#include "support/Screen.h"
 
 #include <optional>
 #include <string>

@@ -2,10 +2,10 @@
 
 #include "booking/OWBookingDetailsView.h"
 #include "booking/RTBookingDetailsView.h"
+#include "offers/CabinClass.h"
 #include "platform/OnMain.h"
-#include "search/CabinClass.h"
+#include "richtext/FareRules.h"
 #include "services/ItineraryType.h"
-#include "support/FareRules.h"
 
 namespace ombrivane {
 namespace {

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Link.h"
+#include "keyed/Screen.h"
+#include "parts/CustomSnackBarView.h"
 #include "records/KeyedRecords.h"
+#include "richtext/KeyedRuleParagraph.h"
 #include "services/OWRestrictionProvider.h"
 #include "services/RTRestrictionProvider.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
-#include "support/Action.h"
-#include "support/CustomSnackBarView.h"
-#include "support/Field.h"
-#include "support/KeyedRuleParagraph.h"
-#include "support/Link.h"
-#include "support/Screen.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "booking/TravelDates.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 namespace ombrivane {
 namespace {

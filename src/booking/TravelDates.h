@@ -1,8 +1,8 @@
 #pragma once
 
+#include "dates/Day.h"
 #include "records/FlightsSummary.h"
 #include "records/RTFlightsSummary.h"
-#include "support/Day.h"
 
 namespace ombrivane {
 

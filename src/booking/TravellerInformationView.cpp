@@ -1,11 +1,11 @@
 #include "booking/TravellerInformationView.h"
 
 #include "booking/DocumentType.h"
+#include "dates/Calendar.h"
+#include "dates/DateFormatter.h"
+#include "images/PhotoPicker.h"
 #include "services/FlightsSummarySlots.h"
 #include "state/AppState.h"
-#include "support/Calendar.h"
-#include "support/DateFormatter.h"
-#include "support/PhotoPicker.h"
 
 #include <algorithm>
 #include <cctype>

@@ -2,14 +2,14 @@
 
 #include "booking/TravelDates.h"
 #include "booking/TravellerInformationViewModel.h"
+#include "keyed/Action.h"
+#include "keyed/Field.h"
+#include "keyed/Link.h"
+#include "keyed/Rows.h"
+#include "keyed/Screen.h"
+#include "parts/CustomSnackBarView.h"
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
-#include "support/Action.h"
-#include "support/CustomSnackBarView.h"
-#include "support/Field.h"
-#include "support/Link.h"
-#include "support/Rows.h"
-#include "support/Screen.h"
 
 #include <functional>
 #include <optional>

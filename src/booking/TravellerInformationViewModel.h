@@ -1,10 +1,10 @@
 #pragma once
 
 #include "booking/FormMarks.h"
+#include "dates/Day.h"
+#include "images/KeyedImage.h"
+#include "keyed/Field.h"
 #include "platform/DocumentPicture.h"
-#include "support/Day.h"
-#include "support/Field.h"
-#include "support/KeyedImage.h"
 
 #include <optional>
 #include <string>

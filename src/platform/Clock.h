@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Date.h"
+#include "base/Date.h"
 
 namespace ombrivane {
 

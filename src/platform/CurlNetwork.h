@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/CurlSettings.h"
 #include "platform/Network.h"
-#include "support/Api.h"
 
 #include <memory>
 #include <string>

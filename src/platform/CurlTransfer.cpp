@@ -1,8 +1,8 @@
 #include "platform/CurlTransfer.h"
 
+#include "base/Attempted.h"
+#include "base/ErrorDomains.h"
 #include "platform/TlsRules.h"
-#include "support/Attempted.h"
-#include "support/ErrorDomains.h"
 
 namespace ombrivane {
 namespace {

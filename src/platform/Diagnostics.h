@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Api.h"
+#include "base/Api.h"
 
 #include <string>
 #include <string_view>
@@ -10,7 +10,7 @@ namespace ombrivane {
 /// A call of the booking service that failed: by keys, never by values, so that it may be written anywhere.
 struct OMBRIVANE_API FailedCall {
     std::string_view endpoint;      ///< the operation, "/reservation" for instance
-    std::string_view domain;        ///< with `code` as in `support/ErrorDomains.h`
+    std::string_view domain;        ///< with `code` as in `base/ErrorDomains.h`
     int code = 0;                   ///< tells failures of one domain apart
     std::string_view developerText; ///< what was wrong, where more is known: "data.accessToken: is missing"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/ResourceBundles.h"
-#include "support/Api.h"
 
 #include <string>
 

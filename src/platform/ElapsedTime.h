@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Api.h"
+#include "base/Api.h"
 
 #include <chrono>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
-#include "support/Api.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Error.h"
 #include "platform/Limits.h"
-#include "support/Error.h"
 
 #include <chrono>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/ImageCodec.h"
-#include "support/Api.h"
 
 namespace ombrivane {
 

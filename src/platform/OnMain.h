@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Error.h"
 #include "platform/Platform.h"
-#include "support/Error.h"
 
 #include <memory>
 #include <optional>

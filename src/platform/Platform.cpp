@@ -1,6 +1,6 @@
 #include "platform/Platform.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <optional>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/ImageCodec.h"
@@ -11,7 +12,6 @@
 #include "platform/ResourceBundles.h"
 #include "platform/Sharing.h"
 #include "platform/SystemVersion.h"
-#include "support/Api.h"
 
 #include <memory>
 

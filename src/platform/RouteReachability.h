@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/ReachabilityMeasure.h"
-#include "support/Api.h"
 
 #include <string>
 #include <utility>

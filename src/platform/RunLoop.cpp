@@ -1,6 +1,6 @@
 #include "platform/RunLoop.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/ElapsedTime.h"
 #include "platform/MainQueue.h"
 #include "platform/TimerSchedule.h"
-#include "support/Api.h"
 
 #include <condition_variable>
 #include <deque>

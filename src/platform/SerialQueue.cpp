@@ -1,6 +1,6 @@
 #include "platform/SerialQueue.h"
 
-#include "support/Attempted.h"
+#include "base/Attempted.h"
 
 #include <condition_variable>
 #include <deque>

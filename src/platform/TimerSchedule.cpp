@@ -1,6 +1,6 @@
 #include "platform/TimerSchedule.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "records/AnyFlight.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 namespace ombrivane {
 

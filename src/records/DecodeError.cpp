@@ -1,6 +1,6 @@
 #include "records/DecodeError.h"
 
-#include "support/ErrorDomains.h"
+#include "base/ErrorDomains.h"
 
 #include <fmt/core.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Attempted.h"
+#include "base/Attempted.h"
 
 #include <stdexcept>
 #include <string>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Uuid.h"
 #include "records/DecodeError.h"
 #include "records/DecodeRoom.h"
 #include "records/Wire.h"
-#include "support/Uuid.h"
 
 #include <simdjson.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Json.h"
+#include "base/Uuid.h"
 #include "records/Wire.h"
-#include "support/Json.h"
-#include "support/Uuid.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "base/Uuid.h"
 #include "records/BaggageDetails.h"
 #include "records/FareInformation.h"
 #include "records/FlightSummary.h"
 #include "records/RawData.h"
 #include "records/SearchSummary.h"
 #include "records/Wire.h"
-#include "support/Uuid.h"
 
 #include <optional>
 #include <string>

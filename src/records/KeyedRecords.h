@@ -1,8 +1,8 @@
 #pragma once
 
+#include "keyed/Keyed.h"
 #include "records/AnyFlight.h"
 #include "records/Encode.h"
-#include "support/Keyed.h"
 
 #include <memory>
 #include <optional>

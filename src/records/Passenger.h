@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Uuid.h"
 #include "records/Wire.h"
-#include "support/Uuid.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Uuid.h"
+#include "keyed/Keyed.h"
 #include "records/AvailabilitySummary.h"
-#include "support/Keyed.h"
-#include "support/Uuid.h"
 
 #include <optional>
 #include <string>

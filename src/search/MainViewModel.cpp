@@ -1,9 +1,9 @@
 #include "search/MainViewModel.h"
 
-#include "search/CabinClass.h"
-#include "search/TripDates.h"
-#include "support/Calendar.h"
-#include "support/SharedInstance.h"
+#include "base/SharedInstance.h"
+#include "dates/Calendar.h"
+#include "dates/TripDates.h"
+#include "offers/CabinClass.h"
 
 namespace ombrivane {
 namespace {

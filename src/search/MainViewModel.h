@@ -1,9 +1,9 @@
 #pragma once
 
+#include "dates/Day.h"
+#include "keyed/Field.h"
 #include "records/Country.h"
 #include "records/KeyedRecords.h"
-#include "support/Day.h"
-#include "support/Field.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/Airport.h"
-#include "support/Completion.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/Authentication.h"
-#include "support/Completion.h"
 
 #include <optional>
 #include <string>

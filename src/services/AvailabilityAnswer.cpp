@@ -1,7 +1,7 @@
 #include "services/AvailabilityAnswer.h"
 
+#include "dates/Day.h"
 #include "records/DecodeError.h"
-#include "support/Day.h"
 
 namespace ombrivane {
 namespace {

@@ -1,7 +1,7 @@
 #include "services/Body.h"
 
-#include "support/Error.h"
-#include "support/ErrorDomains.h"
+#include "base/Error.h"
+#include "base/ErrorDomains.h"
 
 namespace ombrivane {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/Country.h"
-#include "support/Completion.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/Error.h"
-#include "support/ErrorDomains.h"
+#include "base/Error.h"
+#include "base/ErrorDomains.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Completion.h"
+#include "base/Completion.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "services/Endpoints.h"
 
+#include "base/SharedInstance.h"
 #include "services/ServiceHosts.h"
 #include "state/AppState.h"
-#include "support/SharedInstance.h"
 
 namespace ombrivane {
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/AvailabilitySummary.h"
 #include "records/EmergencyContact.h"
 #include "records/FlightBooking.h"
 #include "records/Passenger.h"
-#include "support/Completion.h"
 
 #include <optional>
 #include <vector>

@@ -1,10 +1,10 @@
 #include "services/FlightQuery.h"
 
+#include "base/Fault.h"
 #include "platform/Platform.h"
 #include "services/Body.h"
 #include "services/Endpoints.h"
 #include "state/AppState.h"
-#include "support/Fault.h"
 
 #include <charconv>
 

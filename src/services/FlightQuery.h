@@ -1,7 +1,7 @@
 #pragma once
 
+#include "dates/Day.h"
 #include "services/Frame.h"
-#include "support/Day.h"
 
 #include <optional>
 #include <string>

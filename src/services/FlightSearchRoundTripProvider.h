@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/AnyFlight.h"
 #include "services/FlightQuery.h"
-#include "support/Completion.h"
 
 namespace ombrivane {
 

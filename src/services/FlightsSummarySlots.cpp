@@ -1,6 +1,6 @@
 #include "services/FlightsSummarySlots.h"
 
-#include "support/SharedInstance.h"
+#include "base/SharedInstance.h"
 
 #include <mutex>
 

@@ -1,12 +1,12 @@
 #include "services/Frame.h"
 
+#include "base/Attempted.h"
+#include "base/Url.h"
 #include "platform/Platform.h"
 #include "services/CustomError.h"
 #include "services/Endpoints.h"
 #include "services/Reachability.h"
-#include "services/Url.h"
 #include "state/AppState.h"
-#include "support/Attempted.h"
 
 #include <string_view>
 

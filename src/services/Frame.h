@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/Completion.h"
+#include "base/ErrorDomains.h"
 #include "platform/HttpRequest.h"
 #include "platform/Limits.h"
 #include "services/Envelope.h"
-#include "support/Completion.h"
-#include "support/ErrorDomains.h"
 
 #include <chrono>
 #include <functional>

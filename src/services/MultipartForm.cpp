@@ -1,6 +1,6 @@
 #include "services/MultipartForm.h"
 
-#include "support/Uuid.h"
+#include "base/Uuid.h"
 
 #include <fmt/core.h>
 

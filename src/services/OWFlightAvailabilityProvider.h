@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/AnyFlight.h"
 #include "records/FlightAvailability.h"
-#include "support/Completion.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/AnyFlight.h"
-#include "support/Completion.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "platform/DocumentPicture.h"
 #include "records/FlightBooking.h"
 #include "records/Passenger.h"
-#include "support/Completion.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/FlightBooking.h"
 #include "records/PaymentSummary.h"
-#include "support/Completion.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "services/Reachability.h"
 
+#include "base/Url.h"
 #include "platform/Platform.h"
 #include "services/ServiceHosts.h"
-#include "services/Url.h"
 #include "state/AppState.h"
 
 namespace ombrivane {

@@ -1,12 +1,12 @@
 #include "session/EntryView.h"
 
+#include "base/Fault.h"
+#include "base/SharedInstance.h"
 #include "platform/Platform.h"
-#include "screens/MainView.h"
+#include "search/MainView.h"
 #include "services/CustomError.h"
 #include "session/Fonts.h"
 #include "state/AppState.h"
-#include "support/Fault.h"
-#include "support/SharedInstance.h"
 
 #include <utility>
 

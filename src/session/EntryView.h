@@ -1,12 +1,12 @@
 #pragma once
 
+#include "keyed/Field.h"
+#include "keyed/KeyedScreen.h"
+#include "keyed/Link.h"
+#include "keyed/Screen.h"
 #include "services/AuthenticationProvider.h"
 #include "session/HostBoundary.h"
 #include "state/CompletionCallback.h"
-#include "support/Field.h"
-#include "support/KeyedScreen.h"
-#include "support/Link.h"
-#include "support/Screen.h"
 
 #include <functional>
 #include <memory>

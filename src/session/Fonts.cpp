@@ -1,8 +1,8 @@
 #include "session/Fonts.h"
 
+#include "base/Fault.h"
+#include "base/SharedInstance.h"
 #include "platform/Platform.h"
-#include "support/Fault.h"
-#include "support/SharedInstance.h"
 
 namespace ombrivane {
 namespace {

@@ -1,8 +1,8 @@
 #include "session/HostBoundary.h"
 
+#include "base/Fault.h"
 #include "platform/Platform.h"
 #include "session/Reservations.h"
-#include "support/Fault.h"
 
 namespace ombrivane {
 namespace {

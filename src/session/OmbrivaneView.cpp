@@ -1,8 +1,8 @@
 #include "session/OmbrivaneView.h"
 
+#include "keyed/Navigator.h"
 #include "session/EntryView.h"
 #include "state/AppState.h"
-#include "support/Navigator.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Api.h"
 #include "state/CompletionCallback.h"
-#include "support/Api.h"
 
 #include <functional>
 #include <memory>

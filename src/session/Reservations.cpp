@@ -1,7 +1,7 @@
 #include "session/Reservations.h"
 
+#include "base/SharedInstance.h"
 #include "platform/Platform.h"
-#include "support/SharedInstance.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Api.h"
+#include "keyed/Observable.h"
 #include "state/CompletionCallback.h"
-#include "support/Api.h"
-#include "support/Observable.h"
 
 #include <cstddef>
 #include <deque>

@@ -1,6 +1,6 @@
 #include "state/AppState.h"
 
-#include "support/SharedInstance.h"
+#include "base/SharedInstance.h"
 
 namespace ombrivane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Field.h"
+#include "keyed/Field.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/Error.h"
-#include "support/Json.h"
+#include "base/Error.h"
+#include "base/Json.h"
 
 #include <functional>
 #include <optional>

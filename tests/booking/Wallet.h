@@ -3,10 +3,10 @@
 #include "Onlooker.h"
 #include "fakes/TestData.h"
 #include "fakes/World.h"
-#include "search/Offers.h"
+#include "keyed/Navigator.h"
+#include "results/Offers.h"
 #include "session/OmbrivaneView.h"
 #include "state/AppState.h"
-#include "support/Navigator.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,5 +1,5 @@
 #include "Wallet.h"
-#include "support/Rows.h"
+#include "keyed/Rows.h"
 
 #include <gtest/gtest.h>
 

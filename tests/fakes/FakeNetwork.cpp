@@ -1,6 +1,6 @@
 #include "fakes/FakeNetwork.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <stdexcept>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "fakes/ManualMainQueue.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 namespace ombrivane::fakes {
 

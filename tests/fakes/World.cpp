@@ -1,7 +1,7 @@
 #include "fakes/World.h"
 
+#include "base/SharedInstance.h"
 #include "platform/JpegPngCodec.h"
-#include "support/SharedInstance.h"
 
 #include <utility>
 

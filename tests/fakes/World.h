@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Fault.h"
 #include "fakes/FakeNetwork.h"
 #include "fakes/FakePorts.h"
 #include "fakes/ManualMainQueue.h"
-#include "support/Fault.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Texts from outside: fare rules as HTML, and what of any text becomes visible.
 #include "Require.h"
-#include "support/FareRules.h"
-#include "support/ShownText.h"
+#include "richtext/FareRules.h"
+#include "richtext/ShownText.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 #include "fakes/World.h"
+#include "images/ImageLoader.h"
 #include "network/Line.h"
 #include "network/NameServer.h"
 #include "network/TlsServer.h"
-#include "support/ImageLoader.h"
 
 #include <curl/curl.h>
 #include <gtest/gtest.h>

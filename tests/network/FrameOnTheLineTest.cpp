@@ -1,7 +1,7 @@
 #include "fakes/World.h"
 #include "network/Line.h"
 #include "network/TlsServer.h"
-#include "sandbox/Gzip.h"
+#include "sandbox/wire/Gzip.h"
 #include "services/AuthenticationProvider.h"
 #include "services/FlightSearchOneWayProvider.h"
 #include "services/ServiceHosts.h"

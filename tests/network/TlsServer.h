@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sandbox/Certificates.h"
-#include "sandbox/TlsConnection.h"
+#include "sandbox/wire/Certificates.h"
+#include "sandbox/wire/TlsConnection.h"
 
 #include <atomic>
 #include <functional>

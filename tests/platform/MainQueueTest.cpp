@@ -1,7 +1,7 @@
 #include "platform/RunLoop.h"
 
+#include "base/Fault.h"
 #include "fakes/ManualMainQueue.h"
-#include "support/Fault.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "platform/SerialQueue.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <gtest/gtest.h>
 

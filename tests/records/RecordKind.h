@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Json.h"
+#include "base/Json.h"
 
 #include <ostream>
 #include <string>

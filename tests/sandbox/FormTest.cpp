@@ -1,8 +1,8 @@
 #include "tests/sandbox/BookingFixture.h"
 
-#include "sandbox/Logos.h"
-#include "sandbox/Multipart.h"
-#include "sandbox/Refusal.h"
+#include "sandbox/wire/Multipart.h"
+#include "sandbox/wire/Refusal.h"
+#include "sandbox/world/Logos.h"
 
 #include <functional>
 

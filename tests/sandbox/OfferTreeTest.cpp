@@ -1,6 +1,6 @@
 #include "tests/sandbox/ServiceClient.h"
 
-#include "sandbox/Logos.h"
+#include "sandbox/world/Logos.h"
 
 #include <gtest/gtest.h>
 #include <png.h>

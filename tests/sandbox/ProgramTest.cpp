@@ -1,6 +1,6 @@
 #include "tests/sandbox/ServiceClient.h"
 
-#include "sandbox/CommandLine.h"
+#include "sandbox/control/CommandLine.h"
 
 #include <gtest/gtest.h>
 

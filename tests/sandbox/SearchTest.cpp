@@ -1,8 +1,8 @@
 #include "tests/sandbox/ServiceClient.h"
 
-#include "sandbox/Airports.h"
-#include "sandbox/Countries.h"
-#include "sandbox/ServiceClock.h"
+#include "sandbox/service/ServiceClock.h"
+#include "sandbox/world/Airports.h"
+#include "sandbox/world/Countries.h"
 
 #include <gtest/gtest.h>
 

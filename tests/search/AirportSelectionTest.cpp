@@ -1,9 +1,9 @@
 #include "Offers.h"
 #include "fakes/World.h"
-#include "screens/MainView.h"
-#include "screens/SelectDestinationFlightView.h"
-#include "screens/SelectOriginFlightView.h"
-#include "support/Navigator.h"
+#include "keyed/Navigator.h"
+#include "search/MainView.h"
+#include "search/SelectDestinationFlightView.h"
+#include "search/SelectOriginFlightView.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #include "Offers.h"
 #include "fakes/World.h"
-#include "screens/AlertView.h"
-#include "screens/DomesticFlightListView.h"
-#include "screens/FlightListView.h"
-#include "screens/MainView.h"
-#include "screens/NationalityBottomSheetView.h"
-#include "support/Navigator.h"
+#include "keyed/Navigator.h"
+#include "parts/AlertView.h"
+#include "results/DomesticFlightListView.h"
+#include "results/FlightListView.h"
+#include "search/MainView.h"
+#include "search/NationalityBottomSheetView.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "fakes/World.h"
-#include "screens/CustomRadioButtonFieldView.h"
-#include "screens/TravellerBottomSheetView.h"
-#include "screens/TravellerIncDecButtonView.h"
+#include "parts/CustomRadioButtonFieldView.h"
+#include "search/TravellerBottomSheetView.h"
+#include "search/TravellerIncDecButtonView.h"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+#include "base/SharedInstance.h"
 #include "services/AirportSearchProvider.h"
 #include "services/CountryProvider.h"
 #include "services/CustomError.h"
@@ -5,7 +6,6 @@
 #include "services/Outcome.h"
 #include "services/Reachability.h"
 #include "services/ServiceFixture.h"
-#include "support/SharedInstance.h"
 
 namespace ombrivane {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Completion.h"
 #include "records/Decode.h"
 #include "records/Encode.h"
 #include "services/FlightSearchRoundTripProvider.h"
-#include "support/Completion.h"
 
 #include <gtest/gtest.h>
 

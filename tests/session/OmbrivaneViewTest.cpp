@@ -1,10 +1,10 @@
 #include "session/OmbrivaneView.h"
 
 #include "fakes/World.h"
-#include "screens/MainView.h"
+#include "keyed/Navigator.h"
+#include "search/MainView.h"
 #include "session/EntryView.h"
 #include "state/AppState.h"
-#include "support/Navigator.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "Walk.h"
 
+#include "dates/DateWheels.h"
 #include "platform/Platform.h"
 #include "platform/SystemLocalization.h"
-#include "search/DateWheels.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "Walk.h"
 
+#include "keyed/Navigator.h"
 #include "session/Reservations.h"
-#include "support/Navigator.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "Window.h"
 
+#include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
 #include "services/ServiceHosts.h"
-#include "support/SharedInstance.h"
 
 #include <gtest/gtest.h>
 

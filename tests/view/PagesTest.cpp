@@ -2,7 +2,7 @@
 #include "Walk.h"
 
 #include "items/Announcement.h"
-#include "support/Navigator.h"
+#include "keyed/Navigator.h"
 
 #include <gtest/gtest.h>
 

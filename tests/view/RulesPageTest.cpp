@@ -1,7 +1,7 @@
 #include "Walk.h"
 
 #include "booking/RulesAndRegulationView.h"
-#include "support/Navigator.h"
+#include "keyed/Navigator.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "Walk.h"
 
+#include "base/SharedInstance.h"
 #include "device/QtMainQueue.h"
-#include "support/Navigator.h"
-#include "support/SharedInstance.h"
+#include "keyed/Navigator.h"
 
 #include <gtest/gtest.h>
 

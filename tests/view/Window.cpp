@@ -1,6 +1,6 @@
 #include "Window.h"
 
-#include "support/Navigator.h"
+#include "keyed/Navigator.h"
 
 #include <gtest/gtest.h>
 

@@ -11,7 +11,7 @@
 #include "booking/RTBookingDetailsView.h"
 #include "booking/RulesAndRegulationView.h"
 #include "booking/TravellerInformationView.h"
-#include "support/PhotoPicker.h"
+#include "images/PhotoPicker.h"
 
 #include <QRectF>
 #include <QUrl>

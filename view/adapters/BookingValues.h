@@ -6,8 +6,8 @@
 #include "booking/FormColour.h"
 #include "booking/JourneyCard.h"
 #include "booking/TicketTravellerInfo.h"
+#include "dates/Day.h"
 #include "platform/DocumentPicture.h"
-#include "support/Day.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "adapters/CalendarAdapters.h"
 
-#include "support/DateFormatter.h"
+#include "dates/DateFormatter.h"
 
 namespace ombrivane::view {
 namespace {

@@ -3,7 +3,7 @@
 #include "adapters/ReadOnlyList.h"
 #include "adapters/RowsModel.h"
 #include "adapters/ScreenAdapter.h"
-#include "search/TravelCalendar.h"
+#include "dates/TravelCalendar.h"
 
 namespace ombrivane::view {
 

@@ -2,7 +2,7 @@
 
 #include "adapters/ReadOnlyList.h"
 #include "adapters/ScreenAdapter.h"
-#include "screens/OfferItemView.h"
+#include "results/OfferItemView.h"
 
 /// One line of a value that never changes.
 #define OMBRIVANE_LINE(name)                                                                                 \

@@ -4,7 +4,7 @@
 #include "adapters/EntryAdapter.h"
 #include "adapters/ResultAdapters.h"
 #include "adapters/SearchAdapters.h"
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <functional>
 #include <map>

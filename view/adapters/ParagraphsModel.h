@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/RuleParagraph.h"
+#include "richtext/RuleParagraph.h"
 
 #include <QAbstractListModel>
 #include <QQmlEngine>

@@ -1,7 +1,7 @@
 #include "adapters/ResultAdapters.h"
 
 #include "adapters/PageTable.h"
-#include "support/Link.h"
+#include "keyed/Link.h"
 
 namespace ombrivane::view {
 

@@ -5,11 +5,11 @@
 #include "adapters/RowsModel.h"
 #include "adapters/ScreenAdapter.h"
 #include "adapters/SearchAdapters.h"
-#include "screens/DomesticFlightListView.h"
-#include "screens/EmptyStates.h"
-#include "screens/FilterBottomSheetView.h"
-#include "screens/FlightListView.h"
-#include "support/KeyedScreen.h"
+#include "keyed/KeyedScreen.h"
+#include "results/DomesticFlightListView.h"
+#include "results/EmptyStates.h"
+#include "results/FilterBottomSheetView.h"
+#include "results/FlightListView.h"
 
 #include <QUrl>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/Rows.h"
-#include "support/Screen.h"
+#include "keyed/Rows.h"
+#include "keyed/Screen.h"
 
 #include <QAbstractListModel>
 #include <QQmlEngine>

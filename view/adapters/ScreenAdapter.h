@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/Screen.h"
-#include "support/ShownText.h"
+#include "keyed/Screen.h"
+#include "richtext/ShownText.h"
 
 #include <QObject>
 #include <QQmlEngine>

@@ -2,14 +2,14 @@
 
 #include "adapters/RowsModel.h"
 #include "adapters/ScreenAdapter.h"
-#include "screens/AirportSearch.h"
-#include "screens/AlertView.h"
-#include "screens/CustomRadioButtonFieldView.h"
-#include "screens/MainView.h"
-#include "screens/NationalityBottomSheetView.h"
-#include "screens/SearchForm.h"
-#include "screens/TravellerBottomSheetView.h"
-#include "screens/TravellerIncDecButtonView.h"
+#include "parts/AlertView.h"
+#include "parts/CustomRadioButtonFieldView.h"
+#include "search/AirportSearch.h"
+#include "search/MainView.h"
+#include "search/NationalityBottomSheetView.h"
+#include "search/SearchForm.h"
+#include "search/TravellerBottomSheetView.h"
+#include "search/TravellerIncDecButtonView.h"
 
 namespace ombrivane::view {
 

@@ -1,6 +1,6 @@
 #include "device/QtMainQueue.h"
 
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/DateWheels.h"
+#include "dates/DateWheels.h"
 
 #include <QQmlEngine>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "items/OmbrivaneSession.h"
 
+#include "base/Fault.h"
 #include "platform/Platform.h"
-#include "support/Fault.h"
 
 #include <QPointer>
 

@@ -55,7 +55,7 @@ public:
     /// The hand-over, or progress where "exit" in it is false; JSON. On the main thread.
     Q_SIGNAL void finished(const QString& dictionary);
     /// The component failed: in the words of the error, and by the domain and the code that
-    /// `support/ErrorDomains.h` names. On the main thread.
+    /// `base/ErrorDomains.h` names. On the main thread.
     Q_SIGNAL void failed(const QString& message, const QString& domain, int code);
     /// The component wants to be taken off the screen.
     Q_SIGNAL void closed();

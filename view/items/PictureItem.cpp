@@ -1,6 +1,6 @@
 #include "items/PictureItem.h"
 
-#include "support/ImageCacheKey.h"
+#include "images/ImageCacheKey.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "images/ImageLoader.h"
 #include "platform/Image.h"
-#include "support/ImageLoader.h"
 
 #include <QQmlEngine>
 #include <QQuickPaintedItem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Observable.h"
+#include "keyed/Observable.h"
 
 #include <QObject>
 #include <QQmlEngine>

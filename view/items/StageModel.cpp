@@ -1,7 +1,7 @@
 #include "items/StageModel.h"
 
 #include "adapters/PageTable.h"
-#include "support/Fault.h"
+#include "base/Fault.h"
 
 #include <algorithm>
 

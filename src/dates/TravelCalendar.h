@@ -1,0 +1,71 @@
+#pragma once
+
+#include "dates/DateValue.h"
+#include "keyed/Action.h"
+#include "keyed/Derived.h"
+#include "keyed/Field.h"
+#include "keyed/Rows.h"
+#include "keyed/Screen.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ombrivane {
+
+/// What both calendars share: six months from this one on, the cells, the texts, Done and close. A calendar
+/// states what a tap on a day does, which days are chosen and what Done fills.
+class TravelCalendar : public Screen {
+public:
+    static constexpr int shownMonths = 6;
+
+    /// One month as it is drawn.
+    class Month final : public Screen {
+    public:
+        Month(TravelCalendar& calendar, int offset);
+
+        Derived<std::string> title;
+        Derived<std::vector<CalendarCell>> cells;
+
+    private:
+        std::vector<DateValue> grid_;
+        std::vector<std::string> labels_;
+    };
+
+    void appear() override;
+
+    Published<Day> currentDate{fields, "currentDate"};
+    Published<int> currentMonth{fields, "currentMonth", 0};
+    Published<int> scrollToIndex{fields, "scrollToIndex", 1};
+    Derived<std::string> title{fields, "title", [] { return std::string("Select Travel Date"); }};
+    Derived<std::vector<std::string>> dayNames{
+        fields, "dayNames", [] {
+            return std::vector<std::string>{"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
+        }};
+    Derived<std::string> chosenText{fields, "chosenText", [this] { return describeChosen(); }};
+    Rows months{
+        *this,
+        "months",
+        [] { return std::size_t{shownMonths}; },
+        [this](std::size_t index) { return std::make_shared<Month>(*this, static_cast<int>(index)); }};
+    /// A tap on the day given as "yyyy-MM-dd". A past day does nothing.
+    Action<std::string> tapDay{*this, "tapDay", [this](const std::string& day) { tap(day); }};
+    Action<> done{*this, "done", [this] { finish(); }};
+    Action<> close{*this, "close", [this] { dismiss(); }};
+
+protected:
+    explicit TravelCalendar(std::string_view name);
+
+    virtual void choose(Day day) = 0;
+    virtual void fillEmptyFields() = 0;
+    virtual std::string describeChosen() const = 0;
+    /// The first and the last chosen day; the same one twice where there is one only.
+    virtual std::pair<Day, Day> chosen() const = 0;
+    virtual void afterDone() {}
+
+private:
+    void tap(const std::string& day);
+    void finish();
+};
+
+} // namespace ombrivane

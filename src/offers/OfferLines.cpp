@@ -1,0 +1,145 @@
+#include "offers/OfferLines.h"
+
+#include "offers/OfferFormat.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* nonRefundable = "Non-Refundable";
+
+/// What an offer that names no class is shown as.
+constexpr const char* economyCode = "M";
+
+SegmentLines linesOf(const Segment& segment, const std::string& cabin) {
+    SegmentLines lines;
+    lines.carrierLogo = segment.carrierLogo;
+    lines.carrier =
+        segment.carrierName + " > " + segment.carrierCode + "-" + segment.flightNumber + " - " + cabin;
+    if (segment.carrierCodeMarketing && *segment.carrierCodeMarketing != segment.carrierCode) {
+        lines.operatedBy = "Operated by " + segment.carrierCodeMarketingName.value_or("");
+    }
+    lines.from = segment.airportDeparture.name + ", " + segment.airportDeparture.country.value_or("");
+    lines.departure = OfferFormat::formatDate(segment.dateOfDeparture) + ", " + segment.timeOfDeparture;
+    lines.to = segment.airportArrival.name + ", " + segment.airportArrival.country.value_or("");
+    lines.arrival = OfferFormat::formatDate(segment.dateOfArrival) + ", " + segment.timeOfArrival;
+    const std::string connection = displayForm(segment.connectionTime);
+    if (connection != "false") lines.connection = "Connection Time : " + connection;
+    return lines;
+}
+
+template <class Journey>
+JourneyLines foldedJourney(const Journey& journey, const std::optional<std::string>& bookingClass,
+                           const std::string& refundability, const BaggageDetails& baggage) {
+    JourneyLines lines;
+    lines.carrierLogo = journey.carrierLogo;
+    lines.carrierName = journey.carrierName;
+    lines.refundability = refundability;
+    lines.cabin = OfferFormat::cabinClassName(bookingClass.value_or(economyCode));
+    lines.departureLocation = journey.locationDeparture;
+    lines.departureTime = journey.timeOfDeparture;
+    lines.departureDate = OfferFormat::formatDate(journey.dateOfDeparture);
+    lines.duration = journey.totalFlyingHours;
+    lines.noOfSegments = static_cast<int>(journey.segments.size());
+    lines.lineImage = segmentLineImage(journey.segments.size());
+    lines.arrivalLocation = journey.locationArrival;
+    lines.arrivalTime = journey.timeOfArrival;
+    lines.arrivalDate = OfferFormat::formatDate(journey.dateOfArrival);
+    lines.cabinBaggage = displayForm(baggage.cabin);
+    lines.checkInBaggage = displayForm(baggage.baggage);
+    lines.departureCountry = journey.airportDeparture.country.value_or("Kathmandu");
+    lines.arrivalCountry = journey.airportArrival.country.value_or("New York");
+    return lines;
+}
+
+template <class Journey> void unfold(JourneyLines& lines, const Journey& journey) {
+    for (const auto& segment : journey.segments)
+        lines.segments.push_back(linesOf(segment, lines.cabin));
+}
+
+} // namespace
+
+OfferLines foldedLines(const FlightSearchOneWay& offer) {
+    const auto& summary = offer.searchSummary;
+    return {OfferFormat::price(summary.currency, offer.fareInformation.totalCost),
+            {foldedJourney(offer.flightSummary,
+                           summary.bookingClass,
+                           summary.refundable.value_or(nonRefundable),
+                           offer.baggageDetails)}};
+}
+
+OfferLines foldedLines(const FlightSearchRoundTrip& offer) {
+    const auto& summary = offer.searchSummary;
+    const auto& baggage = offer.baggageDetails;
+    return {
+        OfferFormat::price(summary.currency, offer.fareInformation.totalCost),
+        {foldedJourney(offer.flightDepartureSummary, summary.bookingClass, nonRefundable, baggage.outbound),
+         foldedJourney(offer.flightReturnSummary, summary.bookingClass, nonRefundable, baggage.return_)}};
+}
+
+OfferLines linesOf(const FlightSearchOneWay& offer) {
+    auto lines = foldedLines(offer);
+    unfold(lines.journeys[0], offer.flightSummary);
+    return lines;
+}
+
+OfferLines linesOf(const FlightSearchRoundTrip& offer) {
+    auto lines = foldedLines(offer);
+    unfold(lines.journeys[0], offer.flightDepartureSummary);
+    unfold(lines.journeys[1], offer.flightReturnSummary);
+    return lines;
+}
+
+OfferLines placeholderLines(std::size_t journeys) {
+    JourneyLines lines;
+    lines.carrierLogo = "dummyurl";
+    lines.carrierName = "Loading ...";
+    lines.refundability = nonRefundable;
+    lines.cabin = OfferFormat::cabinClassName(economyCode);
+    lines.departureLocation = "KTM";
+    lines.departureTime = "16:00";
+    lines.departureDate = OfferFormat::formatDate("2022-05-26");
+    lines.duration = "28 Hr 0 Min";
+    lines.lineImage = segmentLineImage(0);
+    lines.arrivalLocation = "JFK";
+    lines.arrivalTime = "08:00";
+    lines.arrivalDate = OfferFormat::formatDate("2022-05-29");
+    lines.cabinBaggage = displayForm(Weight::integer(0));
+    lines.checkInBaggage = lines.cabinBaggage;
+    return {"NPR 88,222", std::vector<JourneyLines>(journeys, lines)};
+}
+
+std::string segmentLineImage(std::size_t noOfSegments) {
+    return noOfSegments < 2 ? "segmentStraightLine" : "segmentDottedLine";
+}
+
+Json Keyed<SegmentLines>::toJson(const SegmentLines& lines) {
+    return Json{{"carrier", lines.carrier},
+                {"operatedBy", lines.operatedBy},
+                {"from", lines.from},
+                {"departure", lines.departure},
+                {"to", lines.to},
+                {"arrival", lines.arrival},
+                {"connection", lines.connection}};
+}
+
+Json Keyed<JourneyLines>::toJson(const JourneyLines& lines) {
+    return Json{{"carrierLogo", lines.carrierLogo},
+                {"carrierName", lines.carrierName},
+                {"refundability", lines.refundability},
+                {"cabin", lines.cabin},
+                {"departureLocation", lines.departureLocation},
+                {"departureTime", lines.departureTime},
+                {"departureDate", lines.departureDate},
+                {"duration", lines.duration},
+                {"noOfSegments", lines.noOfSegments},
+                {"arrivalLocation", lines.arrivalLocation},
+                {"arrivalTime", lines.arrivalTime},
+                {"arrivalDate", lines.arrivalDate},
+                {"cabinBaggage", lines.cabinBaggage},
+                {"checkInBaggage", lines.checkInBaggage},
+                {"departureCountry", lines.departureCountry},
+                {"arrivalCountry", lines.arrivalCountry},
+                {"segments", Keyed<std::vector<SegmentLines>>::toJson(lines.segments)}};
+}
+
+} // namespace ombrivane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "keyed/Field.h"
+#include "platform/Platform.h"
+
+#include <chrono>
+
+namespace ombrivane {
+
+/// How long a message stays, and how long a screen that failed stays under it.
+inline constexpr std::chrono::milliseconds messageDuration{3000};
+
+/// The bar with one message that hides by itself. It has no control: it stays for the full time unless its
+/// owner clears the flag, which leaves no work behind.
+class CustomSnackBarView {
+public:
+    explicit CustomSnackBarView(Field<bool>& show) : show_(show) {
+        shown_ = show.observe([this] { follow(); });
+    }
+    CustomSnackBarView(const CustomSnackBarView&) = delete;
+    CustomSnackBarView& operator=(const CustomSnackBarView&) = delete;
+
+private:
+    void follow() {
+        if (!show_.get()) {
+            task_.cancel();
+        } else if (!task_.isPending()) {
+            task_ = mainQueue().after(messageDuration, [this] { show_.set(false); });
+        }
+    }
+
+    Field<bool>& show_;
+    WorkItem task_;
+    Subscription shown_;
+};
+
+} // namespace ombrivane

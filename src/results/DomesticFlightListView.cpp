@@ -1,0 +1,181 @@
+#include "results/DomesticFlightListView.h"
+
+#include "results/FilterBottomSheetView.h"
+#include "results/WholeNumber.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* insufficientFund = "You don't have sufficient fund.";
+constexpr const char* departing = "Departing Flights";
+constexpr const char* returning = "Returning Flights";
+constexpr int departureTab = 0;
+constexpr int returnTab = 1;
+
+} // namespace
+
+DomesticFlightListView::DomesticFlightListView(SearchRequest searchRequest,
+                                               CompletionCallback completionCallback) :
+    DomesticFlightListView(std::move(searchRequest), std::make_shared<DomesticFlightListViewModel>(),
+                           std::move(completionCallback)) {}
+
+DomesticFlightListView::DomesticFlightListView(SearchRequest searchRequest,
+                                               const std::shared_ptr<DomesticFlightListViewModel>& viewModel,
+                                               CompletionCallback completionCallback) :
+    ResultsScreen("DomesticFlightListView", "flightListVM", std::move(searchRequest), viewModel,
+                  insufficientFund, std::move(completionCallback)),
+    flightListVM(*viewModel),
+    showsTabs(fields, "showsTabs", [this] { return flightListVM.hasReturnDate.get(); }),
+    departingTitle(fields, "departingTitle", [] { return std::string(departing); }),
+    returningTitle(fields, "returningTitle", [] { return std::string(returning); }),
+    tapDepartingFlights(
+        *this, "tapDepartingFlights", [this] { flightListVM.index = departureTab; },
+        [this] { return showsTabs.get(); }),
+    tapReturningFlights(
+        *this, "tapReturningFlights", [this] { tapReturnTab(); }, [this] { return showsTabs.get(); }),
+    oneWayList_(makeList(flightListVM.filteredOnewayFlights, oneWaySelection(), departing)),
+    departureList_(makeList(flightListVM.filteredDepartureFlights, departureSelection(), departing)),
+    returnList_(makeList(flightListVM.filteredReturnFlights, returnSelection(), returning)) {}
+
+std::shared_ptr<OneWayFlightListView> DomesticFlightListView::makeList(const Field<OneWayOffers>& shown,
+                                                                       const OfferSelection& selection,
+                                                                       const char* title) {
+    return std::make_shared<OneWayFlightListView>(
+        shown, OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection}, title, true);
+}
+
+OfferSelection DomesticFlightListView::oneWaySelection() {
+    return {flightListVM.flight,
+            flightListVM.showContinueButton,
+            flightListVM.displayedSegmentId,
+            flightListVM.selectedFlightSegmentId,
+            flightListVM.flightSelected,
+            showSegmant};
+}
+
+OfferSelection DomesticFlightListView::departureSelection() {
+    return {flightListVM.flight,
+            flightListVM.showContinueButton,
+            flightListVM.departureFlightsDisplayedSegmentId,
+            flightListVM.departureFlightsSelectedFlightSegmentId,
+            flightListVM.departureFlightSelected,
+            showDepartureFlightSegmant};
+}
+
+OfferSelection DomesticFlightListView::returnSelection() {
+    return {flightListVM.returnFlight,
+            noContinueButton_,
+            flightListVM.returnFlightsDisplayedSegmentId,
+            flightListVM.returnFlightsSelectedFlightSegmentId,
+            flightListVM.returnFlightSelected,
+            showReturnFlightSegmant};
+}
+
+void DomesticFlightListView::clearForSearch() {
+    flightListVM.index = departureTab;
+    flightListVM.returnFlight = std::nullopt;
+}
+
+void DomesticFlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {
+    if (roundTrip) {
+        using Flights = FlightSearchRoundTripProvider::SpecialRoundFlights;
+        return flightSearchRoundTripProvider_.searchSpecialRoundFlights(
+            query, answered<Flights>([this](Flights flights) {
+                sortByTotalCost(flights.departureFlights);
+                flightListVM.departureFlights = flights.departureFlights;
+                flightListVM.filteredDepartureFlights = std::move(flights.departureFlights);
+                sortByTotalCost(flights.returnFlights);
+                flightListVM.returnFlights = flights.returnFlights;
+                flightListVM.filteredReturnFlights = std::move(flights.returnFlights);
+            }));
+    }
+    flightSearchOneWayProvider_.searchFlights(query, answered<OneWayOffers>([this](OneWayOffers offers) {
+                                                  sortByTotalCost(offers);
+                                                  flightListVM.onewayFlights = offers;
+                                                  flightListVM.filteredOnewayFlights = std::move(offers);
+                                              }));
+}
+
+std::shared_ptr<Screen> DomesticFlightListView::list() const {
+    if (!flightListVM.hasReturnDate) return oneWayList_;
+    return flightListVM.index == departureTab ? departureList_ : returnList_;
+}
+
+bool DomesticFlightListView::listIsEmpty() const {
+    if (!flightListVM.hasReturnDate) return flightListVM.filteredOnewayFlights->empty();
+    return flightListVM.index == departureTab ? flightListVM.filteredDepartureFlights->empty()
+                                              : flightListVM.filteredReturnFlights->empty();
+}
+
+bool DomesticFlightListView::canBeFiltered() const {
+    if (!flightListVM.hasReturnDate) return !flightListVM.onewayFlights->empty();
+    return flightListVM.index == departureTab ? !flightListVM.departureFlights->empty()
+                                              : !flightListVM.returnFlights->empty();
+}
+
+void DomesticFlightListView::tapReturnTab() {
+    if (!flightListVM.flight.get()) return refuse("Please select a flight first.");
+    flightListVM.index = returnTab;
+}
+
+/// A filter takes the choice of its list; that of the departure list takes the return choice as well.
+void DomesticFlightListView::clearSelection() {
+    if (!flightListVM.hasReturnDate) {
+        flightListVM.showContinueButton = false;
+        return oneWaySelection().clear();
+    }
+    if (flightListVM.index == departureTab) {
+        flightListVM.showContinueButton = false;
+        departureSelection().clear();
+    }
+    returnSelection().clear();
+}
+
+std::shared_ptr<Screen> DomesticFlightListView::makeFilter() {
+    const bool departureList = flightListVM.index == departureTab;
+    auto& all = !flightListVM.hasReturnDate ? flightListVM.onewayFlights
+                : departureList             ? flightListVM.departureFlights
+                                            : flightListVM.returnFlights;
+    auto& filtered = !flightListVM.hasReturnDate ? flightListVM.filteredOnewayFlights
+                     : departureList             ? flightListVM.filteredDepartureFlights
+                                                 : flightListVM.filteredReturnFlights;
+    const auto hold = weak_from_this();
+    return std::make_shared<FilterBottomSheetView>(
+        FilterBindings{
+            all, nullptr, filtered, nullptr, flightListVM.selectedId, flightListVM.price, flightListVM.time},
+        [this, hold] {
+            if (hold.lock()) clearSelection();
+        });
+}
+
+std::optional<std::int64_t> DomesticFlightListView::totalCost() const {
+    const auto& going = flightListVM.flight.get();
+    if (!flightListVM.hasReturnDate) {
+        return going ? std::optional(going->oneWay().fareInformation.totalCost) : std::nullopt;
+    }
+    const auto& coming = flightListVM.returnFlight.get();
+    if (going && coming) {
+        return sumOf(going->oneWay().fareInformation.totalCost, coming->oneWay().fareInformation.totalCost);
+    }
+    const auto& one = going ? going : coming;
+    return one ? std::optional(one->oneWay().fareInformation.totalCost) : std::nullopt;
+}
+
+std::optional<std::string> DomesticFlightListView::totalCurrency() const {
+    const auto& one = flightListVM.flight.get() ? flightListVM.flight.get() : flightListVM.returnFlight.get();
+    return one ? std::optional(one->currency()) : std::nullopt;
+}
+
+void DomesticFlightListView::proceed() {
+    const bool going = flightListVM.flight->has_value();
+    const bool complete = !flightListVM.hasReturnDate || flightListVM.returnFlight->has_value();
+    if (!going) return;
+    if (!complete) {
+        flightListVM.index = returnTab;
+        return;
+    }
+    if (exceedsBalance(*totalCost(), AppState::shared().walletBalance)) return refuse(insufficientFund);
+    showRules();
+}
+
+} // namespace ombrivane

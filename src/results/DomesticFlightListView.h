@@ -1,0 +1,58 @@
+#pragma once
+
+#include "results/DomesticFlightListViewModel.h"
+#include "results/ResultsScreen.h"
+#include "services/FlightSearchOneWayProvider.h"
+#include "services/FlightSearchRoundTripProvider.h"
+
+namespace ombrivane {
+
+/// The domestic result list. A round trip is chosen on two tabs, a departure offer and a return offer that
+/// travel together.
+class DomesticFlightListView final : public ResultsScreen {
+public:
+    DomesticFlightListView(SearchRequest request, CompletionCallback completionCallback);
+
+    DomesticFlightListViewModel& flightListVM;
+    Published<bool> showDepartureFlightSegmant{fields, "showDepartureFlightSegmant"};
+    Published<bool> showReturnFlightSegmant{fields, "showReturnFlightSegmant"};
+    Derived<bool> showsTabs;
+    Derived<std::string> departingTitle;
+    Derived<std::string> returningTitle;
+    Action<> tapDepartingFlights;
+    Action<> tapReturningFlights;
+
+protected:
+    void clearForSearch() override;
+    void sendSearch(const FlightQuery& query, bool roundTrip) override;
+    std::shared_ptr<Screen> list() const override;
+    bool listIsEmpty() const override;
+    bool canBeFiltered() const override;
+    std::shared_ptr<Screen> makeFilter() override;
+    std::optional<std::int64_t> totalCost() const override;
+    std::optional<std::string> totalCurrency() const override;
+    std::optional<AnyFlight> returningFlight() const override { return flightListVM.returnFlight; }
+    void proceed() override;
+
+private:
+    DomesticFlightListView(SearchRequest request, const std::shared_ptr<DomesticFlightListViewModel>& model,
+                           CompletionCallback completionCallback);
+    std::shared_ptr<OneWayFlightListView> makeList(const Field<OneWayOffers>& shown,
+                                                   const OfferSelection& selection, const char* title);
+    OfferSelection oneWaySelection();
+    OfferSelection departureSelection();
+    OfferSelection returnSelection();
+    void tapReturnTab();
+    void clearSelection();
+
+    FlightSearchOneWayProvider flightSearchOneWayProvider_;
+    FlightSearchRoundTripProvider flightSearchRoundTripProvider_;
+    /// The return list chooses without a word to the Continue button, which the departure offer shows.
+    Fields unkeyed_;
+    Published<bool> noContinueButton_{unkeyed_, "showContinueButton"};
+    std::shared_ptr<OneWayFlightListView> oneWayList_;
+    std::shared_ptr<OneWayFlightListView> departureList_;
+    std::shared_ptr<OneWayFlightListView> returnList_;
+};
+
+} // namespace ombrivane

@@ -1,0 +1,109 @@
+#include "results/FlightListView.h"
+
+#include "results/FilterBottomSheetView.h"
+#include "results/WholeNumber.h"
+
+namespace ombrivane {
+namespace {
+
+constexpr const char* insufficientBalance = "You don't have sufficient balance.";
+
+} // namespace
+
+FlightListView::FlightListView(SearchRequest searchRequest, CompletionCallback completionCallback) :
+    FlightListView(std::move(searchRequest), std::make_shared<FlightListViewModel>(),
+                   std::move(completionCallback)) {}
+
+FlightListView::FlightListView(SearchRequest searchRequest,
+                               const std::shared_ptr<FlightListViewModel>& viewModel,
+                               CompletionCallback completionCallback) :
+    ResultsScreen("FlightListView", "flightListVM", std::move(searchRequest), viewModel, insufficientBalance,
+                  std::move(completionCallback)),
+    flightListVM(*viewModel),
+    oneWayList_(std::make_shared<OneWayFlightListView>(
+        flightListVM.filteredOnewayFlights,
+        OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection()}, "Departing Flights",
+        false)),
+    roundTripList_(std::make_shared<RoundTripFlightListView>(
+        flightListVM.filteredRoundtripFlights,
+        OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection()}, "Departing Flights",
+        true)) {}
+
+OfferSelection FlightListView::selection() {
+    return {flightListVM.flight,
+            flightListVM.showContinueButton,
+            flightListVM.displayedSegmentId,
+            flightListVM.selectedFlightSegmentId,
+            flightListVM.flightSelected,
+            showSegmant};
+}
+
+void FlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {
+    if (roundTrip) {
+        return flightSearchRoundTripProvider_.searchFlights(
+            query, answered<RoundTripOffers>([this](RoundTripOffers offers) {
+                sortByTotalCost(offers);
+                flightListVM.roundtripFlights = offers;
+                flightListVM.filteredRoundtripFlights = std::move(offers);
+            }));
+    }
+    flightSearchOneWayProvider_.searchFlights(query, answered<OneWayOffers>([this](OneWayOffers offers) {
+                                                  sortByTotalCost(offers);
+                                                  flightListVM.onewayFlights = offers;
+                                                  flightListVM.filteredOnewayFlights = std::move(offers);
+                                              }));
+}
+
+std::shared_ptr<Screen> FlightListView::list() const {
+    if (flightListVM.hasReturnDate) return roundTripList_;
+    return oneWayList_;
+}
+
+bool FlightListView::listIsEmpty() const {
+    return flightListVM.hasReturnDate ? flightListVM.filteredRoundtripFlights->empty()
+                                      : flightListVM.filteredOnewayFlights->empty();
+}
+
+bool FlightListView::canBeFiltered() const {
+    return flightListVM.hasReturnDate ? !flightListVM.roundtripFlights->empty()
+                                      : !flightListVM.onewayFlights->empty();
+}
+
+void FlightListView::clearSelection() {
+    flightListVM.showContinueButton = false;
+    selection().clear();
+}
+
+std::shared_ptr<Screen> FlightListView::makeFilter() {
+    const auto hold = weak_from_this();
+    return std::make_shared<FilterBottomSheetView>(FilterBindings{flightListVM.onewayFlights,
+                                                                  &flightListVM.roundtripFlights,
+                                                                  flightListVM.filteredOnewayFlights,
+                                                                  &flightListVM.filteredRoundtripFlights,
+                                                                  flightListVM.selectedId,
+                                                                  flightListVM.price,
+                                                                  flightListVM.time},
+                                                   [this, hold] {
+                                                       if (hold.lock()) clearSelection();
+                                                   });
+}
+
+std::optional<std::int64_t> FlightListView::totalCost() const {
+    const auto& flight = flightListVM.flight.get();
+    if (!flight) return std::nullopt;
+    return flightListVM.hasReturnDate ? flight->roundTrip().fareInformation.totalCost
+                                      : flight->oneWay().fareInformation.totalCost;
+}
+
+std::optional<std::string> FlightListView::totalCurrency() const {
+    const auto& flight = flightListVM.flight.get();
+    return flight ? std::optional(flight->currency()) : std::nullopt;
+}
+
+void FlightListView::proceed() {
+    const auto cost = totalCost();
+    if (cost && exceedsBalance(*cost, AppState::shared().walletBalance)) return refuse(insufficientBalance);
+    showRules();
+}
+
+} // namespace ombrivane

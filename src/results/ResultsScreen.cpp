@@ -1,0 +1,184 @@
+#include "results/ResultsScreen.h"
+
+#include "booking/RulesAndRegulationView.h"
+#include "dates/CustomRoundTripDatePickerView.h"
+#include "dates/DateFormatter.h"
+#include "offers/OfferFormat.h"
+#include "services/CustomError.h"
+#include "services/ItineraryType.h"
+
+namespace ombrivane {
+namespace {
+
+/// The service's words for a search that found nothing, by which it is recognised.
+constexpr const char* noFlightsFound = "Sorry! No flight recommendations found.";
+
+/// About half of the header: a shorter scroll is a finger that rests.
+constexpr double headerLeavesAt = 32.0;
+
+} // namespace
+
+ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view modelKey, SearchRequest request,
+                             std::shared_ptr<ResultsModel> model, std::string message,
+                             CompletionCallback completionCallback) :
+    Screen(screenName),
+    departCityCode(fields, "departCityCode", request.departCityCode),
+    departCity(fields, "departCity", request.departCity),
+    destCityCode(fields, "destCityCode", request.destCityCode),
+    destCity(fields, "destCity", request.destCity),
+    nationality(fields, "nationality", request.nationality),
+    adults(fields, "adults", request.adults),
+    children(fields, "children", request.children),
+    infants(fields, "infants", request.infants),
+    flightClass(fields, "flightClass", request.flightClass),
+    errorMessage(fields, "errorMessage", std::move(message)),
+    routeImage(fields, "routeImage",
+               [this] { return std::string(model_->hasReturnDate ? "exchangeIcon" : "toIcon"); }),
+    headerSubtitle(fields, "headerSubtitle",
+                   [this] {
+                       return model_->formatHeaderSubtitle(
+                           model_->departDate.get(), model_->returnDate.get(), adults, children, infants);
+                   }),
+    departDateText(fields, "departDateText",
+                   [this] { return formatDay(model_->departDate, dayPattern::calendar); }),
+    returnDateText(fields, "returnDateText",
+                   [this] { return formatDay(model_->returnDate, dayPattern::calendar); }),
+    addReturnDateText(fields, "addReturnDateText", constant("Add Return Date")),
+    showsReturnDate(fields, "showsReturnDate", [this] { return model_->hasReturnDate.get(); }),
+    showsFloatingBar(fields, "showsFloatingBar",
+                     [this] { return !model_->isLoading && !model_->noInternetConnection; }),
+    showsScrollUp(fields, "showsScrollUp",
+                  [this] { return showsFloatingBar.get() && !model_->showActionBar; }),
+    filterIsOn(fields, "filterIsOn",
+               [this] { return model_->selectedId.get() != "All Airlines" || !model_->time->empty(); }),
+    totalLabel(fields, "totalLabel", constant("Total Fare")),
+    total(fields, "total",
+          [this] {
+              const auto cost = totalCost();
+              return cost ? OfferFormat::price(totalCurrency().value_or(""), *cost) : std::string();
+          }),
+    continueText(fields, "continueText", constant("Continue")),
+    previousReturn(
+        *this, "previousReturn", [this] { stepReturn(-1); }, [this] { return model_->hasReturnDate.get(); }),
+    nextReturn(
+        *this, "nextReturn", [this] { stepReturn(1); }, [this] { return model_->hasReturnDate.get(); }),
+    addReturnDate(
+        *this, "addReturnDate",
+        [this] {
+            model_->returnDate = model_->departDate.get();
+            model_->showCustomRoundtripDatePickerBottomSheet = true;
+        },
+        [this] { return !model_->hasReturnDate; }),
+    openFilter(
+        *this, "openFilter", [this] { model_->showFilterBottomSheet = true; },
+        [this] { return showsFloatingBar.get() && canBeFiltered(); }),
+    scrollUp(
+        *this, "scrollUp", [this] { model_->scrollToTop = true; }, [this] { return showsScrollUp.get(); }),
+    continue_(
+        *this, "continue", [this] { proceed(); }, [this] { return model_->showContinueButton.get(); }),
+    request_(std::move(request)),
+    model_(std::move(model)),
+    completionCallback_(std::move(completionCallback)),
+    modelModel_(fields, modelKey, model_->fields),
+    snackBar_(model_->showSnackBar),
+    noInternet_(std::make_shared<NoInternetConnectionView>()),
+    noFlights_(
+        std::make_shared<NoFlightRecommendationsView>(false, [] { AppState::shared().resetNavigation(); })),
+    nothingLeft_(std::make_shared<NoFlightRecommendationsView>(
+        true,
+        [this] {
+            if (canBeFiltered()) {
+                model_->showFilterBottomSheet = true;
+            } else {
+                AppState::shared().resetNavigation(); // no filter left these out
+            }
+        })),
+    filterSheet_(*this, Presentation::sheet, model_->showFilterBottomSheet, [this] { return makeFilter(); }),
+    returnDateSheet_(*this, Presentation::sheet, model_->showCustomRoundtripDatePickerBottomSheet,
+                     [this] {
+                         return std::make_shared<CustomRoundTripDatePickerView>(departDateText_,
+                                                                                model_->departDate,
+                                                                                model_->returnDateText,
+                                                                                model_->returnDate,
+                                                                                [this] { search(true); });
+                     }),
+    rules_(*this, Presentation::push, model_->rulesAndRegulationViewIsActive, [this] {
+        return std::make_shared<RulesAndRegulationView>(
+            RulesAndRegulationView::Given{model_->rulesAndRegulationViewIsActive,
+                                          flightClass,
+                                          departCity,
+                                          destCity,
+                                          model_->tripType,
+                                          model_->flight,
+                                          returningFlight(),
+                                          completionCallback_});
+    }) {
+    model_->tripType = request_.tripType;
+    model_->departDate = request_.departDate;
+    model_->hasReturnDate = request_.returnDate.has_value();
+    if (request_.returnDate) model_->returnDate = *request_.returnDate;
+}
+
+void ResultsScreen::appear() { search(request_.returnDate.has_value()); }
+
+void ResultsScreen::search(bool roundTrip) {
+    ++searches_;
+    clearForSearch();
+    model_->startSearch(roundTrip);
+    FlightQuery query;
+    query.tripType = roundTrip ? model_->tripType.get() : request_.tripType;
+    query.departCity = departCityCode;
+    query.destCity = destCityCode;
+    query.departDate = model_->departDate;
+    if (roundTrip) query.returnDate = model_->returnDate.get();
+    query.nationality = nationality;
+    query.adults = adults;
+    query.children = children;
+    query.infants = infants;
+    query.flightClass = flightClass;
+    sendSearch(query, roundTrip);
+}
+
+/// Takes the three kinds of errors in; false when there was one.
+bool ResultsScreen::takeIn(const std::optional<Error>& error) {
+    if (!error) return true;
+    if (is(error, CustomError::noInternetConnection)) {
+        model_->noInternetConnection = true;
+        model_->isLoading = false;
+    } else if (error->localizedDescription == noFlightsFound) {
+        // Loading goes on; the empty state takes precedence on the screen.
+        model_->flightsListIsEmpty = true;
+    }
+    // Any other failure leaves the screen loading: it has no words for one.
+    return false;
+}
+
+void ResultsScreen::refuse(const char* message) {
+    errorMessage = message;
+    model_->showSnackBar = true;
+}
+
+void ResultsScreen::stepDeparture(int days) {
+    model_->departDate = model_->departDate->plusDays(days);
+    search(model_->hasReturnDate);
+}
+
+void ResultsScreen::stepReturn(int days) {
+    model_->returnDate = model_->returnDate->plusDays(days);
+    search(true);
+}
+
+void ResultsScreen::follow(double points) {
+    offset = points;
+    const bool atStart = points < headerLeavesAt;
+    if (model_->showActionBar != atStart) model_->showActionBar = atStart;
+}
+
+std::shared_ptr<Screen> ResultsScreen::content() const {
+    if (model_->noInternetConnection) return noInternet_;
+    if (model_->flightsListIsEmpty) return noFlights_;
+    if (!model_->isLoading && listIsEmpty()) return nothingLeft_;
+    return list();
+}
+
+} // namespace ombrivane

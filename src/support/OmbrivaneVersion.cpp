@@ -1,4 +1,0 @@
-#include "support/OmbrivaneVersion.h"
-
-const double OmbrivaneVersionNumber = OMBRIVANE_VERSION_NUMBER;
-const char OmbrivaneVersionString[] = OMBRIVANE_VERSION_STRING;
