@@ -1,10 +1,9 @@
 #include "ScreenCatalogue.h"
 
 #include "booking/BookingConfirmationView.h"
+#include "booking/BookingDetailsView.h"
 #include "booking/EmergencyContactInformationView.h"
 #include "booking/FlightDetailsView.h"
-#include "booking/OWBookingDetailsView.h"
-#include "booking/RTBookingDetailsView.h"
 #include "booking/RulesAndRegulationView.h"
 #include "booking/TravellerInformationView.h"
 #include "dates/CustomOneWayDatePickerView.h"

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "booking/TripScreens.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
-#include "records/FlightAvailability.h"
+#include "keyed/Shown.h"
 #include "records/KeyedRecords.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,42 +22,46 @@ struct BaggageBlock {
     std::string checkIn;
 
     bool operator==(const BaggageBlock&) const = default;
+
+    static constexpr auto shown =
+        table(entry("route", &BaggageBlock::route), entry("cabin", &BaggageBlock::cabin),
+              entry("checkIn", &BaggageBlock::checkIn));
 };
+
+/// One block for each direction, sample values where there is no availability yet.
+std::vector<BaggageBlock> baggageBlocks(const std::optional<OWFlightAvailability>& availability);
+std::vector<BaggageBlock> baggageBlocks(const std::optional<RTFlightAvailability>& availability);
 
 /// The baggage card, one block for each direction. Values are shown as the service sends them.
 class BaggageInformationView : public Screen {
+    std::function<std::vector<BaggageBlock>()> makeBlocks_;
+
 public:
     Binding<bool> isLoading;
-    Derived<std::string> title;
-    Derived<std::string> cabinLabel;
-    Derived<std::string> checkInLabel;
-    Derived<std::vector<BaggageBlock>> blocks;
+    Constant title{fields, "title", "Baggage Information"};
+    Constant cabinLabel{fields, "cabinLabel", "Cabin Baggage"};
+    Constant checkInLabel{fields, "checkInLabel", "Check-In Baggage"};
+    Derived<std::vector<BaggageBlock>> blocks{fields, "blocks", [this] { return makeBlocks_(); }};
 
 protected:
-    BaggageInformationView(std::string_view name, const Field<bool>& loading,
-                           std::function<std::vector<BaggageBlock>()> makeBlocks);
+    BaggageInformationView(std::string_view screenName, const Field<bool>& loading,
+                           std::function<std::vector<BaggageBlock>()> makeBlocks) :
+        Screen(screenName), makeBlocks_(std::move(makeBlocks)), isLoading(fields, "isLoading", loading) {}
 };
 
-class OWBaggageInformationView final : public BaggageInformationView {
+template <class Trip> class BaggageInformationOf final : public BaggageInformationView {
+    using Availability = std::optional<typename Trip::Availability>;
+
 public:
-    OWBaggageInformationView(const Field<std::optional<OWFlightAvailability>>& availability,
-                             const Field<bool>& loading);
+    BaggageInformationOf(const Field<Availability>& availability, const Field<bool>& loading) :
+        BaggageInformationView(TripScreens<Trip>::baggage, loading,
+                               [this] { return baggageBlocks(flightAvailability.get()); }),
+        flightAvailability(fields, "flightAvailability", availability) {}
 
-    Binding<std::optional<OWFlightAvailability>> flightAvailability;
+    Binding<Availability> flightAvailability;
 };
 
-class RTBaggageInformationView final : public BaggageInformationView {
-public:
-    RTBaggageInformationView(const Field<std::optional<RTFlightAvailability>>& availability,
-                             const Field<bool>& loading);
-
-    Binding<std::optional<RTFlightAvailability>> flightAvailability;
-};
-
-template <> struct Keyed<BaggageBlock> {
-    static Json toJson(const BaggageBlock& block) {
-        return Json{{"route", block.route}, {"cabin", block.cabin}, {"checkIn", block.checkIn}};
-    }
-};
+using OWBaggageInformationView = BaggageInformationOf<OneWay>;
+using RTBaggageInformationView = BaggageInformationOf<RoundTrip>;
 
 } // namespace ombrivane

@@ -13,7 +13,9 @@ namespace {
 
 constexpr const char* waiting = "Loading ...";
 
-std::vector<TicketFlightBlock> passengerBlocksOf(const std::optional<OWFlightAvailability>& availability) {
+} // namespace
+
+std::vector<TicketFlightBlock> ticketFlights(const std::optional<OWFlightAvailability>& availability) {
     if (!availability)
         return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
     const auto& flights = availability->flightsSummary;
@@ -28,7 +30,7 @@ std::vector<TicketFlightBlock> passengerBlocksOf(const std::optional<OWFlightAva
              baggage.baggage}};
 }
 
-std::vector<TicketFlightBlock> passengerBlocksOf(const std::optional<RTFlightAvailability>& availability) {
+std::vector<TicketFlightBlock> ticketFlights(const std::optional<RTFlightAvailability>& availability) {
     if (!availability) {
         return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting},
                 {"Returning Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
@@ -54,8 +56,6 @@ std::vector<TicketFlightBlock> passengerBlocksOf(const std::optional<RTFlightAva
              coming.baggage}};
 }
 
-} // namespace
-
 BookingConfirmationView::BookingConfirmationView(std::string_view screenName,
                                                  std::vector<TicketFlightBlock> flights,
                                                  std::optional<BookingSummary> summary, std::string cabinName,
@@ -65,25 +65,14 @@ BookingConfirmationView::BookingConfirmationView(std::string_view screenName,
     bookingSummary(fields, "bookingSummary", std::move(summary)),
     passengers(fields, "passengers", std::move(localPassengers)),
     flightClass(fields, "flightClass", std::move(cabinName)),
-    title(fields, "title", constant("Booking Confirmed")),
-    text(fields, "text", constant("You will receive eTicket and itinerary on your email address.")),
-    downloadText(fields, "downloadText", constant("Download Ticket")),
-    flightBlocks(fields, "flightBlocks", [this] { return flights_; }),
-    passengerBlocks(fields, "passengerBlocks", [this] { return makePassengerBlocks(); }),
-    back(
-        *this, "back",
-        [this] {
-            const auto callback = completionCallback_;
-            AppState::shared().resetNavigation();
-            callback(std::nullopt, std::nullopt);
-        },
-        [this] { return !isLoading; }),
-    downloadTicket(
-        *this, "downloadTicket", [this] { fetchDocument(); }, [this] { return !showProgressView; }),
-    share(
-        *this, "share", [this] { fetchDocument(); }, [this] { return !showProgressView; }),
     flights_(std::move(flights)),
     completionCallback_(std::move(completionCallback)) {}
+
+void BookingConfirmationView::leave() {
+    const auto callback = completionCallback_;
+    AppState::shared().resetNavigation();
+    callback(std::nullopt, std::nullopt);
+}
 
 void BookingConfirmationView::issueTicket() {
     using Answer = std::optional<FlightTicketing>;
@@ -149,23 +138,5 @@ std::vector<TicketPassengerBlock> BookingConfirmationView::makePassengerBlocks()
     }
     return blocks;
 }
-
-OWBookingConfirmationView::OWBookingConfirmationView(std::optional<OWFlightAvailability> availability,
-                                                     std::optional<BookingSummary> summary,
-                                                     std::string cabinName,
-                                                     std::vector<Passenger> localPassengers,
-                                                     CompletionCallback completionCallback) :
-    BookingConfirmationView("OWBookingConfirmationView", passengerBlocksOf(availability), std::move(summary),
-                            std::move(cabinName), std::move(localPassengers), std::move(completionCallback)),
-    owFlightAvailability(fields, "owFlightAvailability", std::move(availability)) {}
-
-RTBookingConfirmationView::RTBookingConfirmationView(std::optional<RTFlightAvailability> availability,
-                                                     std::optional<BookingSummary> summary,
-                                                     std::string cabinName,
-                                                     std::vector<Passenger> localPassengers,
-                                                     CompletionCallback completionCallback) :
-    BookingConfirmationView("RTBookingConfirmationView", passengerBlocksOf(availability), std::move(summary),
-                            std::move(cabinName), std::move(localPassengers), std::move(completionCallback)),
-    rtFlightAvailability(fields, "rtFlightAvailability", std::move(availability)) {}
 
 } // namespace ombrivane

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "booking/TicketTravellerInfo.h"
+#include "booking/TripScreens.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
 #include "platform/Platform.h"
-#include "records/FlightAvailability.h"
 #include "records/FlightBooking.h"
 #include "records/FlightTicketing.h"
 #include "records/KeyedRecords.h"
@@ -20,6 +22,10 @@
 #include <vector>
 
 namespace ombrivane {
+
+/// One block for each direction, which say that they wait where there is no availability.
+std::vector<TicketFlightBlock> ticketFlights(const std::optional<OWFlightAvailability>& availability);
+std::vector<TicketFlightBlock> ticketFlights(const std::optional<RTFlightAvailability>& availability);
 
 /// The ticket of a paid booking: issues it when it appears, reports the booking to the host, and hands the
 /// ticket's document on. `OWBookingConfirmationView` and `RTBookingConfirmationView` differ in their flight
@@ -41,14 +47,16 @@ public:
     Published<std::vector<FlightTicketingPassenger>> flightTicketingPassengers{fields,
                                                                                "flightTicketingPassengers"};
 
-    Derived<std::string> title;
-    Derived<std::string> text;
-    Derived<std::string> downloadText;
-    Derived<std::vector<TicketFlightBlock>> flightBlocks;
-    Derived<std::vector<TicketPassengerBlock>> passengerBlocks;
-    Action<> back;
-    Action<> downloadTicket;
-    Action<> share;
+    Constant title{fields, "title", "Booking Confirmed"};
+    Constant text{fields, "text", "You will receive eTicket and itinerary on your email address."};
+    Constant downloadText{fields, "downloadText", "Download Ticket"};
+    Derived<std::vector<TicketFlightBlock>> flightBlocks{fields, "flightBlocks", [this] { return flights_; }};
+    Derived<std::vector<TicketPassengerBlock>> passengerBlocks{
+        fields, "passengerBlocks", [this] { return makePassengerBlocks(); }};
+    Action<> back{*this, "back", [this] { leave(); }, [this] { return !isLoading; }};
+    Action<> downloadTicket{
+        *this, "downloadTicket", [this] { fetchDocument(); }, [this] { return !showProgressView; }};
+    Action<> share{*this, "share", [this] { fetchDocument(); }, [this] { return !showProgressView; }};
 
 protected:
     BookingConfirmationView(std::string_view name, std::vector<TicketFlightBlock> flights,
@@ -56,6 +64,7 @@ protected:
                             std::vector<Passenger> localPassengers, CompletionCallback completionCallback);
 
 private:
+    void leave();
     void issueTicket();
     void ticketIssued(std::optional<FlightTicketing> ticket, const std::optional<Error>& error);
     void reportBooking();
@@ -70,22 +79,22 @@ private:
     CustomSnackBarView snackBar_{showSnackBar};
 };
 
-class OWBookingConfirmationView final : public BookingConfirmationView {
-public:
-    OWBookingConfirmationView(std::optional<OWFlightAvailability> availability,
-                              std::optional<BookingSummary> summary, std::string cabinName,
-                              std::vector<Passenger> localPassengers, CompletionCallback completionCallback);
+template <class Trip> class BookingConfirmationOf final : public BookingConfirmationView {
+    using Availability = std::optional<typename Trip::Availability>;
 
-    Published<std::optional<OWFlightAvailability>> owFlightAvailability;
+public:
+    BookingConfirmationOf(Availability availability, std::optional<BookingSummary> summary,
+                          std::string cabinName, std::vector<Passenger> localPassengers,
+                          CompletionCallback completionCallback) :
+        BookingConfirmationView(TripScreens<Trip>::confirmation, ticketFlights(availability),
+                                std::move(summary), std::move(cabinName), std::move(localPassengers),
+                                std::move(completionCallback)),
+        flightAvailability(fields, TripScreens<Trip>::availabilityKey, std::move(availability)) {}
+
+    Published<Availability> flightAvailability;
 };
 
-class RTBookingConfirmationView final : public BookingConfirmationView {
-public:
-    RTBookingConfirmationView(std::optional<RTFlightAvailability> availability,
-                              std::optional<BookingSummary> summary, std::string cabinName,
-                              std::vector<Passenger> localPassengers, CompletionCallback completionCallback);
-
-    Published<std::optional<RTFlightAvailability>> rtFlightAvailability;
-};
+using OWBookingConfirmationView = BookingConfirmationOf<OneWay>;
+using RTBookingConfirmationView = BookingConfirmationOf<RoundTrip>;
 
 } // namespace ombrivane

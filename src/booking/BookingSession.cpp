@@ -1,6 +1,7 @@
 #include "booking/BookingSession.h"
 
 #include "base/ErrorDomains.h"
+#include "booking/Travellers.h"
 #include "dates/DateFormatter.h"
 #include "platform/OnMain.h"
 #include "records/Encode.h"
@@ -15,7 +16,6 @@ namespace {
 constexpr const char* contactMissing = "Please fill the details for emergency contact.";
 constexpr const char* passengersMissing = "Please fill the details for all passengers.";
 constexpr std::chrono::milliseconds second{1000};
-constexpr int minute = 60;
 
 } // namespace
 
@@ -27,43 +27,15 @@ BookingSession::BookingSession(std::string_view screenName, BookingGiven given) 
     bookingClass(fields, "bookingClass", std::move(given.bookingClass)),
     departLocation(fields, "departLocation", std::move(given.departLocation)),
     destLocation(fields, "destLocation", std::move(given.destLocation)),
-    phaseName(fields, "phase", [this] { return std::string(nameOf(phase())); }),
-    clockText(fields, "clockText",
-              [this] { return fmt::format("{:02}:{:02}", timeRemaining / minute, timeRemaining % minute); }),
-    clockLabel(fields, "clockLabel", constant("left for confirmation")),
-    clockPart(fields, "clockPart", [this] { return static_cast<double>(timeRemaining) / timeAllowed; }),
-    isLastMinute(fields, "isLastMinute", [this] { return timeRemaining <= minute; }),
-    totalLabel(fields, "totalLabel", constant("Total Fare")),
-    total(fields, "total", [this] { return "NPR " + formatNumber(totalCost().value_or(1)); }),
-    showsFoot(fields, "showsFoot", [this] { return !isLoading && !showPaymentView; }),
-    continueText(fields, "continueText", constant("Continue")),
-    expiredTitle(fields, "expiredTitle", constant("Session Expired")),
-    expiredButtonText(fields, "expiredButtonText", constant("Check Latest Fares")),
-    back(
-        *this, "back", [this] { dismiss(); }, [this] { return allowsNow(SessionControl::back); }),
-    continue_(
-        *this, "continue", [this] { proceed(); }, [this] { return allowsNow(SessionControl::proceed); }),
-    checkLatestFares(
-        *this, "checkLatestFares", [this] { dismiss(); },
-        [this] { return allowsNow(SessionControl::checkLatestFares); }),
     completionCallback_(std::move(given.completionCallback)),
-    timer_(mainQueue().every(second, [this] { tick(); })) {
-    contact_ =
-        std::make_shared<OWPessangerContactDetailView>(ContactGiven{[this] { return documentsRequired(); },
-                                                                    [this] { return allowedDocuments(); },
-                                                                    [this] { return travelDates(); },
-                                                                    isLoading,
-                                                                    emergencyContact,
-                                                                    documentList,
-                                                                    passengersList,
-                                                                    uniquePassangerList});
-    payment_ = std::make_shared<PaymentView>(PaymentGiven{paymentSummary,
-                                                          bookingSummary,
-                                                          bookingDetailsViewRouteIsActive,
-                                                          errorMessage,
-                                                          showSnackBar,
-                                                          "Verify OTP"});
+    timer_(mainQueue().every(second, [this] { tick(); })) {}
+
+std::string BookingSession::minutesAndSeconds() const {
+    constexpr int minute = 60;
+    return fmt::format("{:02}:{:02}", timeRemaining / minute, timeRemaining % minute);
 }
+
+std::string BookingSession::totalText() const { return "NPR " + formatNumber(totalCost().value_or(1)); }
 
 SessionPhase BookingSession::phase() const {
     return phaseOf({showSessionExpiredAlert, showProgressView, showPaymentView, isLoading});
@@ -145,12 +117,9 @@ void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
 }
 
 void BookingSession::upload(const FlightBooking& booking) {
-    // A passenger written by the contact form has no entry among the documents yet.
-    auto documents = documentList.get();
-    documents.resize(std::max(documents.size(), passengersList->size()));
     passengerDocumentsProvider_.upload(
         passengersList,
-        documents,
+        Travellers(passengersList, documentList).documents(),
         booking.passengers,
         booking.bookingReferenceID,
         onMain<std::optional<FlightBooking>>([hold = shared_from_this(), this, booking](

@@ -6,6 +6,8 @@
 #include "booking/TravelDates.h"
 #include "images/KeyedImage.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
@@ -70,21 +72,27 @@ public:
     Published<std::string> progressMessage{fields, "progressMessage", "Please wait ..."};
     Published<bool> bookingDetailsViewRouteIsActive{fields, "bookingDetailsViewRouteIsActive"};
 
-    Derived<std::string> phaseName;
-    Derived<std::string> clockText;
-    Derived<std::string> clockLabel;
-    Derived<double> clockPart; ///< of the time allowed, from 1 down to 0
-    Derived<bool> isLastMinute;
-    Derived<std::string> totalLabel;
-    Derived<std::string> total;
-    Derived<bool> showsFoot;
-    Derived<std::string> continueText;
-    Derived<std::string> expiredTitle;
-    Derived<std::string> expiredButtonText;
+    Derived<std::string> phaseName{fields, "phase", [this] { return std::string(nameOf(phase())); }};
+    Derived<std::string> clockText{fields, "clockText", [this] { return minutesAndSeconds(); }};
+    Constant clockLabel{fields, "clockLabel", "left for confirmation"};
+    /// Of the time allowed, from 1 down to 0.
+    Derived<double> clockPart{
+        fields, "clockPart", [this] { return static_cast<double>(timeRemaining) / timeAllowed; }};
+    Derived<bool> isLastMinute{fields, "isLastMinute", [this] { return timeRemaining <= 60; }};
+    Constant totalLabel{fields, "totalLabel", "Total Fare"};
+    Derived<std::string> total{fields, "total", [this] { return totalText(); }};
+    Derived<bool> showsFoot{fields, "showsFoot", [this] { return !isLoading && !showPaymentView; }};
+    Constant continueText{fields, "continueText", "Continue"};
+    Constant expiredTitle{fields, "expiredTitle", "Session Expired"};
+    Constant expiredButtonText{fields, "expiredButtonText", "Check Latest Fares"};
 
-    Action<> back;
-    Action<> continue_;
-    Action<> checkLatestFares;
+    Action<> back{*this, "back", [this] { dismiss(); }, [this] { return allowsNow(SessionControl::back); }};
+    Action<> continue_{
+        *this, "continue", [this] { proceed(); }, [this] { return allowsNow(SessionControl::proceed); }};
+    Action<> checkLatestFares{*this,
+                              "checkLatestFares",
+                              [this] { dismiss(); },
+                              [this] { return allowsNow(SessionControl::checkLatestFares); }};
 
 protected:
     BookingSession(std::string_view name, BookingGiven given);
@@ -121,6 +129,8 @@ protected:
 
 private:
     SessionPhase phase() const;
+    std::string minutesAndSeconds() const;
+    std::string totalText() const;
     bool allowsNow(SessionControl control) const { return allows(phase(), control); }
     bool everySlotIsFilled() const;
     void tick();
@@ -141,8 +151,22 @@ private:
     WorkItem task_;
     WorkItem timer_;
     CustomSnackBarView snackBar_{showSnackBar};
-    std::shared_ptr<OWPessangerContactDetailView> contact_;
-    std::shared_ptr<PaymentView> payment_;
+    std::shared_ptr<OWPessangerContactDetailView> contact_ =
+        std::make_shared<OWPessangerContactDetailView>(ContactGiven{[this] { return documentsRequired(); },
+                                                                    [this] { return allowedDocuments(); },
+                                                                    [this] { return travelDates(); },
+                                                                    isLoading,
+                                                                    emergencyContact,
+                                                                    documentList,
+                                                                    passengersList,
+                                                                    uniquePassangerList});
+    std::shared_ptr<PaymentView> payment_ =
+        std::make_shared<PaymentView>(PaymentGiven{paymentSummary,
+                                                   bookingSummary,
+                                                   bookingDetailsViewRouteIsActive,
+                                                   errorMessage,
+                                                   showSnackBar,
+                                                   "Verify OTP"});
 
 protected:
     /// The payment in place of the content, while its flag is raised.

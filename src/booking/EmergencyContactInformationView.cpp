@@ -30,22 +30,7 @@ EmergencyContactInformationView::EmergencyContactInformationView(
     type(fields, "type", std::move(typeCode)),
     allowedDocuments(fields, "allowedDocuments", std::move(documents)),
     emergencyContact(fields, "emergencyContact", contact),
-    passengersList(fields, "passengersList", passengers),
-    title(fields, "title", constant("Emergency Contact Information")),
-    boxText(fields, "boxText", constant("I'm a passenger.")),
-    saveText(fields, "saveText", constant("Save Details")),
-    nameColor(fields, "nameColor", [this] { return ECIVM.nameColor(); }),
-    surnameColor(fields, "surnameColor", [this] { return ECIVM.surnameColor(); }),
-    emailColor(fields, "emailColor", [this] { return ECIVM.emailColor(); }),
-    phoneNumberColor(fields, "phoneNumberColor", [this] { return ECIVM.phoneNumberColor(); }),
-    typeName(*this, "typeName", [this](const std::string& text) { ECIVM.name = text; }),
-    typeSurname(*this, "typeSurname", [this](const std::string& text) { ECIVM.surname = text; }),
-    typeEmail(*this, "typeEmail", [this](const std::string& text) { ECIVM.email = text; }),
-    typePhoneNumber(*this, "typePhoneNumber", [this](const std::string& text) { ECIVM.phoneNumber = text; }),
-    tapBox(*this, "tapBox", [this] { ECIVM.isPassanger = !ECIVM.isPassanger.get(); }),
-    close(*this, "close", [this] { dismiss(); }),
-    save(*this, "save", [this] { saveDetails(); }),
-    model_(fields, "ECIVM", ECIVM.fields) {}
+    passengersList(fields, "passengersList", passengers) {}
 
 void EmergencyContactInformationView::load() {
     const auto& contact = emergencyContact.get();

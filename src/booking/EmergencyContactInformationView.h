@@ -2,6 +2,8 @@
 
 #include "booking/EmergencyContactInformationViewModel.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
@@ -35,21 +37,25 @@ public:
     Published<std::string> message{fields, "message", "Please fill in all the required fields."};
     EmergencyContactInformationViewModel ECIVM;
 
-    Derived<std::string> title;
-    Derived<std::string> boxText;
-    Derived<std::string> saveText;
-    Derived<FormColour> nameColor;
-    Derived<FormColour> surnameColor;
-    Derived<FormColour> emailColor;
-    Derived<FormColour> phoneNumberColor;
+    Constant title{fields, "title", "Emergency Contact Information"};
+    Constant boxText{fields, "boxText", "I'm a passenger."};
+    Constant saveText{fields, "saveText", "Save Details"};
+    Derived<FormColour> nameColor{fields, "nameColor", [this] { return ECIVM.nameColor(); }};
+    Derived<FormColour> surnameColor{fields, "surnameColor", [this] { return ECIVM.surnameColor(); }};
+    Derived<FormColour> emailColor{fields, "emailColor", [this] { return ECIVM.emailColor(); }};
+    Derived<FormColour> phoneNumberColor{
+        fields, "phoneNumberColor", [this] { return ECIVM.phoneNumberColor(); }};
 
-    Action<std::string> typeName;
-    Action<std::string> typeSurname;
-    Action<std::string> typeEmail;
-    Action<std::string> typePhoneNumber;
-    Action<> tapBox;
-    Action<> close;
-    Action<> save;
+    Action<std::string> typeName{*this, "typeName", [this](const std::string& text) { ECIVM.name = text; }};
+    Action<std::string> typeSurname{
+        *this, "typeSurname", [this](const std::string& text) { ECIVM.surname = text; }};
+    Action<std::string> typeEmail{
+        *this, "typeEmail", [this](const std::string& text) { ECIVM.email = text; }};
+    Action<std::string> typePhoneNumber{
+        *this, "typePhoneNumber", [this](const std::string& text) { ECIVM.phoneNumber = text; }};
+    Action<> tapBox{*this, "tapBox", [this] { ECIVM.isPassanger = !ECIVM.isPassanger.get(); }};
+    Action<> close{*this, "close", [this] { dismiss(); }};
+    Action<> save{*this, "save", [this] { saveDetails(); }};
 
 private:
     void load();
@@ -57,7 +63,7 @@ private:
     void refuse(const char* text);
     void writePassenger();
 
-    Model model_;
+    Model model_{fields, "ECIVM", ECIVM.fields};
     CustomSnackBarView snackBar_{ECIVM.showSnackBar};
 };
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "booking/JourneyCard.h"
+#include "booking/TripScreens.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "records/KeyedRecords.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,37 +17,34 @@ namespace ombrivane {
 
 /// The journeys of an availability leg by leg: `OWFlightDetailsView` and `RTFlightDetailsView`.
 class FlightDetailsView : public Screen {
+    std::vector<JourneyCard> cards_;
+
 public:
-    Derived<std::string> title;
-    Derived<std::string> originCity;
-    Derived<std::string> destinationCity;
-    Derived<std::string> routeImage;
-    Derived<std::vector<JourneyCard>> journeys;
+    Constant title{fields, "title", "Flight Details"};
+    Derived<std::string> originCity{fields, "originCity", [this] { return cards_.front().originCity; }};
+    Derived<std::string> destinationCity{
+        fields, "destinationCity", [this] { return cards_.front().destinationCity; }};
+    Constant routeImage;
+    Derived<std::vector<JourneyCard>> journeys{fields, "journeys", [this] { return cards_; }};
     Action<> close{*this, "close", [this] { dismiss(); }};
 
 protected:
-    FlightDetailsView(std::string_view name, const char* image, std::vector<JourneyCard> cards);
-
-private:
-    std::vector<JourneyCard> cards_;
+    FlightDetailsView(std::string_view screenName, const char* image, std::vector<JourneyCard> cards) :
+        Screen(screenName), cards_(std::move(cards)), routeImage(fields, "routeImage", image) {}
 };
 
-class OWFlightDetailsView final : public FlightDetailsView {
+template <class Trip> class FlightDetailsOf final : public FlightDetailsView {
+    using Summary = std::optional<typename Trip::Summary>;
+
 public:
-    explicit OWFlightDetailsView(const std::optional<FlightsSummary>& summary) :
-        FlightDetailsView("OWFlightDetailsView", "toIcon", journeyCards(summary)),
+    explicit FlightDetailsOf(const Summary& summary) :
+        FlightDetailsView(TripScreens<Trip>::details, TripScreens<Trip>::routeImage, journeyCards(summary)),
         flightsSummary(fields, "flightsSummary", summary) {}
 
-    Published<std::optional<FlightsSummary>> flightsSummary;
+    Published<Summary> flightsSummary;
 };
 
-class RTFlightDetailsView final : public FlightDetailsView {
-public:
-    explicit RTFlightDetailsView(const std::optional<RTFlightsSummary>& summary) :
-        FlightDetailsView("RTFlightDetailsView", "exchangeIcon", journeyCards(summary)),
-        flightsSummary(fields, "flightsSummary", summary) {}
-
-    Published<std::optional<RTFlightsSummary>> flightsSummary;
-};
+using OWFlightDetailsView = FlightDetailsOf<OneWay>;
+using RTFlightDetailsView = FlightDetailsOf<RoundTrip>;
 
 } // namespace ombrivane

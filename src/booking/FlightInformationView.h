@@ -3,6 +3,8 @@
 #include "booking/FlightDetailsView.h"
 #include "booking/JourneyCard.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
@@ -10,6 +12,7 @@
 #include "records/KeyedRecords.h"
 #include "records/UniquePassanger.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,50 +25,63 @@ std::string passengerSummary(const std::vector<UniquePassanger>& slots);
 
 /// The summary card of what was priced, one block for each direction, with the way to the details.
 class FlightInformationView : public Screen {
+    std::function<std::vector<JourneyCard>()> cards_;
+    std::function<std::shared_ptr<Screen>()> makeDetails_;
+
 public:
     Published<std::string> bookingClass;
     Binding<bool> isLoading;
     Binding<std::vector<UniquePassanger>> uniquePassangers;
     Published<bool> navigationIsActive{fields, "navigationIsActive"};
-    Derived<std::vector<JourneyCard>> journeys;
-    Derived<std::string> passengerLine;
-    Derived<std::string> detailsText;
-    Action<> viewDetails;
+    Derived<std::vector<JourneyCard>> journeys{fields, "journeys", [this] { return cards_(); }};
+    Derived<std::string> passengerLine{fields, "passengerLine", [this] {
+                                           return passengerSummary(uniquePassangers) + " | " +
+                                                  bookingClass.get();
+                                       }};
+    Constant detailsText{fields, "detailsText", "View Flight Details"};
+    Action<> viewDetails{
+        *this, "viewDetails", [this] { navigationIsActive = true; }, [this] { return !isLoading; }};
 
 protected:
-    FlightInformationView(std::string_view name, std::string cabinName, const Field<bool>& loading,
+    FlightInformationView(std::string_view screenName, std::string cabinName, const Field<bool>& loading,
                           const Field<std::vector<UniquePassanger>>& slots,
                           std::function<std::vector<JourneyCard>()> cards,
-                          std::function<std::shared_ptr<Screen>()> details);
+                          std::function<std::shared_ptr<Screen>()> details) :
+        Screen(screenName),
+        cards_(std::move(cards)),
+        makeDetails_(std::move(details)),
+        bookingClass(fields, "bookingClass", std::move(cabinName)),
+        isLoading(fields, "isLoading", loading),
+        uniquePassangers(fields, "uniquePassangers", slots) {}
 
 private:
-    Link details_;
+    Link details_{*this, Presentation::push, navigationIsActive, [this] { return makeDetails_(); }};
 };
 
-class OWFlightInformationView final : public FlightInformationView {
-public:
-    OWFlightInformationView(const Field<std::optional<OWFlightAvailability>>& availability,
-                            std::string cabinName, const Field<bool>& loading,
-                            const Field<std::vector<UniquePassanger>>& slots);
+template <class Trip> class FlightInformationOf final : public FlightInformationView {
+    using Availability = std::optional<typename Trip::Availability>;
 
-    Derived<std::optional<FlightsSummary>> flightsSummary;
+public:
+    FlightInformationOf(const Field<Availability>& availability, std::string cabinName,
+                        const Field<bool>& loading, const Field<std::vector<UniquePassanger>>& slots) :
+        FlightInformationView(
+            TripScreens<Trip>::information, std::move(cabinName), loading, slots,
+            [this] { return journeyCards(flightsSummary.get()); },
+            [this] { return std::make_shared<FlightDetailsOf<Trip>>(flightsSummary.get()); }),
+        availability_(unkeyed_, "availability", availability) {}
+
+    Derived<std::optional<typename Trip::Summary>> flightsSummary{
+        fields, "flightsSummary", [this] {
+            const auto& held = availability_.get();
+            return held ? std::optional(held->flightsSummary) : std::nullopt;
+        }};
 
 private:
     Fields unkeyed_;
-    Binding<std::optional<OWFlightAvailability>> availability_;
+    Binding<Availability> availability_;
 };
 
-class RTFlightInformationView final : public FlightInformationView {
-public:
-    RTFlightInformationView(const Field<std::optional<RTFlightAvailability>>& availability,
-                            std::string cabinName, const Field<bool>& loading,
-                            const Field<std::vector<UniquePassanger>>& slots);
-
-    Derived<std::optional<RTFlightsSummary>> flightsSummary;
-
-private:
-    Fields unkeyed_;
-    Binding<std::optional<RTFlightAvailability>> availability_;
-};
+using OWFlightInformationView = FlightInformationOf<OneWay>;
+using RTFlightInformationView = FlightInformationOf<RoundTrip>;
 
 } // namespace ombrivane

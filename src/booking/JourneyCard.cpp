@@ -101,25 +101,4 @@ std::vector<JourneyCard> journeyCards(const std::optional<RTFlightsSummary>& sum
     return {going, coming};
 }
 
-Json Keyed<JourneyCard>::toJson(const JourneyCard& card) {
-    Json legs = Json::array();
-    for (const auto& leg : card.legs) {
-        legs.push_back(Json{{"connection", leg.connection},
-                            {"carrier", leg.carrier},
-                            {"duration", leg.duration},
-                            {"departureAirport", leg.departureAirport},
-                            {"departure", leg.departure},
-                            {"arrivalAirport", leg.arrivalAirport},
-                            {"arrival", leg.arrival}});
-    }
-    return Json{{"sectionTitle", card.sectionTitle},
-                {"route", card.route},
-                {"date", card.date},
-                {"time", card.time},
-                {"duration", card.duration},
-                {"stops", card.stops},
-                {"carrierLogos", card.carrierLogos},
-                {"legs", legs}};
-}
-
 } // namespace ombrivane

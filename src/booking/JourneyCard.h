@@ -1,6 +1,6 @@
 #pragma once
 
-#include "keyed/Keyed.h"
+#include "keyed/Shown.h"
 #include "records/FlightsSummary.h"
 #include "records/RTFlightsSummary.h"
 
@@ -22,6 +22,12 @@ struct LegLines {
     std::string arrival;
 
     bool operator==(const LegLines&) const = default;
+
+    static constexpr auto shown = table(
+        entry("connection", &LegLines::connection), entry("carrierLogo", &LegLines::carrierLogo),
+        entry("carrier", &LegLines::carrier), entry("duration", &LegLines::duration),
+        entry("departureAirport", &LegLines::departureAirport), entry("departure", &LegLines::departure),
+        entry("arrivalAirport", &LegLines::arrivalAirport), entry("arrival", &LegLines::arrival));
 };
 
 /// One journey of an availability as the cards of a booking session show it. Without an availability it holds
@@ -42,13 +48,20 @@ struct JourneyCard {
     std::vector<LegLines> legs;
 
     bool operator==(const JourneyCard&) const = default;
+
+    static constexpr auto shown =
+        table(entry("sectionTitle", &JourneyCard::sectionTitle), entry("dateIcon", &JourneyCard::dateIcon),
+              entry("originCity", &JourneyCard::originCity), entry("originCode", &JourneyCard::originCode),
+              entry("destinationCity", &JourneyCard::destinationCity),
+              entry("destinationCode", &JourneyCard::destinationCode), entry("route", &JourneyCard::route),
+              entry("date", &JourneyCard::date), entry("time", &JourneyCard::time),
+              entry("duration", &JourneyCard::duration), entry("stops", &JourneyCard::stops),
+              entry("carrierLogos", &JourneyCard::carrierLogos), entry("legs", &JourneyCard::legs));
 };
 
 /// The journeys of an availability in order, sample values where it is absent. A date that is not
 /// "yyyy-MM-dd" is a fault.
 std::vector<JourneyCard> journeyCards(const std::optional<FlightsSummary>& summary);
 std::vector<JourneyCard> journeyCards(const std::optional<RTFlightsSummary>& summary);
-
-template <> struct Keyed<JourneyCard> { static Json toJson(const JourneyCard& card); };
 
 } // namespace ombrivane

@@ -3,6 +3,8 @@
 #include "booking/TravelDates.h"
 #include "images/KeyedImage.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Rows.h"
@@ -36,14 +38,21 @@ struct ContactGiven {
 /// One line of the list: the contact or a passenger, filled in or still to do. Its form opens once the
 /// availability says for whom: before, nobody could be given the identity of a slot.
 class ContactLine final : public Screen {
-public:
-    ContactLine(std::string_view name, std::function<std::string()> titleText,
-                std::function<std::optional<std::string>()> filledIn, std::function<void()> open,
-                std::function<bool()> isReady);
+    using Name = std::function<std::optional<std::string>()>;
+    Name filledIn_;
 
-    Derived<std::string> title;
-    Derived<std::string> detail;
-    Derived<bool> isFilled;
+public:
+    ContactLine(std::string_view lineName, std::string titleText, Name filledIn, std::function<void()> open,
+                std::function<bool()> isReady) :
+        Screen(lineName),
+        filledIn_(std::move(filledIn)),
+        title(fields, "title", std::move(titleText)),
+        tap(*this, "tap", std::move(open), std::move(isReady)) {}
+
+    Constant title;
+    Derived<std::string> detail{
+        fields, "detail", [this] { return filledIn_().value_or("Fill the passenger details"); }};
+    Derived<bool> isFilled{fields, "isFilled", [this] { return filledIn_().has_value(); }};
     Action<> tap;
 };
 
@@ -66,19 +75,30 @@ public:
     /// The form of a traveller is pushed, that of the line tapped last.
     Published<bool> travellerFormIsActive{fields, "travellerFormIsActive"};
 
-    Derived<std::string> contactTitle;
-    Derived<std::string> passengerTitle;
-    const std::shared_ptr<ContactLine> contactLine;
-    Rows rows;
+    Constant contactTitle{fields, "contactTitle", "Passenger Contact Details"};
+    Constant passengerTitle{fields, "passengerTitle", "Passenger Information"};
+    const std::shared_ptr<ContactLine> contactLine = std::make_shared<ContactLine>(
+        "ContactLine", "Emergency contact", [this] { return contactName(); },
+        [this] { contactFormIsActive = true; }, [this] { return !isLoading; });
+    Rows rows{*this,
+              "rows",
+              [this] { return uniquePassengersList->size(); },
+              [this](std::size_t index) { return makeLine(index); },
+              [this] { return identitiesOf(uniquePassengersList.get(), &UniquePassanger::id); }};
 
 private:
+    std::optional<std::string> contactName() const;
     std::optional<std::string> nameOf(const Uuid& slot) const;
+    std::shared_ptr<Screen> makeLine(std::size_t index);
+    std::shared_ptr<Screen> makeContactForm() const;
+    std::shared_ptr<Screen> makeTravellerForm() const;
 
     std::function<std::optional<TravelDates>()> travelDates_;
     std::size_t tapped_ = 0;
     Part contactLinePart_{*this, "contactLine", [this] { return contactLine; }};
-    Link contactForm_;
-    Link travellerForm_;
+    Link contactForm_{*this, Presentation::push, contactFormIsActive, [this] { return makeContactForm(); }};
+    Link travellerForm_{
+        *this, Presentation::push, travellerFormIsActive, [this] { return makeTravellerForm(); }};
 };
 
 } // namespace ombrivane

@@ -21,38 +21,29 @@ PaymentView::PaymentView(PaymentGiven given) :
                                     given.bookingDetailsViewRouteIsActive),
     errorMessage(fields, "errorMessage", given.errorMessage),
     showSnackBar(fields, "showSnackBar", given.showSnackBar),
-    buttonText(fields, "buttonText", std::move(given.buttonText)),
-    title(fields, "title", constant("Payment Confirmation")),
-    route(fields, "route",
-          [this] {
-              const auto& order = paymentSummary.get();
-              return order ? order->departureAirport + " - " + order->arrivalAirport
-                           : std::string("Kathmandu (KTM) - New York (JFK)");
-          }),
-    date(fields, "date",
-         [this] {
-             const auto& order = paymentSummary.get();
-             if (!order) return std::string("Thu, Jun 23, 2022 10:15");
-             return order->departureDate + (order->returnDate ? " - " + *order->returnDate : "");
-         }),
-    referenceLabel(fields, "referenceLabel", constant("Refrence ID")),
-    reference(fields, "reference",
-              [this] {
-                  const auto& order = paymentSummary.get();
-                  return order ? order->bookingReferenceID : std::string(sampleReference);
-              }),
-    amountLabel(fields, "amountLabel", constant("Amount")),
-    amount(fields, "amount",
-           [this] {
-               const auto& order = paymentSummary.get();
-               return order ? OfferFormat::price(order->currency, order->amount) : std::string("NPR 80,000");
-           }),
-    otpPlaceholder(fields, "otpPlaceholder", constant("Enter OTP")),
-    typeOtp(
-        *this, "typeOtp", [this](const std::string& text) { otpText = text; },
-        [this] { return !showProgressView; }),
-    button(
-        *this, "button", [this] { confirmOrder(); }, [this] { return !showProgressView; }) {}
+    buttonText(fields, "buttonText", std::move(given.buttonText)) {}
+
+std::string PaymentView::routeText() const {
+    const auto& order = paymentSummary.get();
+    return order ? order->departureAirport + " - " + order->arrivalAirport
+                 : "Kathmandu (KTM) - New York (JFK)";
+}
+
+std::string PaymentView::dateText() const {
+    const auto& order = paymentSummary.get();
+    if (!order) return "Thu, Jun 23, 2022 10:15";
+    return order->departureDate + (order->returnDate ? " - " + *order->returnDate : "");
+}
+
+std::string PaymentView::referenceText() const {
+    const auto& order = paymentSummary.get();
+    return order ? order->bookingReferenceID : sampleReference;
+}
+
+std::string PaymentView::amountText() const {
+    const auto& order = paymentSummary.get();
+    return order ? OfferFormat::price(order->currency, order->amount) : "NPR 80,000";
+}
 
 std::string PaymentView::bookingReferenceID() const {
     const auto& order = paymentSummary.get();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "records/FlightBooking.h"
@@ -41,21 +43,28 @@ public:
     Published<std::string> otpText{fields, "otpText"};
     Published<bool> showProgressView{fields, "showProgressView"};
 
-    Derived<std::string> title;
-    Derived<std::string> route;
-    Derived<std::string> date;
-    Derived<std::string> referenceLabel;
-    Derived<std::string> reference;
-    Derived<std::string> amountLabel;
-    Derived<std::string> amount;
-    Derived<std::string> otpPlaceholder;
-    Action<std::string> typeOtp;
-    Action<> button;
+    Constant title{fields, "title", "Payment Confirmation"};
+    Derived<std::string> route{fields, "route", [this] { return routeText(); }};
+    Derived<std::string> date{fields, "date", [this] { return dateText(); }};
+    Constant referenceLabel{fields, "referenceLabel", "Refrence ID"};
+    Derived<std::string> reference{fields, "reference", [this] { return referenceText(); }};
+    Constant amountLabel{fields, "amountLabel", "Amount"};
+    Derived<std::string> amount{fields, "amount", [this] { return amountText(); }};
+    Constant otpPlaceholder{fields, "otpPlaceholder", "Enter OTP"};
+    Action<std::string> typeOtp{*this,
+                                "typeOtp",
+                                [this](const std::string& text) { otpText = text; },
+                                [this] { return !showProgressView; }};
+    Action<> button{*this, "button", [this] { confirmOrder(); }, [this] { return !showProgressView; }};
 
 private:
     void generateOrder();
     void confirmOrder();
     void fail(const std::optional<Error>& error);
+    std::string routeText() const;
+    std::string dateText() const;
+    std::string referenceText() const;
+    std::string amountText() const;
     std::string bookingReferenceID() const;
     std::string transactionID() const;
 

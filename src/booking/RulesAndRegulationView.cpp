@@ -1,7 +1,6 @@
 #include "booking/RulesAndRegulationView.h"
 
-#include "booking/OWBookingDetailsView.h"
-#include "booking/RTBookingDetailsView.h"
+#include "booking/BookingDetailsView.h"
 #include "offers/CabinClass.h"
 #include "platform/OnMain.h"
 #include "richtext/FareRules.h"
@@ -23,37 +22,25 @@ RulesAndRegulationView::RulesAndRegulationView(Given given) :
     itineraryType(fields, "itineraryType", std::move(given.itineraryType)),
     flight(fields, "flight", std::move(given.flight)),
     returnFlight(fields, "returnFlight", std::move(given.returnFlight)),
-    paragraphs(fields, "paragraphs", [this] { return rules(); }),
-    cancel(
-        *this, "cancel", [this] { rulesAndRegulationViewIsActive = false; },
-        [this] { return !showProgressView; }),
-    continue_(
-        *this, "continue",
-        [this] {
-            const bool oneWay = itineraryType.get() == itineraryType::oneway;
-            (oneWay ? oneWayBookingDetailScreenIsActive : roundTripBookingDetailScreenIsActive) = true;
-        },
-        [this] { return !showProgressView; }),
-    completionCallback_(std::move(given.completionCallback)),
-    oneWaySession_(*this, Presentation::push, oneWayBookingDetailScreenIsActive,
-                   [this] {
-                       return std::make_shared<OWBookingDetailsView>(BookingGiven{itineraryType,
-                                                                                  flight,
-                                                                                  std::nullopt,
-                                                                                  cabinName(),
-                                                                                  departLocation,
-                                                                                  destLocation,
-                                                                                  completionCallback_});
-                   }),
-    roundTripSession_(*this, Presentation::push, roundTripBookingDetailScreenIsActive, [this] {
-        return std::make_shared<RTBookingDetailsView>(BookingGiven{itineraryType,
-                                                                   flight,
-                                                                   returnFlight,
-                                                                   cabinName(),
-                                                                   departLocation,
-                                                                   destLocation,
-                                                                   completionCallback_});
-    }) {}
+    completionCallback_(std::move(given.completionCallback)) {}
+
+void RulesAndRegulationView::proceed() {
+    const bool oneWay = itineraryType.get() == itineraryType::oneway;
+    (oneWay ? oneWayBookingDetailScreenIsActive : roundTripBookingDetailScreenIsActive) = true;
+}
+
+template <class Trip> std::shared_ptr<Screen> RulesAndRegulationView::makeSession() const {
+    // The return of a special round; one way has none, whatever was chosen before.
+    const bool returns = std::is_same_v<Trip, RoundTrip>;
+    return std::make_shared<BookingDetailsView<Trip>>(
+        BookingGiven{itineraryType,
+                     flight,
+                     returns ? returnFlight.get() : std::nullopt,
+                     cabinName(),
+                     departLocation,
+                     destLocation,
+                     completionCallback_});
+}
 
 /// Reading a long text takes longer than all else about showing it, and each change is read by many.
 const std::vector<RuleParagraph>& RulesAndRegulationView::rules() const {

@@ -1,17 +1,19 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
 #include "records/KeyedRecords.h"
 #include "richtext/KeyedRuleParagraph.h"
-#include "services/OWRestrictionProvider.h"
-#include "services/RTRestrictionProvider.h"
+#include "services/RestrictionProvider.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,18 +56,23 @@ public:
     /// The height that the drawn text needs, in points, told by the view.
     Published<double> size{fields, "size", 0.0};
 
-    Derived<std::string> title{fields, "title", [] { return std::string("Rules & Regulations"); }};
+    Constant title{fields, "title", "Rules & Regulations"};
     /// The rules reduced to plain paragraphs.
-    Derived<std::vector<RuleParagraph>> paragraphs;
-    Derived<std::string> cancelText{fields, "cancelText", [] { return std::string("Cancel"); }};
-    Derived<std::string> continueText{fields, "continueText", [] { return std::string("Continue"); }};
+    Derived<std::vector<RuleParagraph>> paragraphs{fields, "paragraphs", [this] { return rules(); }};
+    Constant cancelText{fields, "cancelText", "Cancel"};
+    Constant continueText{fields, "continueText", "Continue"};
     Action<double> measured{*this, "measured", [this](double height) { size = height; }};
-    Action<> cancel;
-    Action<> continue_;
+    Action<> cancel{*this,
+                    "cancel",
+                    [this] { rulesAndRegulationViewIsActive = false; },
+                    [this] { return !showProgressView; }};
+    Action<> continue_{*this, "continue", [this] { proceed(); }, [this] { return !showProgressView; }};
 
 private:
     void fetch();
     void take(std::optional<std::string> message, const std::optional<Error>& error);
+    void proceed();
+    template <class Trip> std::shared_ptr<Screen> makeSession() const;
     std::string cabinName() const;
     const std::vector<RuleParagraph>& rules() const;
 
@@ -76,8 +83,12 @@ private:
     mutable std::vector<RuleParagraph> rules_;
     mutable std::uint64_t rulesVersion_ = UINT64_MAX;
     CustomSnackBarView snackBar_{showSnackBar};
-    Link oneWaySession_;
-    Link roundTripSession_;
+    Link oneWaySession_{*this, Presentation::push, oneWayBookingDetailScreenIsActive, [this] {
+                            return makeSession<OneWay>();
+                        }};
+    Link roundTripSession_{*this, Presentation::push, roundTripBookingDetailScreenIsActive, [this] {
+                               return makeSession<RoundTrip>();
+                           }};
 };
 
 } // namespace ombrivane

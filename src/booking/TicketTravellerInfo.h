@@ -1,6 +1,6 @@
 #pragma once
 
-#include "keyed/Keyed.h"
+#include "keyed/Shown.h"
 
 #include <string>
 #include <vector>
@@ -15,6 +15,11 @@ struct TicketTravellerInfo {
     std::string rightSubTitle;
 
     bool operator==(const TicketTravellerInfo&) const = default;
+
+    static constexpr auto shown = table(entry("leftTitle", &TicketTravellerInfo::leftTitle),
+                                        entry("leftSubTitle", &TicketTravellerInfo::leftSubTitle),
+                                        entry("rightTitle", &TicketTravellerInfo::rightTitle),
+                                        entry("rightSubTitle", &TicketTravellerInfo::rightSubTitle));
 };
 
 /// The block of one passenger.
@@ -24,6 +29,10 @@ struct TicketPassengerBlock {
     std::vector<TicketTravellerInfo> lines;
 
     bool operator==(const TicketPassengerBlock&) const = default;
+
+    static constexpr auto shown =
+        table(entry("title", &TicketPassengerBlock::title), entry("name", &TicketPassengerBlock::name),
+              entry("lines", &TicketPassengerBlock::lines));
 };
 
 /// The block of one journey.
@@ -38,32 +47,13 @@ struct TicketFlightBlock {
     std::string checkIn;
 
     bool operator==(const TicketFlightBlock&) const = default;
-};
 
-template <> struct Keyed<TicketPassengerBlock> {
-    static Json toJson(const TicketPassengerBlock& block) {
-        Json lines = Json::array();
-        for (const auto& line : block.lines) {
-            lines.push_back(Json{{"leftTitle", line.leftTitle},
-                                 {"leftSubTitle", line.leftSubTitle},
-                                 {"rightTitle", line.rightTitle},
-                                 {"rightSubTitle", line.rightSubTitle}});
-        }
-        return Json{{"title", block.title}, {"name", block.name}, {"lines", lines}};
-    }
-};
-
-template <> struct Keyed<TicketFlightBlock> {
-    static Json toJson(const TicketFlightBlock& block) {
-        return Json{{"title", block.title},
-                    {"departureCity", block.departureCity},
-                    {"departureTime", block.departureTime},
-                    {"arrivalCity", block.arrivalCity},
-                    {"arrivalTime", block.arrivalTime},
-                    {"date", block.date},
-                    {"cabin", block.cabin},
-                    {"checkIn", block.checkIn}};
-    }
+    static constexpr auto shown = table(
+        entry("title", &TicketFlightBlock::title), entry("departureCity", &TicketFlightBlock::departureCity),
+        entry("departureTime", &TicketFlightBlock::departureTime),
+        entry("arrivalCity", &TicketFlightBlock::arrivalCity),
+        entry("arrivalTime", &TicketFlightBlock::arrivalTime), entry("date", &TicketFlightBlock::date),
+        entry("cabin", &TicketFlightBlock::cabin), entry("checkIn", &TicketFlightBlock::checkIn));
 };
 
 } // namespace ombrivane

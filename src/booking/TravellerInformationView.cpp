@@ -35,10 +35,6 @@ std::string capitalised(std::string text) {
     return text;
 }
 
-std::string shownDate(const std::optional<Day>& date) {
-    return date ? formatDay(*date, dayPattern::form) : "";
-}
-
 Day pickedDate(const std::string& text) {
     const auto day = Day::parse(text);
     if (!day) throw KeyedError("wants a day such as \"2026-11-21\"");
@@ -47,15 +43,6 @@ Day pickedDate(const std::string& text) {
 
 } // namespace
 
-DocumentTypeTile::DocumentTypeTile(const std::string& wireCode, const Field<std::string>& chosen,
-                                   std::function<bool()> isShown) :
-    Screen("DocumentTypeTile"),
-    label(fields, "label", [wireCode] { return documentLabel(wireCode); }),
-    isSelected(fields, "isSelected", [this, wireCode] { return documentType.get() == wireCode; }),
-    tap(
-        *this, "tap", [this, wireCode] { documentType = wireCode; }, std::move(isShown)),
-    documentType(fields, "documentType", chosen) {}
-
 TravellerInformationView::TravellerInformationView(TravellerGiven given) :
     Screen("TravellerInformationView"),
     uuid(fields, "uuid", given.uuid),
@@ -63,67 +50,39 @@ TravellerInformationView::TravellerInformationView(TravellerGiven given) :
     allowedDocuments(fields, "allowedDocuments", std::move(given.allowedDocuments)),
     documentsRequired(fields, "documentsRequired", given.documentsRequired),
     passengersList(fields, "passengersList", given.passengersList),
-    documentList(fields, "documentList", given.documentList),
-    minPpDate(fields, "minPpDate"),
-    minDOB(fields, "minDOB"),
-    title(fields, "title", constant("Traveller Information")),
-    message(fields, "message", constant("Please fill the marked fields.")),
-    saveText(fields, "saveText", constant("Save Details")),
-    nationality(fields, "nationality", [this] { return TIVM.nationality.get(); }),
-    dateOfBirthText(fields, "dateOfBirthText", [this] { return shownDate(TIVM.dateOfBirth); }),
-    expiryDateText(fields, "expiryDateText", [this] { return shownDate(TIVM.expiryDate); }),
-    showsDocuments(fields, "showsDocuments", [this] { return documentsRequired.get(); }),
-    showsExpiryDate(fields, "showsExpiryDate",
-                    [this] { return documentsRequired && TIVM.documentType.get() == passportType; }),
-    latestDateOfBirth(fields, "latestDateOfBirth", [] { return calendar::today(); }),
-    nameColor(fields, "nameColor", [this] { return TIVM.nameColor(); }),
-    surnameColor(fields, "surnameColor", [this] { return TIVM.surnameColor(); }),
-    emailColor(fields, "emailColor", [this] { return TIVM.emailColor(); }),
-    dateOfBirthColor(fields, "dateOfBirthColor", [this] { return TIVM.dateOfBirthColor(); }),
-    documentNumberColor(fields, "documentNumberColor", [this] { return TIVM.documentNumberColor(); }),
-    expiryDateColor(fields, "expiryDateColor", [this] { return TIVM.expiryDateColor(); }),
-    documentImageColor(fields, "documentImageColor", [this] { return TIVM.documentImageColor(); }),
-    documentTypes(
-        *this, "documentTypes", [this] { return allowedDocuments->size(); },
-        [this](std::size_t index) {
-            return std::make_shared<DocumentTypeTile>(
-                allowedDocuments->at(index), TIVM.documentType, [this] { return documentsRequired.get(); });
-        }),
-    typeName(*this, "typeName", [this](const std::string& text) { TIVM.name = text; }),
-    typeSurname(*this, "typeSurname", [this](const std::string& text) { TIVM.surname = text; }),
-    typeEmail(*this, "typeEmail", [this](const std::string& text) { TIVM.email = text; }),
-    typeDocumentNumber(
-        *this, "typeDocumentNumber", [this](const std::string& text) { TIVM.documentNumber = text; },
-        [this] { return showsDocuments.get(); }),
-    chooseGender(*this, "chooseGender",
-                 [this](const std::string& choice) {
-                     if (choice == "Male" || choice == "Female") TIVM.gender = choice;
-                 }),
-    pickDateOfBirth(*this, "pickDateOfBirth",
-                    [this](const std::string& day) {
-                        const Day born = pickedDate(day);
-                        if (born >= minDOB && born <= latestDateOfBirth.get()) TIVM.dateOfBirth = born;
-                    }),
-    pickExpiryDate(
-        *this, "pickExpiryDate",
-        [this](const std::string& day) {
-            const Day expires = pickedDate(day);
-            if (expires >= minPpDate) TIVM.expiryDate = expires;
-        },
-        [this] { return showsExpiryDate.get(); }),
-    openPhotoPicker(
-        *this, "openPhotoPicker", [this] { TIVM.isShowingPhotoPicker = true; },
-        [this] { return showsDocuments.get(); }),
-    close(*this, "close", [this] { dismiss(); }),
-    save(*this, "save", [this] { saveDetails(); }),
-    model_(fields, "TIVM", TIVM.fields),
-    photoPicker_(*this, Presentation::sheet, TIVM.isShowingPhotoPicker,
-                 [this] { return std::make_shared<PhotoPicker>(TIVM.documentImage); }) {
+    documentList(fields, "documentList", given.documentList) {
     setLimits(given.travelDates);
     TIVM.documentType = allowedDocuments->empty() ? std::string() : allowedDocuments->front();
     TIVM.type = given.type;
     TIVM.documentsRequired = given.documentsRequired;
     TIVM.nationality = AppState::shared().nationalityText.get();
+}
+
+std::string TravellerInformationView::shownDate(const std::optional<Day>& date) {
+    return date ? formatDay(*date, dayPattern::form) : "";
+}
+
+std::shared_ptr<Screen> TravellerInformationView::makeTile(std::size_t index) {
+    return std::make_shared<DocumentTypeTile>(
+        allowedDocuments->at(index), TIVM.documentType, [this] { return documentsRequired.get(); });
+}
+
+std::shared_ptr<Screen> TravellerInformationView::makePhotoPicker() {
+    return std::make_shared<PhotoPicker>(TIVM.documentImage);
+}
+
+void TravellerInformationView::takeGender(const std::string& choice) {
+    if (choice == "Male" || choice == "Female") TIVM.gender = choice;
+}
+
+void TravellerInformationView::takeDateOfBirth(const std::string& day) {
+    const Day born = pickedDate(day);
+    if (born >= minDOB && born <= latestDateOfBirth.get()) TIVM.dateOfBirth = born;
+}
+
+void TravellerInformationView::takeExpiryDate(const std::string& day) {
+    const Day expires = pickedDate(day);
+    if (expires >= minPpDate) TIVM.expiryDate = expires;
 }
 
 void TravellerInformationView::setLimits(const std::optional<TravelDates>& dates) {
@@ -132,19 +91,10 @@ void TravellerInformationView::setLimits(const std::optional<TravelDates>& dates
     minPpDate = held.first.plusMonths(passportMonths);
 }
 
-std::optional<std::size_t> TravellerInformationView::position() const {
-    const auto& list = passengersList.get();
-    const auto found = std::find_if(
-        list.begin(), list.end(), [this](const Passenger& passenger) { return passenger.id == uuid.get(); });
-    if (found == list.end()) return std::nullopt;
-    return static_cast<std::size_t>(found - list.begin());
-}
-
 void TravellerInformationView::load() {
-    const auto saved = position();
+    const auto saved = travellers_.position(uuid);
     if (!saved) return;
     const Passenger& passenger = passengersList->at(*saved);
-    const auto& documents = documentList.get();
     TIVM.name = passenger.firstName;
     TIVM.surname = passenger.lastName;
     TIVM.email = passenger.email;
@@ -153,7 +103,7 @@ void TravellerInformationView::load() {
     TIVM.documentType = passenger.documentType;
     TIVM.documentNumber = passenger.documentNumber.value_or("");
     TIVM.expiryDate = Day::parse(passenger.documentExpiryDate.value_or(""));
-    TIVM.documentImage = *saved < documents.size() ? documents.at(*saved) : std::nullopt;
+    TIVM.documentImage = travellers_.document(*saved);
 }
 
 Passenger TravellerInformationView::compose() const {
@@ -178,25 +128,7 @@ void TravellerInformationView::saveDetails() {
         TIVM.showSnackBar = true;
         return;
     }
-    auto passengers = passengersList.get();
-    auto documents = documentList.get();
-    if (const auto saved = position()) {
-        passengers.at(*saved) = compose();
-        if (documents.empty()) {
-            documents.push_back(TIVM.documentImage);
-        } else {
-            documents.resize(std::max(documents.size(), *saved + 1));
-            documents.at(*saved) = TIVM.documentImage;
-        }
-    } else {
-        // A passenger written by the contact form has no entry among the documents: each position of one list
-        // belongs to the same position of the other.
-        documents.resize(std::max(documents.size(), passengers.size()));
-        passengers.push_back(compose());
-        documents.push_back(TIVM.documentImage);
-    }
-    passengersList = std::move(passengers);
-    documentList = std::move(documents);
+    travellers_.put(compose(), TIVM.documentImage);
     dismiss();
 }
 

@@ -7,16 +7,14 @@
 #include "services/AuthenticationProvider.h"
 #include "services/CountryProvider.h"
 #include "services/DownloadTicketProvider.h"
+#include "services/FlightAvailabilityProvider.h"
 #include "services/FlightBookingProvider.h"
 #include "services/FlightSearchOneWayProvider.h"
 #include "services/FlightSearchRoundTripProvider.h"
 #include "services/FlightTicketingProvider.h"
-#include "services/OWFlightAvailabilityProvider.h"
-#include "services/OWRestrictionProvider.h"
 #include "services/PassengerDocumentsProvider.h"
 #include "services/PaymentProvider.h"
-#include "services/RTFlightAvailabilityProvider.h"
-#include "services/RTRestrictionProvider.h"
+#include "services/RestrictionProvider.h"
 
 namespace ombrivane {
 namespace {

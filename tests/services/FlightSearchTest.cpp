@@ -1,6 +1,6 @@
+#include "services/FlightAvailabilityProvider.h"
 #include "services/FlightSearchOneWayProvider.h"
 #include "services/FlightSearchRoundTripProvider.h"
-#include "services/OWFlightAvailabilityProvider.h"
 #include "services/Outcome.h"
 #include "services/ServiceFixture.h"
 

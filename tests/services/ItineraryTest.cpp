@@ -1,9 +1,7 @@
 #include "services/ClientCall.h"
+#include "services/FlightAvailabilityProvider.h"
 #include "services/FlightsSummarySlots.h"
-#include "services/OWFlightAvailabilityProvider.h"
-#include "services/OWRestrictionProvider.h"
-#include "services/RTFlightAvailabilityProvider.h"
-#include "services/RTRestrictionProvider.h"
+#include "services/RestrictionProvider.h"
 #include "services/ServiceFixture.h"
 
 namespace ombrivane {

@@ -1,6 +1,6 @@
 #include "services/ClientCall.h"
+#include "services/FlightAvailabilityProvider.h"
 #include "services/FlightSearchOneWayProvider.h"
-#include "services/OWFlightAvailabilityProvider.h"
 #include "services/ServiceFixture.h"
 
 namespace ombrivane {
