@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
@@ -19,11 +20,8 @@ public:
         button(*this, "button", std::move(callback)) {}
 
     Published<bool> filtered;
-    Derived<std::string> title{fields, "title", [] { return std::string("We’re Sorry"); }};
-    Derived<std::string> text{
-        fields, "text", [] {
-            return std::string("No flight found for the selected dates ! Kindly choose different date.");
-        }};
+    Constant title{fields, "title", "We’re Sorry"};
+    Constant text{fields, "text", "No flight found for the selected dates ! Kindly choose different date."};
     Derived<std::string> buttonText{
         fields, "buttonText", [this] { return std::string(filtered ? "Modify Filter" : "Modify Search"); }};
     Action<> button;
@@ -34,12 +32,10 @@ class NoInternetConnectionView final : public Screen {
 public:
     NoInternetConnectionView() : Screen("NoInternetConnectionView") {}
 
-    Derived<std::string> title{fields, "title", [] { return std::string("We Lost You!"); }};
-    Derived<std::string> text{fields, "text", [] {
-                                  return std::string(
-                                      "No internet connection. Make sure wifi or cellular data is "
-                                      "turned on and then try again.");
-                              }};
+    Constant title{fields, "title", "We Lost You!"};
+    Constant text{fields,
+                  "text",
+                  "No internet connection. Make sure wifi or cellular data is turned on and then try again."};
 };
 
 } // namespace ombrivane

@@ -1,6 +1,5 @@
 #include "results/ResultsModel.h"
 
-#include "dates/Calendar.h"
 #include "dates/DateFormatter.h"
 #include "services/FlightQuery.h"
 #include "services/ItineraryType.h"
@@ -36,11 +35,6 @@ std::string counted(const std::string& before, const std::string& count, const c
 }
 
 } // namespace
-
-ResultsModel::ResultsModel() {
-    departDate = calendar::today();
-    returnDate = calendar::today();
-}
 
 std::string ResultsModel::formatHeaderSubtitle(std::optional<Day> departure, std::optional<Day> returning,
                                                const std::string& adults, const std::string& children,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dates/Calendar.h"
 #include "dates/Day.h"
 #include "keyed/Field.h"
 #include "records/KeyedRecords.h"
@@ -12,8 +13,6 @@ namespace ombrivane {
 /// What the two result models have in common. A random UUID in a selection field means "nothing chosen".
 class ResultsModel {
 public:
-    ResultsModel();
-
     /// The line under the route: dates and travellers, as `Thu, Jun 23, 2022 - Sat, Jun 25, 2022 | 2A, 1C`.
     /// The return date counts only in round-trip mode. A count that is no number is a fault.
     std::string formatHeaderSubtitle(std::optional<Day> departure, std::optional<Day> returning,
@@ -36,8 +35,8 @@ public:
     Published<bool> showContinueButton{fields, "showContinueButton"};
     Published<bool> noInternetConnection{fields, "noInternetConnection"};
     Published<bool> flightsListIsEmpty{fields, "flightsListIsEmpty"};
-    Published<Day> departDate{fields, "departDate"};
-    Published<Day> returnDate{fields, "returnDate"};
+    Published<Day> departDate{fields, "departDate", calendar::today()};
+    Published<Day> returnDate{fields, "returnDate", calendar::today()};
     Published<std::string> returnDateText{fields, "returnDateText"};
     Published<OneWayOffers> onewayFlights{fields, "onewayFlights"};
     Published<OneWayOffers> filteredOnewayFlights{fields, "filteredOnewayFlights"};
