@@ -15,18 +15,6 @@ namespace ombrivane {
 namespace {
 
 constexpr std::int64_t dearest = 10'000'000;
-constexpr const char* allAirlines = "All Airlines";
-
-/// A list has few airlines, so that three bytes part most of them, in less time than hashing all of a name.
-struct NameHash {
-    std::size_t operator()(std::string_view name) const {
-        if (name.empty()) return 0;
-        const auto byte = [name](std::size_t at) -> std::size_t {
-            return static_cast<unsigned char>(name[at]);
-        };
-        return 131 * name.size() + 17 * byte(name.size() / 2) + byte(name.size() - 1);
-    }
-};
 
 } // namespace
 
@@ -56,7 +44,7 @@ void FilterBottomSheetViewModel::collectAirlines() {
     // First where each name stands, then the comparing: the reads of ten thousand records do not wait for it.
     std::vector<std::string_view> all;
     visitOffers([&](const auto& offer) { all.push_back(outbound(offer).carrierName); });
-    std::unordered_set<std::string_view, NameHash> seen;
+    std::unordered_set<std::string_view> seen;
     std::vector<std::string> names;
     for (const std::string_view name : all) {
         if (seen.insert(name).second) names.emplace_back(name);
