@@ -1,12 +1,17 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
 #include "results/FilterBottomSheetViewModel.h"
+#include "results/TimeBucket.h"
 
+#include <algorithm>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace ombrivane {
@@ -25,15 +30,19 @@ struct FilterBindings {
 
 /// One of the four choices of a departure time.
 class TimeCardView final : public Screen {
-public:
-    TimeCardView(std::size_t bucket, const Field<std::string>& chosenTime);
+private:
+    const TimeBucket bucket_;
 
-    Derived<std::string> iconName;
-    Derived<std::string> title;
-    Derived<std::string> subTitle;
-    Derived<std::string> value;
-    Derived<bool> isSelected;
-    Action<> tap;
+public:
+    TimeCardView(const TimeBucket& bucket, const Field<std::string>& chosenTime) :
+        Screen("TimeCardView"), bucket_(bucket), time(fields, "time", chosenTime) {}
+
+    Constant iconName{fields, "iconName", bucket_.icon};
+    Constant title{fields, "title", bucket_.title};
+    Constant subTitle{fields, "subTitle", bucket_.label};
+    Constant value{fields, "value", bucket_.key};
+    Derived<bool> isSelected{fields, "isSelected", [this] { return time.get() == value.get(); }};
+    Action<> tap{*this, "tap", [this] { time = value.get(); }};
 
 private:
     Binding<std::string> time;
@@ -58,26 +67,44 @@ public:
     Binding<std::string> time;
     FilterBottomSheetViewModel FBSVM;
 
-    Derived<std::string> title;
-    Derived<std::string> resetText;
-    Derived<std::string> priceTitle;
-    Derived<std::string> priceRange;
-    Derived<std::string> chosenPrice;
-    Derived<double> minPrice;
-    Derived<double> maxPrice;
-    Derived<std::string> airlinesTitle;
-    Derived<std::string> timeTitle;
-    Derived<std::string> applyText;
+    Constant title{fields, "title", "Search Filter"};
+    Constant resetText{fields, "resetText", "Reset All"};
+    Constant priceTitle{fields, "priceTitle", "Price"};
+    Derived<std::string> priceRange{fields, "priceRange", [this] { return describeRange(); }};
+    Derived<std::string> chosenPrice{
+        fields, "chosenPrice", [this] { return priceText(price, "the filter's price"); }};
+    Derived<double> minPrice{fields, "minPrice", [this] { return FBSVM.minPrice.get(); }};
+    Derived<double> maxPrice{fields, "maxPrice", [this] { return FBSVM.maxPrice.get(); }};
+    Constant airlinesTitle{fields, "airlinesTitle", "Airlines"};
+    Constant timeTitle{fields, "timeTitle", "Time"};
+    Constant applyText{fields, "applyText", "Apply Filter"};
     /// "All Airlines", then the airlines of the list.
-    Rows airlines;
-    Rows times;
+    Rows airlines{*this,
+                  "airlines",
+                  [this] { return FBSVM.airLines->size() + 1; },
+                  [this](std::size_t index) { return makeAirline(index); }};
+    Rows times{
+        *this,
+        "times",
+        [] { return timeBuckets.size(); },
+        [this](std::size_t index) { return std::make_shared<TimeCardView>(timeBuckets.at(index), time); }};
     /// The customer moved the slider.
-    Action<double> slide;
-    Action<> resetAll;
-    Action<> apply;
+    Action<double> slide{
+        *this, "slide", [this](double value) { price = std::clamp(value, minPrice.get(), maxPrice.get()); }};
+    Action<> resetAll{*this, "resetAll", [this] {
+                          time = "";
+                          selectedId = FilterBottomSheetViewModel::allAirlines;
+                          price = FBSVM.maxPrice.get();
+                      }};
+    Action<> apply{*this, "apply", [this] { applyChoices(); }};
 
 private:
-    Model model_;
+    std::string describeRange() const;
+    std::string priceText(double amount, const char* what) const;
+    std::shared_ptr<Screen> makeAirline(std::size_t index);
+    void applyChoices();
+
+    Model model_{fields, "FBSVM", FBSVM.fields};
     std::function<void()> callback_;
 };
 
