@@ -1,13 +1,16 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Screen.h"
 #include "offers/OfferLines.h"
 #include "results/OfferSelection.h"
 
-#include <memory>
+#include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ombrivane {
@@ -34,22 +37,35 @@ public:
     /// @param lines what the card shows, folded
     /// @param unfoldedLines makes the lines with their segments, when they are shown
     OfferItemView(const char* itemName, std::optional<AnyFlight> offer, OfferLines lines,
-                  std::function<OfferLines()> unfoldedLines, const OfferSelection& selection);
+                  std::function<OfferLines()> unfoldedLines, const OfferSelection& selection) :
+        Screen(itemName),
+        offer_(std::move(offer)),
+        lines_(std::move(lines)),
+        unfoldedLines_(std::move(unfoldedLines)),
+        selection_(selection) {}
 
-    Derived<bool> isPlaceholder;
-    Derived<std::string> id;
-    Derived<std::string> price;
-    Derived<std::vector<JourneyLines>> journeys;
-    Derived<bool> isChosen;
-    Derived<bool> isUnfolded;
-    Derived<std::string> detailsText;
+    Derived<bool> isPlaceholder{fields, "isPlaceholder", [this] { return !offer_; }};
+    Derived<std::string> id{fields, "id", [this] { return offer_ ? offer_->id().text() : std::string(); }};
+    Derived<std::string> price{fields, "price", [this] { return lines_.price; }};
+    Derived<std::vector<JourneyLines>> journeys{fields, "journeys", [this] {
+                                                    return isUnfolded.get() ? unfoldedLines_().journeys
+                                                                            : lines_.journeys;
+                                                }};
+    Derived<bool> isChosen{fields, "isChosen", [this] {
+                               return offer_ && selection_.selectedFlightSegmentId.get() == offer_->id();
+                           }};
+    Derived<bool> isUnfolded{fields, "isUnfolded", [this] {
+                                 return offer_ && selection_.showSegmant &&
+                                        selection_.displayedSegmentId.get() == offer_->id();
+                             }};
+    Constant detailsText{fields, "detailsText", "View Details"};
     /// Chooses the offer and unfolds its segments, or takes both back.
-    Action<> tap;
+    Action<> tap{*this, "tap", [this] { selection_.tap(*offer_); }, [this] { return offer_.has_value(); }};
 
 private:
-    std::optional<AnyFlight> offer_;
-    OfferLines lines_;
-    std::function<OfferLines()> unfoldedLines_;
+    const std::optional<AnyFlight> offer_;
+    const OfferLines lines_;
+    const std::function<OfferLines()> unfoldedLines_;
     OfferSelection selection_;
 };
 
@@ -57,11 +73,16 @@ private:
 class OfferCardView final : public Screen {
 public:
     OfferCardView(const char* cardName, std::string logo, std::string carrier, std::string priceText,
-                  std::function<void()> run);
+                  std::function<void()> run) :
+        Screen(cardName),
+        carrierLogo(fields, "carrierLogo", std::move(logo)),
+        carrierName(fields, "carrierName", std::move(carrier)),
+        price(fields, "price", std::move(priceText)),
+        tap(*this, "tap", std::move(run)) {}
 
-    Derived<std::string> carrierLogo;
-    Derived<std::string> carrierName;
-    Derived<std::string> price;
+    Constant carrierLogo;
+    Constant carrierName;
+    Constant price;
     Action<> tap;
 };
 

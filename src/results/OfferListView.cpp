@@ -7,50 +7,34 @@
 #include <utility>
 
 namespace ombrivane {
-namespace {
 
-/// As many as fill a tall phone.
-constexpr std::size_t placeholderCount = 6;
+template <class Traits>
+OfferListView<Traits>::OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings,
+                                     std::string titleText, bool withStrip) :
+    Screen(Traits::list),
+    selection_(bindings.selection),
+    offers(fields, Traits::journeys == 1 ? "onewayFlights" : "roundtripFlights", shown),
+    isLoading(fields, "isLoading", bindings.isLoading),
+    scrollToTop(fields, "scrollToTop", bindings.scrollToTop),
+    title(fields, "title", std::move(titleText)),
+    withStrip_(withStrip) {}
 
-std::vector<RowIdentity> placeholders() {
+template <class Traits> std::vector<RowIdentity> OfferListView<Traits>::placeholders() {
     std::vector<RowIdentity> identities;
     for (std::size_t index = 0; index < placeholderCount; ++index)
         identities.emplace_back("placeholder" + std::to_string(index));
     return identities;
 }
 
-} // namespace
+template <class Traits> std::size_t OfferListView<Traits>::countCards() const {
+    if (!withStrip_) return 0;
+    return isLoading ? placeholderCount : stripOffers().size();
+}
 
-template <class Traits>
-OfferListView<Traits>::OfferListView(const Field<Offers>& shown, OfferListBindings bindings,
-                                     std::string titleText, bool withStrip) :
-    Screen(Traits::list),
-    offers(fields, Traits::journeys == 1 ? "onewayFlights" : "roundtripFlights", shown),
-    isLoading(fields, "isLoading", bindings.isLoading),
-    scrollToTop(fields, "scrollToTop", bindings.scrollToTop),
-    showContinueButton(fields, "showContinueButton", bindings.selection.showContinueButton),
-    displayedSegmentId(fields, "displayedSegmentId", bindings.selection.displayedSegmentId),
-    selectedFlightSegmentId(fields, "selectedFlightSegmentId", bindings.selection.selectedFlightSegmentId),
-    flightSelected(fields, "flightSelected", bindings.selection.flightSelected),
-    showSegmant(fields, "showSegmant", bindings.selection.showSegmant),
-    title(fields, "title", std::move(titleText)),
-    rows(
-        *this, "rows", [this] { return isLoading ? placeholderCount : offers->size(); },
-        [this](std::size_t index) { return makeRow(index); },
-        [this] { return isLoading ? placeholders() : identitiesOf(offers.get(), &Offer::id); }),
-    strip(
-        *this, "strip",
-        [this] {
-            if (!withStrip_) return std::size_t{0};
-            return isLoading ? placeholderCount : stripOffers().size();
-        },
-        [this](std::size_t index) { return makeCard(index); },
-        [this] {
-            if (!withStrip_) return std::vector<RowIdentity>();
-            return isLoading ? placeholders() : identitiesOf(stripOffers(), &Offer::id);
-        }),
-    selection_(bindings.selection),
-    withStrip_(withStrip) {}
+template <class Traits> std::vector<RowIdentity> OfferListView<Traits>::identifyCards() const {
+    if (!withStrip_) return {};
+    return isLoading ? placeholders() : identitiesOf(stripOffers(), &Offer::id);
+}
 
 template <class Traits>
 const typename OfferListView<Traits>::Offers& OfferListView<Traits>::stripOffers() const {
