@@ -7,10 +7,6 @@ namespace ombrivane {
 namespace {
 
 constexpr const char* insufficientFund = "You don't have sufficient fund.";
-constexpr const char* departing = "Departing Flights";
-constexpr const char* returning = "Returning Flights";
-constexpr int departureTab = 0;
-constexpr int returnTab = 1;
 
 } // namespace
 
@@ -24,24 +20,16 @@ DomesticFlightListView::DomesticFlightListView(SearchRequest searchRequest,
                                                CompletionCallback completionCallback) :
     ResultsScreen("DomesticFlightListView", "flightListVM", std::move(searchRequest), viewModel,
                   insufficientFund, std::move(completionCallback)),
-    flightListVM(*viewModel),
-    showsTabs(fields, "showsTabs", [this] { return flightListVM.hasReturnDate.get(); }),
-    departingTitle(fields, "departingTitle", [] { return std::string(departing); }),
-    returningTitle(fields, "returningTitle", [] { return std::string(returning); }),
-    tapDepartingFlights(
-        *this, "tapDepartingFlights", [this] { flightListVM.index = departureTab; },
-        [this] { return showsTabs.get(); }),
-    tapReturningFlights(
-        *this, "tapReturningFlights", [this] { tapReturnTab(); }, [this] { return showsTabs.get(); }),
-    oneWayList_(makeList(flightListVM.filteredOnewayFlights, oneWaySelection(), departing)),
-    departureList_(makeList(flightListVM.filteredDepartureFlights, departureSelection(), departing)),
-    returnList_(makeList(flightListVM.filteredReturnFlights, returnSelection(), returning)) {}
+    flightListVM(*viewModel) {}
 
 std::shared_ptr<OneWayFlightListView> DomesticFlightListView::makeList(const Field<OneWayOffers>& shown,
                                                                        const OfferSelection& selection,
-                                                                       const char* title) {
+                                                                       const Constant& title) {
     return std::make_shared<OneWayFlightListView>(
-        shown, OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection}, title, true);
+        shown,
+        OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection},
+        title.get(),
+        true);
 }
 
 OfferSelection DomesticFlightListView::oneWaySelection() {

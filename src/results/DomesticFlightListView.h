@@ -1,5 +1,6 @@
 #pragma once
 
+#include "keyed/Constant.h"
 #include "results/DomesticFlightListViewModel.h"
 #include "results/ResultsScreen.h"
 #include "services/FlightSearchOneWayProvider.h"
@@ -16,11 +17,15 @@ public:
     DomesticFlightListViewModel& flightListVM;
     Published<bool> showDepartureFlightSegmant{fields, "showDepartureFlightSegmant"};
     Published<bool> showReturnFlightSegmant{fields, "showReturnFlightSegmant"};
-    Derived<bool> showsTabs;
-    Derived<std::string> departingTitle;
-    Derived<std::string> returningTitle;
-    Action<> tapDepartingFlights;
-    Action<> tapReturningFlights;
+    Derived<bool> showsTabs{fields, "showsTabs", [this] { return flightListVM.hasReturnDate.get(); }};
+    Constant departingTitle{fields, "departingTitle", "Departing Flights"};
+    Constant returningTitle{fields, "returningTitle", "Returning Flights"};
+    Action<> tapDepartingFlights{*this,
+                                 "tapDepartingFlights",
+                                 [this] { flightListVM.index = departureTab; },
+                                 [this] { return showsTabs.get(); }};
+    Action<> tapReturningFlights{
+        *this, "tapReturningFlights", [this] { tapReturnTab(); }, [this] { return showsTabs.get(); }};
 
 protected:
     void clearForSearch() override;
@@ -35,10 +40,14 @@ protected:
     void proceed() override;
 
 private:
+    /// The open tab, as `index` of the model tells it.
+    static constexpr int departureTab = 0;
+    static constexpr int returnTab = 1;
+
     DomesticFlightListView(SearchRequest request, const std::shared_ptr<DomesticFlightListViewModel>& model,
                            CompletionCallback completionCallback);
     std::shared_ptr<OneWayFlightListView> makeList(const Field<OneWayOffers>& shown,
-                                                   const OfferSelection& selection, const char* title);
+                                                   const OfferSelection& selection, const Constant& title);
     OfferSelection oneWaySelection();
     OfferSelection departureSelection();
     OfferSelection returnSelection();
@@ -50,9 +59,12 @@ private:
     /// The return list chooses without a word to the Continue button, which the departure offer shows.
     Fields unkeyed_;
     Published<bool> noContinueButton_{unkeyed_, "showContinueButton"};
-    std::shared_ptr<OneWayFlightListView> oneWayList_;
-    std::shared_ptr<OneWayFlightListView> departureList_;
-    std::shared_ptr<OneWayFlightListView> returnList_;
+    std::shared_ptr<OneWayFlightListView> oneWayList_ =
+        makeList(flightListVM.filteredOnewayFlights, oneWaySelection(), departingTitle);
+    std::shared_ptr<OneWayFlightListView> departureList_ =
+        makeList(flightListVM.filteredDepartureFlights, departureSelection(), departingTitle);
+    std::shared_ptr<OneWayFlightListView> returnList_ =
+        makeList(flightListVM.filteredReturnFlights, returnSelection(), returningTitle);
 };
 
 } // namespace ombrivane

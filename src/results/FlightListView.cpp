@@ -19,15 +19,7 @@ FlightListView::FlightListView(SearchRequest searchRequest,
                                CompletionCallback completionCallback) :
     ResultsScreen("FlightListView", "flightListVM", std::move(searchRequest), viewModel, insufficientBalance,
                   std::move(completionCallback)),
-    flightListVM(*viewModel),
-    oneWayList_(std::make_shared<OneWayFlightListView>(
-        flightListVM.filteredOnewayFlights,
-        OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection()}, "Departing Flights",
-        false)),
-    roundTripList_(std::make_shared<RoundTripFlightListView>(
-        flightListVM.filteredRoundtripFlights,
-        OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection()}, "Departing Flights",
-        true)) {}
+    flightListVM(*viewModel) {}
 
 OfferSelection FlightListView::selection() {
     return {flightListVM.flight,
@@ -36,6 +28,10 @@ OfferSelection FlightListView::selection() {
             flightListVM.selectedFlightSegmentId,
             flightListVM.flightSelected,
             showSegmant};
+}
+
+OfferListBindings FlightListView::listBindings() {
+    return {flightListVM.isLoading, flightListVM.scrollToTop, selection()};
 }
 
 void FlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {

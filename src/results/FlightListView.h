@@ -28,12 +28,16 @@ private:
     FlightListView(SearchRequest request, const std::shared_ptr<FlightListViewModel>& model,
                    CompletionCallback completionCallback);
     OfferSelection selection();
+    OfferListBindings listBindings();
     void clearSelection();
 
     FlightSearchOneWayProvider flightSearchOneWayProvider_;
     FlightSearchRoundTripProvider flightSearchRoundTripProvider_;
-    std::shared_ptr<OneWayFlightListView> oneWayList_;
-    std::shared_ptr<RoundTripFlightListView> roundTripList_;
+    /// Without a strip of cards, which only a round trip has here.
+    std::shared_ptr<OneWayFlightListView> oneWayList_ = std::make_shared<OneWayFlightListView>(
+        flightListVM.filteredOnewayFlights, listBindings(), "Departing Flights", false);
+    std::shared_ptr<RoundTripFlightListView> roundTripList_ = std::make_shared<RoundTripFlightListView>(
+        flightListVM.filteredRoundtripFlights, listBindings(), "Departing Flights", true);
 };
 
 } // namespace ombrivane

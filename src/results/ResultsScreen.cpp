@@ -22,97 +22,11 @@ ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view model
                              std::shared_ptr<ResultsModel> model, std::string message,
                              CompletionCallback completionCallback) :
     Screen(screenName),
-    departCityCode(fields, "departCityCode", request.departCityCode),
-    departCity(fields, "departCity", request.departCity),
-    destCityCode(fields, "destCityCode", request.destCityCode),
-    destCity(fields, "destCity", request.destCity),
-    nationality(fields, "nationality", request.nationality),
-    adults(fields, "adults", request.adults),
-    children(fields, "children", request.children),
-    infants(fields, "infants", request.infants),
-    flightClass(fields, "flightClass", request.flightClass),
-    errorMessage(fields, "errorMessage", std::move(message)),
-    routeImage(fields, "routeImage",
-               [this] { return std::string(model_->hasReturnDate ? "exchangeIcon" : "toIcon"); }),
-    headerSubtitle(fields, "headerSubtitle",
-                   [this] {
-                       return model_->formatHeaderSubtitle(
-                           model_->departDate.get(), model_->returnDate.get(), adults, children, infants);
-                   }),
-    departDateText(fields, "departDateText",
-                   [this] { return formatDay(model_->departDate, dayPattern::calendar); }),
-    returnDateText(fields, "returnDateText",
-                   [this] { return formatDay(model_->returnDate, dayPattern::calendar); }),
-    addReturnDateText(fields, "addReturnDateText", constant("Add Return Date")),
-    showsReturnDate(fields, "showsReturnDate", [this] { return model_->hasReturnDate.get(); }),
-    showsFloatingBar(fields, "showsFloatingBar",
-                     [this] { return !model_->isLoading && !model_->noInternetConnection; }),
-    showsScrollUp(fields, "showsScrollUp",
-                  [this] { return showsFloatingBar.get() && !model_->showActionBar; }),
-    filterIsOn(fields, "filterIsOn",
-               [this] { return model_->selectedId.get() != "All Airlines" || !model_->time->empty(); }),
-    totalLabel(fields, "totalLabel", constant("Total Fare")),
-    total(fields, "total",
-          [this] {
-              const auto cost = totalCost();
-              return cost ? OfferFormat::price(totalCurrency().value_or(""), *cost) : std::string();
-          }),
-    continueText(fields, "continueText", constant("Continue")),
-    previousReturn(
-        *this, "previousReturn", [this] { stepReturn(-1); }, [this] { return model_->hasReturnDate.get(); }),
-    nextReturn(
-        *this, "nextReturn", [this] { stepReturn(1); }, [this] { return model_->hasReturnDate.get(); }),
-    addReturnDate(
-        *this, "addReturnDate",
-        [this] {
-            model_->returnDate = model_->departDate.get();
-            model_->showCustomRoundtripDatePickerBottomSheet = true;
-        },
-        [this] { return !model_->hasReturnDate; }),
-    openFilter(
-        *this, "openFilter", [this] { model_->showFilterBottomSheet = true; },
-        [this] { return showsFloatingBar.get() && canBeFiltered(); }),
-    scrollUp(
-        *this, "scrollUp", [this] { model_->scrollToTop = true; }, [this] { return showsScrollUp.get(); }),
-    continue_(
-        *this, "continue", [this] { proceed(); }, [this] { return model_->showContinueButton.get(); }),
     request_(std::move(request)),
     model_(std::move(model)),
+    errorMessage(fields, "errorMessage", std::move(message)),
     completionCallback_(std::move(completionCallback)),
-    modelModel_(fields, modelKey, model_->fields),
-    snackBar_(model_->showSnackBar),
-    noInternet_(std::make_shared<NoInternetConnectionView>()),
-    noFlights_(
-        std::make_shared<NoFlightRecommendationsView>(false, [] { AppState::shared().resetNavigation(); })),
-    nothingLeft_(std::make_shared<NoFlightRecommendationsView>(
-        true,
-        [this] {
-            if (canBeFiltered()) {
-                model_->showFilterBottomSheet = true;
-            } else {
-                AppState::shared().resetNavigation(); // no filter left these out
-            }
-        })),
-    filterSheet_(*this, Presentation::sheet, model_->showFilterBottomSheet, [this] { return makeFilter(); }),
-    returnDateSheet_(*this, Presentation::sheet, model_->showCustomRoundtripDatePickerBottomSheet,
-                     [this] {
-                         return std::make_shared<CustomRoundTripDatePickerView>(departDateText_,
-                                                                                model_->departDate,
-                                                                                model_->returnDateText,
-                                                                                model_->returnDate,
-                                                                                [this] { search(true); });
-                     }),
-    rules_(*this, Presentation::push, model_->rulesAndRegulationViewIsActive, [this] {
-        return std::make_shared<RulesAndRegulationView>(
-            RulesAndRegulationView::Given{model_->rulesAndRegulationViewIsActive,
-                                          flightClass,
-                                          departCity,
-                                          destCity,
-                                          model_->tripType,
-                                          model_->flight,
-                                          returningFlight(),
-                                          completionCallback_});
-    }) {
+    modelModel_(fields, modelKey, model_->fields) {
     model_->tripType = request_.tripType;
     model_->departDate = request_.departDate;
     model_->hasReturnDate = request_.returnDate.has_value();
@@ -174,11 +88,46 @@ void ResultsScreen::follow(double points) {
     if (model_->showActionBar != atStart) model_->showActionBar = atStart;
 }
 
+std::string ResultsScreen::dateText(Day day) { return formatDay(day, dayPattern::calendar); }
+
+std::string ResultsScreen::totalText() const {
+    const auto cost = totalCost();
+    return cost ? OfferFormat::price(totalCurrency().value_or(""), *cost) : "";
+}
+
+/// Back to the filter that left nothing, or to the form where no filter left these offers out.
+void ResultsScreen::widenFilter() {
+    if (canBeFiltered()) {
+        model_->showFilterBottomSheet = true;
+    } else {
+        AppState::shared().resetNavigation();
+    }
+}
+
 std::shared_ptr<Screen> ResultsScreen::content() const {
     if (model_->noInternetConnection) return noInternet_;
     if (model_->flightsListIsEmpty) return noFlights_;
     if (!model_->isLoading && listIsEmpty()) return nothingLeft_;
     return list();
+}
+
+std::shared_ptr<Screen> ResultsScreen::makeReturnCalendar() {
+    return std::make_shared<CustomRoundTripDatePickerView>(
+        departDateText_, model_->departDate, model_->returnDateText, model_->returnDate, [this] {
+            search(true);
+        });
+}
+
+std::shared_ptr<Screen> ResultsScreen::makeRules() {
+    return std::make_shared<RulesAndRegulationView>(
+        RulesAndRegulationView::Given{model_->rulesAndRegulationViewIsActive,
+                                      flightClass,
+                                      departCity,
+                                      destCity,
+                                      model_->tripType,
+                                      model_->flight,
+                                      returningFlight(),
+                                      completionCallback_});
 }
 
 } // namespace ombrivane

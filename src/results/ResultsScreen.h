@@ -1,6 +1,8 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
@@ -26,48 +28,78 @@ namespace ombrivane {
 ///
 /// An answer to a former search of the same list is dropped: what stands under the header is what it says.
 class ResultsScreen : public Screen {
+private:
+    // Ahead of the fields and links that start from them.
+    const SearchRequest request_;
+    const std::shared_ptr<ResultsModel> model_;
+
 public:
     void appear() override;
 
-    Published<std::string> departCityCode;
-    Published<std::string> departCity;
-    Published<std::string> destCityCode;
-    Published<std::string> destCity;
-    Published<std::string> nationality;
-    Published<std::string> adults;
-    Published<std::string> children;
-    Published<std::string> infants;
-    Published<std::string> flightClass;
+    Published<std::string> departCityCode{fields, "departCityCode", request_.departCityCode};
+    Published<std::string> departCity{fields, "departCity", request_.departCity};
+    Published<std::string> destCityCode{fields, "destCityCode", request_.destCityCode};
+    Published<std::string> destCity{fields, "destCity", request_.destCity};
+    Published<std::string> nationality{fields, "nationality", request_.nationality};
+    Published<std::string> adults{fields, "adults", request_.adults};
+    Published<std::string> children{fields, "children", request_.children};
+    Published<std::string> infants{fields, "infants", request_.infants};
+    Published<std::string> flightClass{fields, "flightClass", request_.flightClass};
     /// How far the list is scrolled from its start, in points.
     Published<double> offset{fields, "offset", 0.0};
     Published<bool> showSegmant{fields, "showSegmant"};
     Published<std::string> errorMessage;
 
-    Derived<std::string> routeImage;
-    Derived<std::string> headerSubtitle;
-    Derived<std::string> departDateText;
-    Derived<std::string> returnDateText;
-    Derived<std::string> addReturnDateText;
-    Derived<bool> showsReturnDate;
-    Derived<bool> showsFloatingBar;
-    Derived<bool> showsScrollUp;
-    Derived<bool> filterIsOn;
-    Derived<std::string> totalLabel;
-    Derived<std::string> total;
-    Derived<std::string> continueText;
+    Derived<std::string> routeImage{fields, "routeImage", [this] {
+                                        return std::string(model_->hasReturnDate ? "exchangeIcon" : "toIcon");
+                                    }};
+    Derived<std::string> headerSubtitle{
+        fields, "headerSubtitle", [this] {
+            return model_->formatHeaderSubtitle(
+                model_->departDate.get(), model_->returnDate.get(), adults, children, infants);
+        }};
+    Derived<std::string> departDateText{
+        fields, "departDateText", [this] { return dateText(model_->departDate); }};
+    Derived<std::string> returnDateText{
+        fields, "returnDateText", [this] { return dateText(model_->returnDate); }};
+    Constant addReturnDateText{fields, "addReturnDateText", "Add Return Date"};
+    Derived<bool> showsReturnDate{fields, "showsReturnDate", [this] { return model_->hasReturnDate.get(); }};
+    Derived<bool> showsFloatingBar{
+        fields, "showsFloatingBar", [this] { return !model_->isLoading && !model_->noInternetConnection; }};
+    Derived<bool> showsScrollUp{
+        fields, "showsScrollUp", [this] { return showsFloatingBar.get() && !model_->showActionBar; }};
+    Derived<bool> filterIsOn{fields, "filterIsOn", [this] {
+                                 return model_->selectedId.get() != "All Airlines" || !model_->time->empty();
+                             }};
+    Constant totalLabel{fields, "totalLabel", "Total Fare"};
+    Derived<std::string> total{fields, "total", [this] { return totalText(); }};
+    Constant continueText{fields, "continueText", "Continue"};
 
     Action<> back{*this, "back", [this] { dismiss(); }};
     Action<> edit{*this, "edit", [this] { dismiss(); }};
     Action<> previousDeparture{*this, "previousDeparture", [this] { stepDeparture(-1); }};
     Action<> nextDeparture{*this, "nextDeparture", [this] { stepDeparture(1); }};
-    Action<> previousReturn;
-    Action<> nextReturn;
-    Action<> addReturnDate;
-    Action<> openFilter;
-    Action<> scrollUp;
+    Action<> previousReturn{
+        *this, "previousReturn", [this] { stepReturn(-1); }, [this] { return model_->hasReturnDate.get(); }};
+    Action<> nextReturn{
+        *this, "nextReturn", [this] { stepReturn(1); }, [this] { return model_->hasReturnDate.get(); }};
+    Action<> addReturnDate{*this,
+                           "addReturnDate",
+                           [this] {
+                               model_->returnDate = model_->departDate.get();
+                               model_->showCustomRoundtripDatePickerBottomSheet = true;
+                           },
+                           [this] { return !model_->hasReturnDate; }};
+    Action<> openFilter{*this,
+                        "openFilter",
+                        [this] { model_->showFilterBottomSheet = true; },
+                        [this] { return showsFloatingBar.get() && canBeFiltered(); }};
+    Action<> scrollUp{
+        *this, "scrollUp", [this] { model_->scrollToTop = true; }, [this] { return showsScrollUp.get(); }};
     /// The customer scrolled the list: the header goes when it leaves its start.
     Action<double> scrolled{*this, "scrolled", [this](double points) { follow(points); }};
-    Action<> continue_;
+    Action<> continue_{
+        *this, "continue", [this] { proceed(); }, [this] { return model_->showContinueButton.get(); }};
 
 protected:
     ResultsScreen(std::string_view name, std::string_view modelKey, SearchRequest request,
@@ -99,8 +131,6 @@ protected:
     /// Says why the way on is closed.
     void refuse(const char* message);
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }
-    std::shared_ptr<ResultsModel> model() const { return model_; }
-    const SearchRequest& request() const { return request_; }
 
 private:
     void search(bool roundTrip);
@@ -108,24 +138,34 @@ private:
     void stepDeparture(int days);
     void stepReturn(int days);
     void follow(double points);
+    static std::string dateText(Day day);
+    std::string totalText() const;
+    void widenFilter();
     std::shared_ptr<Screen> content() const;
+    std::shared_ptr<Screen> makeReturnCalendar();
+    std::shared_ptr<Screen> makeRules();
 
     std::uint64_t searches_ = 0; ///< sent so far
-    SearchRequest request_;
-    std::shared_ptr<ResultsModel> model_;
     CompletionCallback completionCallback_;
     Model modelModel_;
-    CustomSnackBarView snackBar_;
+    CustomSnackBarView snackBar_{model_->showSnackBar};
     /// What the calendar writes for the departure; the header shows the date itself.
     Fields unkeyed_;
     Published<std::string> departDateText_{unkeyed_, "departDateText"};
-    std::shared_ptr<NoInternetConnectionView> noInternet_;
-    std::shared_ptr<NoFlightRecommendationsView> noFlights_;
-    std::shared_ptr<NoFlightRecommendationsView> nothingLeft_;
+    std::shared_ptr<NoInternetConnectionView> noInternet_ = std::make_shared<NoInternetConnectionView>();
+    std::shared_ptr<NoFlightRecommendationsView> noFlights_ =
+        std::make_shared<NoFlightRecommendationsView>(false, [] { AppState::shared().resetNavigation(); });
+    std::shared_ptr<NoFlightRecommendationsView> nothingLeft_ =
+        std::make_shared<NoFlightRecommendationsView>(true, [this] { widenFilter(); });
     Part content_{*this, "content", [this] { return content(); }};
-    Link filterSheet_;
-    Link returnDateSheet_;
-    Link rules_;
+    Link filterSheet_{
+        *this, Presentation::sheet, model_->showFilterBottomSheet, [this] { return makeFilter(); }};
+    Link returnDateSheet_{*this,
+                          Presentation::sheet,
+                          model_->showCustomRoundtripDatePickerBottomSheet,
+                          [this] { return makeReturnCalendar(); }};
+    Link rules_{
+        *this, Presentation::push, model_->rulesAndRegulationViewIsActive, [this] { return makeRules(); }};
 };
 
 } // namespace ombrivane
