@@ -58,7 +58,8 @@ std::string shownText(std::string_view text, std::size_t maximumBytes) {
         appendCodePoint(shown, c);
         word = c == ' ' || c == breakingPlace ? 0 : word + 1;
         if (shown.size() > maximumBytes) return shown.substr(0, fitting).append(ellipsis);
-        if (shown.size() + ellipsis.size() <= maximumBytes) fitting = shown.size();
+        // An ellipsis at the end of a long word would be one character more of it.
+        if (word < longestWord && shown.size() + ellipsis.size() <= maximumBytes) fitting = shown.size();
     }
     return shown;
 }

@@ -40,6 +40,11 @@ TEST(ShownText, EndsALongTextInAnEllipsisWithinItsLimit) {
         text += sentence;
     EXPECT_LE(shownText(text).size(), limits::shownBytes);
     EXPECT_TRUE(shownText(text).ends_with("\u2026"));
+    // What was cut behind a long word is not cut again.
+    for (std::size_t maximum = 490; maximum < 520; ++maximum) {
+        const std::string shown = shownText(std::string(600, 'x'), maximum);
+        EXPECT_EQ(shownText(shown, maximum), shown) << maximum;
+    }
 }
 
 TEST(ShownText, GivesAnOverlongWordPlacesToBreak) {
