@@ -1,7 +1,7 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Derived.h"
+#include "keyed/Constant.h"
 #include "keyed/Screen.h"
 
 #include <string>
@@ -11,11 +11,14 @@ namespace ombrivane {
 /// A message over everything, with the one button "Dismiss", which only closes it.
 class AlertView final : public Screen {
 public:
-    AlertView(std::string titleText, std::string messageText);
+    AlertView(std::string titleText, std::string messageText) :
+        Screen("AlertView"),
+        title(fields, "title", std::move(titleText)),
+        message(fields, "message", std::move(messageText)) {}
 
-    Derived<std::string> title;
-    Derived<std::string> message;
-    Derived<std::string> buttonText{fields, "buttonText", [] { return std::string("Dismiss"); }};
+    Constant title;
+    Constant message;
+    Constant buttonText{fields, "buttonText", "Dismiss"};
     Action<> button{*this, "button", [this] { dismiss(); }};
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Screen.h"
 
@@ -15,13 +16,13 @@ public:
     CustomRadioButtonFieldView(std::string identity, std::string labelText, std::function<bool()> marked,
                                std::function<void()> choose) :
         Screen("CustomRadioButtonFieldView"),
-        id(fields, "id", [identity = std::move(identity)] { return identity; }),
-        label(fields, "label", [labelText = std::move(labelText)] { return labelText; }),
+        id(fields, "id", std::move(identity)),
+        label(fields, "label", std::move(labelText)),
         isMarked(fields, "isMarked", std::move(marked)),
         tap(*this, "tap", std::move(choose)) {}
 
-    Derived<std::string> id;
-    Derived<std::string> label;
+    Constant id;
+    Constant label;
     Derived<bool> isMarked;
     Action<> tap;
 };

@@ -14,9 +14,7 @@ inline constexpr std::chrono::milliseconds messageDuration{3000};
 /// owner clears the flag, which leaves no work behind.
 class CustomSnackBarView {
 public:
-    explicit CustomSnackBarView(Field<bool>& show) : show_(show) {
-        shown_ = show.observe([this] { follow(); });
-    }
+    explicit CustomSnackBarView(Field<bool>& show) : show_(show) {}
     CustomSnackBarView(const CustomSnackBarView&) = delete;
     CustomSnackBarView& operator=(const CustomSnackBarView&) = delete;
 
@@ -31,7 +29,7 @@ private:
 
     Field<bool>& show_;
     WorkItem task_;
-    Subscription shown_;
+    Subscription shown_ = show_.observe([this] { follow(); });
 };
 
 } // namespace ombrivane
