@@ -1,12 +1,9 @@
 #include "dates/TravelCalendar.h"
 
-#include "dates/Calendar.h"
 #include "dates/CustomDateHelper.h"
 #include "dates/DateFormatter.h"
 
 namespace ombrivane {
-
-TravelCalendar::TravelCalendar(std::string_view name) : Screen(name) { currentDate = calendar::today(); }
 
 void TravelCalendar::appear() { scrollToIndex = calendar::monthsBetween(calendar::today(), chosen().first); }
 
@@ -23,38 +20,37 @@ void TravelCalendar::finish() {
 }
 
 TravelCalendar::Month::Month(TravelCalendar& calendar, int offset) :
-    Screen("Month"),
-    title(fields, "title",
-          [&calendar, offset] {
-              const auto [month, year] = CustomDateHelper::monthWords(
-                  calendar::addMonths(calendar::today(), calendar.currentMonth.get() + offset));
-              return month + " " + year;
-          }),
-    cells(fields, "cells",
-          [this, &calendar] {
-              const auto [first, last] = calendar.chosen();
-              const Day today = calendar::today();
-              std::vector<CalendarCell> drawn;
-              drawn.reserve(grid_.size());
-              for (std::size_t i = 0; i < grid_.size(); ++i) {
-                  const DateValue& value = grid_[i];
-                  CalendarCell cell;
-                  if (!value.offsetDay) {
-                      cell.day = value.day;
-                      cell.date = value.date.text();
-                      cell.label = labels_[i];
-                      cell.selectable = value.date >= today;
-                      cell.selected = value.date == first || value.date == last;
-                      cell.inRange = value.date > first && value.date < last;
-                  }
-                  drawn.push_back(std::move(cell));
-              }
-              return drawn;
-          }),
-    grid_(monthGrid(calendar::today(), calendar.currentMonth.get() + offset)) {
+    Screen("Month"), calendar_(calendar), offset_(offset) {
     labels_.reserve(grid_.size());
     for (const auto& value : grid_)
         labels_.push_back(formatDay(value.date, dayPattern::dayOfMonth));
+}
+
+std::string TravelCalendar::Month::describe() const {
+    const auto [month, year] =
+        CustomDateHelper::monthWords(calendar::addMonths(calendar::today(), monthsAhead()));
+    return month + " " + year;
+}
+
+std::vector<CalendarCell> TravelCalendar::Month::draw() const {
+    const auto [first, last] = calendar_.chosen();
+    const Day today = calendar::today();
+    std::vector<CalendarCell> drawn;
+    drawn.reserve(grid_.size());
+    for (std::size_t i = 0; i < grid_.size(); ++i) {
+        const DateValue& value = grid_[i];
+        CalendarCell cell;
+        if (!value.offsetDay) {
+            cell.day = value.day;
+            cell.date = value.date.text();
+            cell.label = labels_[i];
+            cell.selectable = value.date >= today;
+            cell.selected = value.date == first || value.date == last;
+            cell.inRange = value.date > first && value.date < last;
+        }
+        drawn.push_back(std::move(cell));
+    }
+    return drawn;
 }
 
 } // namespace ombrivane

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "dates/Calendar.h"
 #include "dates/DateValue.h"
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
@@ -21,23 +23,31 @@ public:
 
     /// One month as it is drawn.
     class Month final : public Screen {
+    private:
+        TravelCalendar& calendar_;
+        const int offset_;
+
     public:
         Month(TravelCalendar& calendar, int offset);
 
-        Derived<std::string> title;
-        Derived<std::vector<CalendarCell>> cells;
+        Derived<std::string> title{fields, "title", [this] { return describe(); }};
+        Derived<std::vector<CalendarCell>> cells{fields, "cells", [this] { return draw(); }};
 
     private:
-        std::vector<DateValue> grid_;
+        int monthsAhead() const { return calendar_.currentMonth.get() + offset_; }
+        std::string describe() const;
+        std::vector<CalendarCell> draw() const;
+
+        std::vector<DateValue> grid_ = monthGrid(calendar::today(), monthsAhead());
         std::vector<std::string> labels_;
     };
 
     void appear() override;
 
-    Published<Day> currentDate{fields, "currentDate"};
+    Published<Day> currentDate{fields, "currentDate", calendar::today()};
     Published<int> currentMonth{fields, "currentMonth", 0};
     Published<int> scrollToIndex{fields, "scrollToIndex", 1};
-    Derived<std::string> title{fields, "title", [] { return std::string("Select Travel Date"); }};
+    Constant title{fields, "title", "Select Travel Date"};
     Derived<std::vector<std::string>> dayNames{
         fields, "dayNames", [] {
             return std::vector<std::string>{"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
@@ -54,7 +64,7 @@ public:
     Action<> close{*this, "close", [this] { dismiss(); }};
 
 protected:
-    explicit TravelCalendar(std::string_view name);
+    explicit TravelCalendar(std::string_view name) : Screen(name) {}
 
     virtual void choose(Day day) = 0;
     virtual void fillEmptyFields() = 0;
