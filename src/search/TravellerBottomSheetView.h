@@ -1,34 +1,67 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
 #include "search/MainViewModel.h"
+#include "search/TravellerRules.h"
 
+#include <array>
+#include <memory>
 #include <string>
 
 namespace ombrivane {
 
 /// The sheet of travellers and cabin class.
 class TravellerBottomSheetView final : public Screen {
-public:
-    explicit TravellerBottomSheetView(MainViewModel& model);
+private:
+    MainViewModel& model_;
 
-    Binding<std::string> travellerTextField;
-    Binding<std::string> adult;
-    Binding<std::string> child;
-    Binding<std::string> infant;
-    Binding<std::string> cabinClass;
-    Derived<std::string> heading;
-    Derived<std::string> subHeading;
-    Derived<std::string> cabinHeading;
-    Derived<std::string> doneText;
+public:
+    explicit TravellerBottomSheetView(MainViewModel& model) :
+        Screen("TravellerBottomSheetView"), model_(model) {}
+
+    Binding<std::string> travellerTextField{fields, "travellerTextField", model_.travellerText};
+    Binding<std::string> adult{fields, "adult", model_.adult};
+    Binding<std::string> child{fields, "child", model_.child};
+    Binding<std::string> infant{fields, "infant", model_.infant};
+    Binding<std::string> cabinClass{fields, "cabinClass", model_.cabinClass};
+    Constant heading{fields, "heading", "Select Number Of Travellers And Class"};
+    Constant subHeading{fields, "subHeading", "Add Number Of Travellers"};
+    Constant cabinHeading{fields, "cabinHeading", "Choose Cabin Class"};
+    Constant doneText{fields, "doneText", "Done"};
     /// Adults, children, infants.
-    Rows steppers;
+    Rows steppers{*this,
+                  "steppers",
+                  [] { return kinds.size(); },
+                  [this](std::size_t index) { return makeStepper(kinds.at(index)); }};
     /// The radio group of the cabin classes.
-    Rows cabins;
-    Action<> done;
+    Rows cabins{*this,
+                "cabins",
+                [] { return cabinChoices.size(); },
+                [this](std::size_t index) { return makeCabin(cabinChoices.at(index)); }};
+    Action<> done{*this, "done", [this] { finish(); }};
+
+private:
+    struct CabinChoice {
+        const char* id;
+        const char* label;
+    };
+
+    static constexpr std::array kinds{TravellerKind::adult, TravellerKind::child, TravellerKind::infant};
+    static constexpr std::array<CabinChoice, 5> cabinChoices{{
+        {"Economy", "Economy"},
+        {"Premium Economy", "Premium Economy"},
+        {"Business", "Business"},
+        {"First Class", "First Class"},
+        {"All Class", "All"},
+    }};
+
+    std::shared_ptr<Screen> makeStepper(TravellerKind kind);
+    std::shared_ptr<Screen> makeCabin(const CabinChoice& choice);
+    void finish();
 };
 
 } // namespace ombrivane

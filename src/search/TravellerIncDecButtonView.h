@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "search/TravellerRules.h"
@@ -13,25 +14,46 @@ namespace ombrivane {
 class TravellerIncDecButtonView final : public Screen {
 public:
     TravellerIncDecButtonView(TravellerKind kind, const Field<std::string>& adults,
-                              const Field<std::string>& children, const Field<std::string>& infants);
+                              const Field<std::string>& children, const Field<std::string>& infants) :
+        Screen("TravellerIncDecButtonView"),
+        adult(fields, "adult", adults),
+        child(fields, "child", children),
+        infant(fields, "infant", infants),
+        kind_(kind) {}
 
     Binding<std::string> adult;
     Binding<std::string> child;
     Binding<std::string> infant;
-    Derived<std::string> category;
-    Derived<std::string> categoryDetail;
-    Derived<std::string> numberValue;
+    Derived<std::string> category{fields, "category", [this] { return words().category; }};
+    Derived<std::string> categoryDetail{fields, "categoryDetail", [this] { return words().detail; }};
+    Derived<std::string> numberValue{fields, "numberValue", [this] { return count().get(); }};
     /// Whether the controls are drawn as active.
-    Derived<bool> mayIncrement;
-    Derived<bool> mayDecrement;
-    Action<> increment;
-    Action<> decrement;
+    Derived<bool> mayIncrement{fields, "mayIncrement", [this] { return counts().mayIncrement(kind_); }};
+    Derived<bool> mayDecrement{fields, "mayDecrement", [this] { return counts().mayDecrement(kind_); }};
+    Action<> increment{*this, "increment", [this] {
+                           auto next = counts();
+                           next.increment(kind_);
+                           write(next);
+                       }};
+    Action<> decrement{*this, "decrement", [this] {
+                           auto next = counts();
+                           next.decrement(kind_);
+                           write(next);
+                       }};
 
 private:
+    struct Words {
+        const char* category;
+        const char* detail;
+    };
+
+    Words words() const;
+    /// The count that this stepper changes.
+    const Field<std::string>& count() const;
     TravellerCounts counts() const;
     void write(const TravellerCounts& counts);
 
-    TravellerKind kind_;
+    const TravellerKind kind_;
 };
 
 } // namespace ombrivane
