@@ -1,6 +1,8 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
@@ -20,11 +22,11 @@ class FlightListItemView final : public Screen {
 public:
     FlightListItemView(const Airport& airport, std::function<void()> choose);
 
-    Derived<std::string> city;
-    Derived<std::string> code;
-    Derived<std::string> name_;
-    Derived<std::string> country;
-    Derived<std::string> mainText;
+    Constant city;
+    Constant code;
+    Constant name_;
+    Constant country;
+    Derived<std::string> mainText{fields, "mainText", [this] { return city.get() + ", " + country.get(); }};
     Action<> tap;
 };
 
@@ -36,18 +38,26 @@ public:
     void appear() override { searchFor(""); }
 
     Published<std::vector<Airport>> airports{fields, "airports"};
-    Derived<std::string> placeholder;
-    Derived<std::string> heading{fields, "heading", [] { return std::string("Popular Destination"); }};
-    Rows rows;
+    Constant placeholder;
+    Constant heading{fields, "heading", "Popular Destination"};
+    Rows rows{*this,
+              "rows",
+              [this] { return airports->size(); },
+              [this](std::size_t index) { return makeRow(airports->at(index)); },
+              [this] { return identitiesOf(airports.get(), &Airport::code); }};
     /// The customer changed the text of the search field.
-    Action<std::string> type;
-    Action<> close;
+    Action<std::string> type{*this, "type", [this](const std::string& typed) {
+                                 text = typed;
+                                 searchFor(typed);
+                             }};
+    Action<> close{*this, "close", [this] { leave(); }};
 
     /// How an airport stands in a field of the form.
     static std::string describe(const Airport& airport);
 
 protected:
-    AirportSearch(std::string_view name, std::string_view textKey, const char* placeholderText);
+    AirportSearch(std::string_view screenName, std::string_view textKey, const char* placeholderText) :
+        Screen(screenName), placeholder(fields, "placeholder", placeholderText), text(fields, textKey) {}
 
     /// Which of the airports found are shown.
     virtual std::vector<Airport> shown(std::vector<Airport> found) const { return found; }
@@ -58,6 +68,7 @@ protected:
 
 private:
     void searchFor(const std::string& query);
+    std::shared_ptr<Screen> makeRow(const Airport& airport);
 
     AirportSearchProvider airportsProvider_;
 };

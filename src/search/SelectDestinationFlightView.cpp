@@ -5,10 +5,7 @@ namespace ombrivane {
 SelectDestinationFlightView::SelectDestinationFlightView(MainViewModel& model, std::string originCode,
                                                          std::function<void()> callback) :
     AirportSearch("SelectDestinationFlightView", "destinationText", "Search Destination City"),
-    destinationTextField(fields, "destinationTextField", model.destinationText),
-    destCityCode(fields, "destCityCode", model.destCityCode),
-    destCity(fields, "destCity", model.destCity),
-    destCountry(fields, "destCountry", model.destCountry),
+    model_(model),
     selectedOriginCityCode(fields, "selectedOriginCityCode", std::move(originCode)),
     callback_(std::move(callback)) {}
 
