@@ -4,30 +4,24 @@
 
 namespace ombrivane {
 
-CustomTabBarView::CustomTabBarView(const Field<TabBarItem>& selected) :
-    Screen("CustomTabBarView"),
-    selection(fields, "selection", selected),
-    labels(fields, "labels",
-           [this] {
-               std::vector<std::string> texts;
-               for (const TabBarItem tab : tabs.get()) {
-                   texts.emplace_back(tabBarWordings.at(static_cast<std::size_t>(tab)).label);
-               }
-               return texts;
-           }),
-    tap(*this, "tap",
-        [this](TabBarItem tab) {
-            if (tab == TabBarItem::multiCity) {
-                showAlert = true;
-            } else {
-                selection = tab;
-            }
-        }),
-    alert_(*this, Presentation::alert, showAlert, [] {
-        return std::make_shared<AlertView>("Sorry!", "This feature is not available at the moment.");
-    }) {
-    localSelection = selection.get();
-    following_ = selection.observe([this] { localSelection = selection.get(); });
+std::vector<std::string> CustomTabBarView::labelTabs() const {
+    std::vector<std::string> texts;
+    for (const TabBarItem tab : tabs.get()) {
+        texts.emplace_back(tabBarWordings.at(static_cast<std::size_t>(tab)).label);
+    }
+    return texts;
+}
+
+void CustomTabBarView::choose(TabBarItem tab) {
+    if (tab == TabBarItem::multiCity) {
+        showAlert = true;
+    } else {
+        selection = tab;
+    }
+}
+
+std::shared_ptr<Screen> CustomTabBarView::makeAlert() {
+    return std::make_shared<AlertView>("Sorry!", "This feature is not available at the moment.");
 }
 
 } // namespace ombrivane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
@@ -12,25 +13,29 @@
 #include "state/CompletionCallback.h"
 
 #include <memory>
-#include <string>
+#include <optional>
 
 namespace ombrivane {
 
 /// The first screen: title bar, tab bar and the form of the chosen tab.
 class MainView final : public Screen {
+private:
+    const CompletionCallback completionCallback_;
+
 public:
-    explicit MainView(CompletionCallback completionCallback);
+    explicit MainView(CompletionCallback completionCallback) :
+        Screen("MainView"), completionCallback_(std::move(completionCallback)) {}
 
     Published<TabBarItem> tabSelection{fields, "tabSelection", TabBarItem::oneWay};
-    Derived<std::string> title{fields, "title", [] { return std::string("Flight Search"); }};
+    Constant title{fields, "title", "Flight Search"};
     /// Closes the component without a word to the host.
-    Action<> back;
+    Action<> back{*this, "back", [this] { completionCallback_(std::nullopt, std::nullopt); }};
 
-    const std::shared_ptr<CustomTabBarView> tabBar;
-    const std::shared_ptr<OneWayView> oneWay;
-    const std::shared_ptr<RoundTripView> roundTrip;
-    const std::shared_ptr<MultiCityView> multiCity;
-    const std::shared_ptr<FooterView> footer;
+    const std::shared_ptr<CustomTabBarView> tabBar = std::make_shared<CustomTabBarView>(tabSelection);
+    const std::shared_ptr<OneWayView> oneWay = std::make_shared<OneWayView>(completionCallback_);
+    const std::shared_ptr<RoundTripView> roundTrip = std::make_shared<RoundTripView>(completionCallback_);
+    const std::shared_ptr<MultiCityView> multiCity = std::make_shared<MultiCityView>();
+    const std::shared_ptr<FooterView> footer = std::make_shared<FooterView>();
 
 private:
     Part tabBarPart_{*this, "tabBar", [this] { return tabBar; }};

@@ -1,8 +1,6 @@
 #include "search/MainViewModel.h"
 
 #include "base/SharedInstance.h"
-#include "dates/Calendar.h"
-#include "dates/TripDates.h"
 #include "offers/CabinClass.h"
 
 namespace ombrivane {
@@ -13,12 +11,6 @@ constexpr const char* homeCountry = "Nepal";
 } // namespace
 
 MainViewModel& MainViewModel::shared() { return SharedInstance<MainViewModel>::get(); }
-
-MainViewModel::MainViewModel() {
-    const Day now = calendar::today();
-    departureDate = now;
-    returnDate = defaultReturn(now);
-}
 
 void MainViewModel::swapLocations() {
     const std::string texts[] = {originText, destinationText};

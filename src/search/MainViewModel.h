@@ -1,6 +1,8 @@
 #pragma once
 
+#include "dates/Calendar.h"
 #include "dates/Day.h"
+#include "dates/TripDates.h"
 #include "keyed/Field.h"
 #include "records/Country.h"
 #include "records/KeyedRecords.h"
@@ -15,8 +17,6 @@ namespace ombrivane {
 class MainViewModel {
 public:
     static MainViewModel& shared();
-
-    MainViewModel();
 
     /// Exchanges origin and destination: texts, cities, codes and countries.
     void swapLocations();
@@ -42,9 +42,9 @@ public:
     Published<std::string> originText{fields, "originText"};
     Published<std::string> destinationText{fields, "destinationText"};
     Published<std::string> departureDateText{fields, "departureDateText"};
-    Published<Day> departureDate{fields, "departureDate"};
+    Published<Day> departureDate{fields, "departureDate", calendar::today()};
     Published<std::string> returnDateText{fields, "returnDateText"};
-    Published<Day> returnDate{fields, "returnDate"};
+    Published<Day> returnDate{fields, "returnDate", defaultReturn(departureDate)};
     Published<std::string> nationalityText{fields, "nationalityText"};
     Published<std::string> travellerText{fields, "travellerText", "1, All Class"};
     Published<bool> showNationalitySheet{fields, "showNationalitySheet"};

@@ -13,67 +13,10 @@
 #include "search/TravellerBottomSheetView.h"
 
 namespace ombrivane {
-namespace {
 
-/// A date of the form, which is shown once its text has been chosen.
-std::string shownDate(const std::string& text, Day date) {
+std::string SearchForm::shownDate(const std::string& text, Day date) {
     return text.empty() ? "" : formatDay(date, dayPattern::form);
 }
-
-} // namespace
-
-SearchForm::SearchForm(const SearchFormTraits& traits, CompletionCallback completionCallback) :
-    Screen(traits.name),
-    origin(fields, "origin", [this] { return model_.originText.get(); }),
-    originPlaceholder(fields, "originPlaceholder", constant("Enter Origin")),
-    destination(fields, "destination", [this] { return model_.destinationText.get(); }),
-    destinationPlaceholder(fields, "destinationPlaceholder", constant("Enter Destination")),
-    departureDate(fields, "departureDate",
-                  [this] { return shownDate(model_.departureDateText, model_.departureDate); }),
-    departureDatePlaceholder(fields, "departureDatePlaceholder", constant("Departure Date")),
-    returnDate(fields, "returnDate", [this] { return shownDate(model_.returnDateText, model_.returnDate); }),
-    returnDatePlaceholder(fields, "returnDatePlaceholder", constant("Return Date")),
-    nationality(fields, "nationality", [this] { return model_.nationalityText.get(); }),
-    nationalityPlaceholder(fields, "nationalityPlaceholder", constant("Select Nationality")),
-    travellers(fields, "travellers", [this] { return model_.travellerText.get(); }),
-    showsReturnDate(fields, "showsReturnDate", [this] { return traits_.hasReturnDate; }),
-    isFetchingCountries(fields, "isFetchingCountries", [this] { return model_.showProgressView.get(); }),
-    tapOrigin(*this, "tapOrigin", [this] { (appState_.*traits_.originActive) = true; }),
-    swap(*this, "swap", [this] { model_.swapLocations(); }),
-    tapDestination(*this, "tapDestination", [this] { (appState_.*traits_.destinationActive) = true; }),
-    tapDate(*this, "tapDate", [this] { datePickerIsActive = true; }),
-    tapNationality(*this, "tapNationality", [this] { chooseNationality(); }),
-    tapTravellers(*this, "tapTravellers",
-                  [this] { model_.showTravellerSheet = !model_.showTravellerSheet.get(); }),
-    search(*this, "search", [this] { checkAndSearch(); }),
-    traits_(traits),
-    completionCallback_(std::move(completionCallback)),
-    appState_(AppState::shared()),
-    model_(MainViewModel::shared()),
-    appStateModel_(fields, "appState", appState_.fields),
-    modelModel_(fields, traits_.modelKey, model_.fields),
-    originLink_(*this, Presentation::push, appState_.*traits_.originActive,
-                [this] { return std::make_shared<SelectOriginFlightView>(model_); }),
-    destinationLink_(*this, Presentation::push, appState_.*traits_.destinationActive,
-                     [this] {
-                         return std::make_shared<SelectDestinationFlightView>(
-                             model_, model_.departCityCode.get(), nullptr);
-                     }),
-    searchLink_(*this, Presentation::push, appState_.*traits_.searchActive,
-                [this] { return std::make_shared<FlightListView>(request(), completionCallback_); }),
-    domesticLink_(
-        *this, Presentation::push, appState_.domesticSearchRootViewActive,
-        [this] { return std::make_shared<DomesticFlightListView>(request(), completionCallback_); }),
-    dateLink_(*this, Presentation::push, datePickerIsActive, [this] { return makeDatePicker(); }),
-    travellerSheet_(*this, Presentation::sheet, model_.showTravellerSheet,
-                    [this] { return std::make_shared<TravellerBottomSheetView>(model_); }),
-    nationalitySheet_(*this, Presentation::sheet, model_.showNationalitySheet,
-                      [this] { return std::make_shared<NationalityBottomSheetView>(model_); }),
-    alert_(*this, Presentation::alert, model_.showAlert,
-           [this] { return std::make_shared<AlertView>("Error!", errorMessage.get()); }),
-    sameCityAlert_(*this, Presentation::alert, model_.showDestinationSameAlert, [] {
-        return std::make_shared<AlertView>("Error!", "Departure / Destination city cannot be same");
-    }) {}
 
 void SearchForm::chooseNationality() {
     if (!model_.countries->empty()) {
@@ -133,6 +76,22 @@ SearchRequest SearchForm::request() const {
     return request;
 }
 
+std::shared_ptr<Screen> SearchForm::makeOriginSearch() {
+    return std::make_shared<SelectOriginFlightView>(model_);
+}
+
+std::shared_ptr<Screen> SearchForm::makeDestinationSearch() {
+    return std::make_shared<SelectDestinationFlightView>(model_, model_.departCityCode.get(), nullptr);
+}
+
+std::shared_ptr<Screen> SearchForm::makeList() {
+    return std::make_shared<FlightListView>(request(), completionCallback_);
+}
+
+std::shared_ptr<Screen> SearchForm::makeDomesticList() {
+    return std::make_shared<DomesticFlightListView>(request(), completionCallback_);
+}
+
 std::shared_ptr<Screen> SearchForm::makeDatePicker() {
     if (!traits_.hasReturnDate) {
         return std::make_shared<CustomOneWayDatePickerView>(
@@ -142,6 +101,22 @@ std::shared_ptr<Screen> SearchForm::makeDatePicker() {
     }
     return std::make_shared<CustomRoundTripDatePickerView>(
         model_.departureDateText, model_.departureDate, model_.returnDateText, model_.returnDate, nullptr);
+}
+
+std::shared_ptr<Screen> SearchForm::makeTravellerSheet() {
+    return std::make_shared<TravellerBottomSheetView>(model_);
+}
+
+std::shared_ptr<Screen> SearchForm::makeNationalitySheet() {
+    return std::make_shared<NationalityBottomSheetView>(model_);
+}
+
+std::shared_ptr<Screen> SearchForm::makeAlert() {
+    return std::make_shared<AlertView>("Error!", errorMessage.get());
+}
+
+std::shared_ptr<Screen> SearchForm::makeSameCityAlert() {
+    return std::make_shared<AlertView>("Error!", "Departure / Destination city cannot be same");
 }
 
 } // namespace ombrivane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyed/Action.h"
+#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
@@ -30,8 +31,15 @@ struct SearchFormTraits {
 /// The search form of a tab. Everything that it holds is in the shared `MainViewModel` and `AppState`, so
 /// what the customer typed on one tab stands on the other.
 class SearchForm : public Screen {
+private:
+    const SearchFormTraits traits_;
+    const CompletionCallback completionCallback_;
+    AppState& appState_ = AppState::shared();
+    MainViewModel& model_ = MainViewModel::shared();
+
 public:
-    SearchForm(const SearchFormTraits& traits, CompletionCallback completionCallback);
+    SearchForm(const SearchFormTraits& traits, CompletionCallback completionCallback) :
+        Screen(traits.name), traits_(traits), completionCallback_(std::move(completionCallback)) {}
 
     void appear() override { isInView_ = true; }
     void disappear() override { isInView_ = false; }
@@ -40,53 +48,75 @@ public:
     /// The calendar is pushed.
     Published<bool> datePickerIsActive{fields, "datePickerIsActive"};
 
-    Derived<std::string> origin;
-    Derived<std::string> originPlaceholder;
-    Derived<std::string> destination;
-    Derived<std::string> destinationPlaceholder;
-    Derived<std::string> departureDate;
-    Derived<std::string> departureDatePlaceholder;
-    Derived<std::string> returnDate; ///< of the round-trip form
-    Derived<std::string> returnDatePlaceholder;
-    Derived<std::string> nationality;
-    Derived<std::string> nationalityPlaceholder;
-    Derived<std::string> travellers;
-    Derived<bool> showsReturnDate;
-    Derived<bool> isFetchingCountries;
+    Derived<std::string> origin{fields, "origin", [this] { return model_.originText.get(); }};
+    Constant originPlaceholder{fields, "originPlaceholder", "Enter Origin"};
+    Derived<std::string> destination{fields, "destination", [this] { return model_.destinationText.get(); }};
+    Constant destinationPlaceholder{fields, "destinationPlaceholder", "Enter Destination"};
+    Derived<std::string> departureDate{fields, "departureDate", [this] {
+                                           return shownDate(model_.departureDateText, model_.departureDate);
+                                       }};
+    Constant departureDatePlaceholder{fields, "departureDatePlaceholder", "Departure Date"};
+    /// Of the round-trip form.
+    Derived<std::string> returnDate{
+        fields, "returnDate", [this] { return shownDate(model_.returnDateText, model_.returnDate); }};
+    Constant returnDatePlaceholder{fields, "returnDatePlaceholder", "Return Date"};
+    Derived<std::string> nationality{fields, "nationality", [this] { return model_.nationalityText.get(); }};
+    Constant nationalityPlaceholder{fields, "nationalityPlaceholder", "Select Nationality"};
+    Derived<std::string> travellers{fields, "travellers", [this] { return model_.travellerText.get(); }};
+    Derived<bool> showsReturnDate{fields, "showsReturnDate", [this] { return traits_.hasReturnDate; }};
+    Derived<bool> isFetchingCountries{
+        fields, "isFetchingCountries", [this] { return model_.showProgressView.get(); }};
 
-    Action<> tapOrigin;
-    Action<> swap;
-    Action<> tapDestination;
-    Action<> tapDate;
-    Action<> tapNationality;
-    Action<> tapTravellers;
-    Action<> search;
+    Action<> tapOrigin{*this, "tapOrigin", [this] { (appState_.*traits_.originActive) = true; }};
+    Action<> swap{*this, "swap", [this] { model_.swapLocations(); }};
+    Action<> tapDestination{
+        *this, "tapDestination", [this] { (appState_.*traits_.destinationActive) = true; }};
+    Action<> tapDate{*this, "tapDate", [this] { datePickerIsActive = true; }};
+    Action<> tapNationality{*this, "tapNationality", [this] { chooseNationality(); }};
+    Action<> tapTravellers{
+        *this, "tapTravellers", [this] { model_.showTravellerSheet = !model_.showTravellerSheet.get(); }};
+    Action<> search{*this, "search", [this] { checkAndSearch(); }};
 
 private:
+    /// A date of the form, which is shown once its text has been chosen.
+    static std::string shownDate(const std::string& text, Day date);
     void chooseNationality();
     void checkAndSearch();
     void refuse(const char* message);
     SearchRequest request() const;
+    std::shared_ptr<Screen> makeOriginSearch();
+    std::shared_ptr<Screen> makeDestinationSearch();
+    std::shared_ptr<Screen> makeList();
+    std::shared_ptr<Screen> makeDomesticList();
     std::shared_ptr<Screen> makeDatePicker();
+    std::shared_ptr<Screen> makeTravellerSheet();
+    std::shared_ptr<Screen> makeNationalitySheet();
+    std::shared_ptr<Screen> makeAlert();
+    static std::shared_ptr<Screen> makeSameCityAlert();
 
     bool isInView_ = false;
-    const SearchFormTraits traits_;
-    CompletionCallback completionCallback_;
-    AppState& appState_;
-    MainViewModel& model_;
     CountryProvider countriesProvider_;
-    Model appStateModel_;
-    Model modelModel_;
+    Model appStateModel_{fields, "appState", appState_.fields};
+    Model modelModel_{fields, traits_.modelKey, model_.fields};
 
-    Link originLink_;
-    Link destinationLink_;
-    Link searchLink_;
-    Link domesticLink_;
-    Link dateLink_;
-    Link travellerSheet_;
-    Link nationalitySheet_;
-    Link alert_;
-    Link sameCityAlert_;
+    Link originLink_{
+        *this, Presentation::push, appState_.*traits_.originActive, [this] { return makeOriginSearch(); }};
+    Link destinationLink_{*this, Presentation::push, appState_.*traits_.destinationActive, [this] {
+                              return makeDestinationSearch();
+                          }};
+    Link searchLink_{
+        *this, Presentation::push, appState_.*traits_.searchActive, [this] { return makeList(); }};
+    Link domesticLink_{*this, Presentation::push, appState_.domesticSearchRootViewActive, [this] {
+                           return makeDomesticList();
+                       }};
+    Link dateLink_{*this, Presentation::push, datePickerIsActive, [this] { return makeDatePicker(); }};
+    Link travellerSheet_{
+        *this, Presentation::sheet, model_.showTravellerSheet, [this] { return makeTravellerSheet(); }};
+    Link nationalitySheet_{
+        *this, Presentation::sheet, model_.showNationalitySheet, [this] { return makeNationalitySheet(); }};
+    Link alert_{*this, Presentation::alert, model_.showAlert, [this] { return makeAlert(); }};
+    Link sameCityAlert_{
+        *this, Presentation::alert, model_.showDestinationSameAlert, [] { return makeSameCityAlert(); }};
 };
 
 } // namespace ombrivane
