@@ -59,9 +59,4 @@ private:
     std::shared_ptr<Core> core_;
 };
 
-/// The computation of a word that never changes.
-inline std::function<std::string()> constant(const char* text) {
-    return [text] { return std::string(text); };
-}
-
 } // namespace ombrivane
