@@ -2,7 +2,7 @@
 
 #include "base/Uuid.h"
 #include "dates/Day.h"
-#include "keyed/Keyed.h"
+#include "keyed/Shown.h"
 
 #include <string>
 #include <vector>
@@ -30,17 +30,11 @@ struct CalendarCell {
     bool inRange = false; ///< between departure and return
 
     bool operator==(const CalendarCell&) const = default;
-};
 
-template <> struct Keyed<CalendarCell> {
-    static Json toJson(const CalendarCell& cell) {
-        return Json{{"day", cell.day},
-                    {"date", cell.date},
-                    {"label", cell.label},
-                    {"selectable", cell.selectable},
-                    {"selected", cell.selected},
-                    {"inRange", cell.inRange}};
-    }
+    static constexpr auto shown =
+        table(entry("day", &CalendarCell::day), entry("date", &CalendarCell::date),
+              entry("label", &CalendarCell::label), entry("selectable", &CalendarCell::selectable),
+              entry("selected", &CalendarCell::selected), entry("inRange", &CalendarCell::inRange));
 };
 
 } // namespace ombrivane

@@ -112,34 +112,4 @@ std::string segmentLineImage(std::size_t noOfSegments) {
     return noOfSegments < 2 ? "segmentStraightLine" : "segmentDottedLine";
 }
 
-Json Keyed<SegmentLines>::toJson(const SegmentLines& lines) {
-    return Json{{"carrier", lines.carrier},
-                {"operatedBy", lines.operatedBy},
-                {"from", lines.from},
-                {"departure", lines.departure},
-                {"to", lines.to},
-                {"arrival", lines.arrival},
-                {"connection", lines.connection}};
-}
-
-Json Keyed<JourneyLines>::toJson(const JourneyLines& lines) {
-    return Json{{"carrierLogo", lines.carrierLogo},
-                {"carrierName", lines.carrierName},
-                {"refundability", lines.refundability},
-                {"cabin", lines.cabin},
-                {"departureLocation", lines.departureLocation},
-                {"departureTime", lines.departureTime},
-                {"departureDate", lines.departureDate},
-                {"duration", lines.duration},
-                {"noOfSegments", lines.noOfSegments},
-                {"arrivalLocation", lines.arrivalLocation},
-                {"arrivalTime", lines.arrivalTime},
-                {"arrivalDate", lines.arrivalDate},
-                {"cabinBaggage", lines.cabinBaggage},
-                {"checkInBaggage", lines.checkInBaggage},
-                {"departureCountry", lines.departureCountry},
-                {"arrivalCountry", lines.arrivalCountry},
-                {"segments", Keyed<std::vector<SegmentLines>>::toJson(lines.segments)}};
-}
-
 } // namespace ombrivane

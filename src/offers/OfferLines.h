@@ -1,6 +1,6 @@
 #pragma once
 
-#include "keyed/Keyed.h"
+#include "keyed/Shown.h"
 #include "records/AnyFlight.h"
 
 #include <optional>
@@ -21,6 +21,12 @@ struct SegmentLines {
     std::string connection; ///< empty: no connection follows
 
     bool operator==(const SegmentLines&) const = default;
+
+    static constexpr auto shown =
+        table(entry("carrierLogo", &SegmentLines::carrierLogo), entry("carrier", &SegmentLines::carrier),
+              entry("operatedBy", &SegmentLines::operatedBy), entry("from", &SegmentLines::from),
+              entry("departure", &SegmentLines::departure), entry("to", &SegmentLines::to),
+              entry("arrival", &SegmentLines::arrival), entry("connection", &SegmentLines::connection));
 };
 
 /// One journey of an offer, as its card shows it.
@@ -45,6 +51,20 @@ struct JourneyLines {
     std::vector<SegmentLines> segments;
 
     bool operator==(const JourneyLines&) const = default;
+
+    static constexpr auto shown = table(
+        entry("carrierLogo", &JourneyLines::carrierLogo), entry("carrierName", &JourneyLines::carrierName),
+        entry("refundability", &JourneyLines::refundability), entry("cabin", &JourneyLines::cabin),
+        entry("departureLocation", &JourneyLines::departureLocation),
+        entry("departureTime", &JourneyLines::departureTime),
+        entry("departureDate", &JourneyLines::departureDate), entry("duration", &JourneyLines::duration),
+        entry("noOfSegments", &JourneyLines::noOfSegments), entry("lineImage", &JourneyLines::lineImage),
+        entry("arrivalLocation", &JourneyLines::arrivalLocation),
+        entry("arrivalTime", &JourneyLines::arrivalTime), entry("arrivalDate", &JourneyLines::arrivalDate),
+        entry("cabinBaggage", &JourneyLines::cabinBaggage),
+        entry("checkInBaggage", &JourneyLines::checkInBaggage),
+        entry("departureCountry", &JourneyLines::departureCountry),
+        entry("arrivalCountry", &JourneyLines::arrivalCountry), entry("segments", &JourneyLines::segments));
 };
 
 /// An offer as its card shows it: one journey, or on a round trip two.
@@ -68,8 +88,5 @@ OfferLines placeholderLines(std::size_t journeys);
 
 /// The line that carries the plane: straight for a direct flight, dotted for a connection.
 std::string segmentLineImage(std::size_t noOfSegments);
-
-template <> struct Keyed<SegmentLines> { static Json toJson(const SegmentLines& lines); };
-template <> struct Keyed<JourneyLines> { static Json toJson(const JourneyLines& lines); };
 
 } // namespace ombrivane
