@@ -21,7 +21,7 @@
 namespace ombrivane {
 
 /// The travellers of a booking in one line, as "2 A , 1 I".
-std::string passengerSummary(const std::vector<UniquePassanger>& slots);
+std::string passengerSummary(const std::vector<UniquePassanger>& passengerSlots);
 
 /// The summary card of what was priced, one block for each direction, with the way to the details.
 class FlightInformationView : public Screen {
@@ -44,7 +44,7 @@ public:
 
 protected:
     FlightInformationView(std::string_view screenName, std::string cabinName, const Field<bool>& loading,
-                          const Field<std::vector<UniquePassanger>>& slots,
+                          const Field<std::vector<UniquePassanger>>& passengerSlots,
                           std::function<std::vector<JourneyCard>()> cards,
                           std::function<std::shared_ptr<Screen>()> details) :
         Screen(screenName),
@@ -52,7 +52,7 @@ protected:
         makeDetails_(std::move(details)),
         bookingClass(fields, "bookingClass", std::move(cabinName)),
         isLoading(fields, "isLoading", loading),
-        uniquePassangers(fields, "uniquePassangers", slots) {}
+        uniquePassangers(fields, "uniquePassangers", passengerSlots) {}
 
 private:
     Link details_{*this, Presentation::push, navigationIsActive, [this] { return makeDetails_(); }};
@@ -63,9 +63,10 @@ template <class Trip> class FlightInformationOf final : public FlightInformation
 
 public:
     FlightInformationOf(const Field<Availability>& availability, std::string cabinName,
-                        const Field<bool>& loading, const Field<std::vector<UniquePassanger>>& slots) :
+                        const Field<bool>& loading,
+                        const Field<std::vector<UniquePassanger>>& passengerSlots) :
         FlightInformationView(
-            TripScreens<Trip>::information, std::move(cabinName), loading, slots,
+            TripScreens<Trip>::information, std::move(cabinName), loading, passengerSlots,
             [this] { return journeyCards(flightsSummary.get()); },
             [this] { return std::make_shared<FlightDetailsOf<Trip>>(flightsSummary.get()); }),
         availability_(unkeyed_, "availability", availability) {}

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace ombrivane {
 
@@ -27,6 +28,21 @@ public:
     virtual void present(Handler handler) = 0;
     /// Closes it; the handler is let go and not called again. Main thread.
     virtual void dismiss() = 0;
+
+    /// A part of a picture, in parts of the whole from 0 to 1.
+    struct Crop {
+        double x;
+        double y;
+        double width;
+        double height;
+    };
+    /// Whether the device has no picker of its own: a page of the view asks for a file and tells by `choose`
+    /// or `cancel` what the customer did. Main thread, as those two.
+    virtual bool asksForFile() const { return false; }
+    /// The customer chose the part `crop` of the picture at `url`.
+    virtual void choose(const std::string& /*url*/, const Crop& /*crop*/) {}
+    /// The customer chose nothing.
+    virtual void cancel() {}
 };
 
 } // namespace ombrivane

@@ -1,8 +1,8 @@
 #include "offers/OfferLines.h"
 
-#include "Offers.h"
 #include "fakes/World.h"
 #include "offers/OfferFormat.h"
+#include "results/Offers.h"
 
 #include <gtest/gtest.h>
 

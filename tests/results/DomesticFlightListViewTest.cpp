@@ -1,6 +1,6 @@
 #include "results/DomesticFlightListView.h"
 
-#include "ResultsFixture.h"
+#include "results/ResultsFixture.h"
 
 #include <limits>
 

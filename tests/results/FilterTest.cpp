@@ -1,6 +1,6 @@
-#include "Offers.h"
 #include "fakes/World.h"
 #include "results/FilterBottomSheetViewModel.h"
+#include "results/Offers.h"
 #include "results/TimeBucket.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "results/FlightListView.h"
 
-#include "ResultsFixture.h"
+#include "results/ResultsFixture.h"
 
 #include <limits>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Offers.h"
 #include "Onlooker.h"
 #include "fakes/World.h"
 #include "keyed/Navigator.h"
 #include "results/FilterBottomSheetView.h"
+#include "results/Offers.h"
 #include "results/ResultsScreen.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "Offers.h"
 #include "fakes/World.h"
 #include "keyed/Navigator.h"
+#include "results/Offers.h"
 #include "search/MainView.h"
 #include "search/SelectDestinationFlightView.h"
 #include "search/SelectOriginFlightView.h"

@@ -1,9 +1,9 @@
-#include "Offers.h"
 #include "fakes/World.h"
 #include "keyed/Navigator.h"
 #include "parts/AlertView.h"
 #include "results/DomesticFlightListView.h"
 #include "results/FlightListView.h"
+#include "results/Offers.h"
 #include "search/MainView.h"
 #include "search/NationalityBottomSheetView.h"
 

@@ -1,14 +1,8 @@
 #include "adapters/BookingAdapters.h"
 
-#include "device/FileDialogPhotos.h"
 #include "platform/Platform.h"
 
 namespace ombrivane::view {
-namespace {
-
-FileDialogPhotos* picker() { return dynamic_cast<FileDialogPhotos*>(platform().photos.get()); }
-
-} // namespace
 
 std::shared_ptr<Screen> SessionAdapter::part(std::string_view key) const {
     for (const Part* part : core().parts()) {
@@ -22,14 +16,13 @@ PaymentAdapter* SessionAdapter::payment() {
     return core().showPaymentView ? payment_.get() : nullptr;
 }
 
-bool PhotoPickerAdapter::asksForFile() const { return picker() != nullptr; }
+bool PhotoPickerAdapter::asksForFile() const { return platform().photos->asksForFile(); }
 
 void PhotoPickerAdapter::choose(const QUrl& file, const QRectF& crop) {
-    if (auto* photos = picker()) photos->choose(file, crop);
+    platform().photos->choose(file.toString().toStdString(),
+                              {crop.x(), crop.y(), crop.width(), crop.height()});
 }
 
-void PhotoPickerAdapter::cancel() {
-    if (auto* photos = picker()) photos->cancel();
-}
+void PhotoPickerAdapter::cancel() { platform().photos->cancel(); }
 
 } // namespace ombrivane::view

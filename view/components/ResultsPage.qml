@@ -19,8 +19,6 @@ FocusScope {
     Connections {
         target: page.results
         function onContentChanged() { page.showContent() }
-        // What former pages left is collected while the customer waits, not while a list is scrolled.
-        function onIsLoadingChanged() { if (page.results.isLoading) gc() }
     }
     Binding { target: content.shown; when: content.shown !== null; property: "topInset"; value: header.fullHeight }
     Binding { target: content.shown; when: content.shown !== null; property: "collapsedInset"; value: header.collapsedHeight }

@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 
 #include <QFile>
+#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
@@ -16,13 +17,13 @@ namespace {
 constexpr int bytesOfPoint = 4;
 
 /// The part of `image` that lies in `crop`, at least one point of it.
-Image cropped(const Image& image, const QRectF& crop) {
-    const int left = std::clamp(static_cast<int>(std::lround(crop.left() * image.width)), 0, image.width - 1);
-    const int top = std::clamp(static_cast<int>(std::lround(crop.top() * image.height)), 0, image.height - 1);
+Image cropped(const Image& image, const PhotoLibrary::Crop& crop) {
+    const int left = std::clamp(static_cast<int>(std::lround(crop.x * image.width)), 0, image.width - 1);
+    const int top = std::clamp(static_cast<int>(std::lround(crop.y * image.height)), 0, image.height - 1);
     const int right =
-        std::clamp(static_cast<int>(std::lround(crop.right() * image.width)), left + 1, image.width);
-    const int bottom =
-        std::clamp(static_cast<int>(std::lround(crop.bottom() * image.height)), top + 1, image.height);
+        std::clamp(static_cast<int>(std::lround((crop.x + crop.width) * image.width)), left + 1, image.width);
+    const int bottom = std::clamp(
+        static_cast<int>(std::lround((crop.y + crop.height) * image.height)), top + 1, image.height);
     const auto rowBytes = static_cast<std::size_t>(right - left) * bytesOfPoint;
     auto points =
         std::make_shared<std::vector<std::uint8_t>>(rowBytes * static_cast<std::size_t>(bottom - top));
@@ -37,8 +38,8 @@ Image cropped(const Image& image, const QRectF& crop) {
     return {right - left, bottom - top, std::move(points)};
 }
 
-std::string contentsOf(const QUrl& url) {
-    QFile file(url.toLocalFile());
+std::string contentsOf(const std::string& url) {
+    QFile file(QUrl(QString::fromStdString(url)).toLocalFile());
     if (!file.open(QIODevice::ReadOnly)) return "";
     if (file.size() > static_cast<qint64>(limits::documentBytes)) return "";
     return file.readAll().toStdString();
@@ -46,8 +47,8 @@ std::string contentsOf(const QUrl& url) {
 
 } // namespace
 
-void FileDialogPhotos::choose(const QUrl& file, const QRectF& crop) {
-    const auto image = platform().images->decode(contentsOf(file), documentLimits());
+void FileDialogPhotos::choose(const std::string& url, const Crop& crop) {
+    const auto image = platform().images->decode(contentsOf(url), documentLimits());
     answer({false, image ? std::optional(cropped(*image, crop)) : std::nullopt});
 }
 

@@ -2,10 +2,6 @@
 
 #include "platform/PhotoLibrary.h"
 
-#include <QObject>
-#include <QRectF>
-#include <QUrl>
-
 namespace ombrivane::view {
 
 /// The picker of a desktop: a file, then the part of it that is kept. The picker's page shows a file dialog
@@ -15,9 +11,9 @@ public:
     void present(Handler handler) override { handler_ = std::move(handler); }
     void dismiss() override { handler_ = nullptr; }
 
-    /// The customer chose the part `crop` (in parts of the whole, 0 to 1) of the picture in `file`.
-    void choose(const QUrl& file, const QRectF& crop);
-    void cancel();
+    bool asksForFile() const override { return true; }
+    void choose(const std::string& url, const Crop& crop) override;
+    void cancel() override;
 
 private:
     void answer(Picked picked);
