@@ -3,7 +3,6 @@
 #include "base/Api.h"
 
 #include <array>
-#include <compare>
 #include <cstdint>
 #include <functional>
 #include <optional>

@@ -1,3 +1,4 @@
+#include "AlteringNetwork.h"
 #include "Wallet.h"
 #include "services/JsonSpans.h"
 
@@ -10,39 +11,12 @@
 namespace ombrivane {
 namespace {
 
-std::string operationOf(const std::string& url) { return url.substr(url.find_last_of('/') + 1); }
-
-/// In front of the network that the wallet answers for: changes what one operation answers.
-class DamagingNetwork final : public Network {
-public:
-    /// From an operation and its honest answer to what arrives.
-    using Damage = std::function<std::string(const std::string& operation, const std::string& text)>;
-
-    DamagingNetwork(std::shared_ptr<Network> inner, Damage damage) :
-        inner_(std::move(inner)), damage_(std::move(damage)) {}
-    void send(HttpRequest request, HttpCompletion completion) override {
-        const std::string operation = operationOf(request.url);
-        inner_->send(std::move(request),
-                     [completion = std::move(completion), damage = damage_, operation](HttpAnswer answer) {
-                         if (answer.data) answer.data = damage(operation, *answer.data);
-                         completion(std::move(answer));
-                     });
-    }
-    void fetchPicture(const std::string& url, HttpCompletion completion) override {
-        inner_->fetchPicture(url, std::move(completion));
-    }
-
-private:
-    std::shared_ptr<Network> inner_;
-    Damage damage_;
-};
-
 /// Books as far as the screens let it, every member of every screen observed. Whatever an answer says: no
 /// fault, one hand-over at most, and nothing is heard of a view that is gone.
-void book(const Trip& trip, const DamagingNetwork::Damage& damage) {
+void book(const Trip& trip, const AlteringNetwork::Alter& damage) {
     fakes::World world;
     Platform ports = platform();
-    ports.network = std::make_shared<DamagingNetwork>(world.network, damage);
+    ports.network = std::make_shared<AlteringNetwork>(world.network, damage);
     Platform::install(ports);
     Wallet wallet(world, trip, true);
     insist(wallet);

@@ -7,7 +7,7 @@
 namespace ombrivane {
 namespace {
 
-Day day(const char* text) { return Day::parse(text).value(); }
+Day dayOf(const char* text) { return Day::parse(text).value(); }
 
 std::string ends(const DateWheels::Wheel& wheel) {
     return wheel.entries.front() + " to " + wheel.entries.back() + " at " +
@@ -31,8 +31,8 @@ TEST(DateWheelsTest, OfferTheYearsMonthsAndDaysOfTheDevicesCalendar) {
     fakes::World world;
     for (const auto& [locale, years, months, days] : cases) {
         world.localization->localeName = locale;
-        DateWheels wheels(day("1927-01-10"), day("2026-11-21"));
-        wheels.choose(day("1990-05-17"));
+        DateWheels wheels(dayOf("1927-01-10"), dayOf("2026-11-21"));
+        wheels.choose(dayOf("1990-05-17"));
         EXPECT_EQ(ends(wheels.years()), years) << locale;
         EXPECT_EQ(ends(wheels.months()), months) << locale;
         EXPECT_EQ(ends(wheels.days()), days) << locale;
@@ -41,8 +41,8 @@ TEST(DateWheelsTest, OfferTheYearsMonthsAndDaysOfTheDevicesCalendar) {
 
 TEST(DateWheelsTest, EveryEntryOfEveryWheelCanBeTurnedToAndStaysWithinTheLimits) {
     fakes::World world;
-    const Day earliest = day("2019-01-10");
-    const Day latest = day("2026-11-21");
+    const Day earliest = dayOf("2019-01-10");
+    const Day latest = dayOf("2026-11-21");
     for (const char* locale :
          {"en_US", "ne_NP", "ar_EG", "ar_SA", "fa_IR", "th_TH", "bn_BD", "he_IL@calendar=hebrew"}) {
         world.localization->localeName = locale;
@@ -67,9 +67,10 @@ TEST(DateWheelsTest, EveryEntryOfEveryWheelCanBeTurnedToAndStaysWithinTheLimits)
 
 TEST(DateWheelsTest, ProposeTheMiddleOfTwoLimitsAndTheOnlyOne) {
     const fakes::World world;
-    EXPECT_EQ(DateWheels(day("1927-01-10"), day("2026-11-21")).day().text(), "1976-01-10");
-    EXPECT_EQ(DateWheels(day("2027-07-10")).day().text(), "2027-07-10");
-    EXPECT_EQ(DateWheels(day("2027-07-10")).years().entries.size(), 31U) << "no document is valid for longer";
+    EXPECT_EQ(DateWheels(dayOf("1927-01-10"), dayOf("2026-11-21")).day().text(), "1976-01-10");
+    EXPECT_EQ(DateWheels(dayOf("2027-07-10")).day().text(), "2027-07-10");
+    EXPECT_EQ(DateWheels(dayOf("2027-07-10")).years().entries.size(), 31U)
+        << "no document is valid for longer";
 }
 
 } // namespace
