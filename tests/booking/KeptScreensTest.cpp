@@ -111,10 +111,13 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(KeptScreensTest, EveryFieldStandsWhereItBelongs) {
     wallet.toGate();
     look("rules, over the list");
+    const std::string list = GetParam().second.domestic ? "DomesticFlightListView" : "FlightListView";
+    screens["card"] = wallet.get(list + ".rows[0].journeys");
     wallet.answer();
     wallet.tap("continue");
     look("session that waits");
     wallet.answer();
+    screens["passenger"] = wallet.get("contact.rows[0].title");
     wallet.tap("information.viewDetails");
     look("flight details");
     wallet.tap("close");
