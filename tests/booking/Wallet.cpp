@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <stdexcept>
 #include <utility>
@@ -108,8 +109,9 @@ void Wallet::pick() {
 void Wallet::answer(std::size_t index) {
     // Kept as text: many roads are played.
     static std::map<std::string, std::string> kept;
-    const std::string key = fmt::format("{} {} {} {} {} {} {}",
+    const std::string key = fmt::format("{} {} {} {} {} {} {} {}",
                                         waitingFor(index),
+                                        reinterpret_cast<std::uintptr_t>(trip_.offers),
                                         trip_.availability,
                                         documents,
                                         adults,
