@@ -31,10 +31,10 @@ public:
 
     /// A part of a picture, in parts of the whole from 0 to 1.
     struct Crop {
-        double x;
-        double y;
-        double width;
-        double height;
+        double x;      ///< of its left side
+        double y;      ///< of its upper side
+        double width;  ///< up to its right side
+        double height; ///< up to its lower side
     };
     /// Whether the device has no picker of its own: a page of the view asks for a file and tells by `choose`
     /// or `cancel` what the customer did. Main thread, as those two.
