@@ -32,15 +32,6 @@ std::shared_ptr<OneWayFlightListView> DomesticFlightListView::makeList(const Fie
         true);
 }
 
-OfferSelection DomesticFlightListView::oneWaySelection() {
-    return {flightListVM.flight,
-            flightListVM.showContinueButton,
-            flightListVM.displayedSegmentId,
-            flightListVM.selectedFlightSegmentId,
-            flightListVM.flightSelected,
-            showSegmant};
-}
-
 OfferSelection DomesticFlightListView::departureSelection() {
     return {flightListVM.flight,
             flightListVM.showContinueButton,
@@ -110,7 +101,7 @@ void DomesticFlightListView::tapReturnTab() {
 void DomesticFlightListView::clearSelection() {
     if (!flightListVM.hasReturnDate) {
         flightListVM.showContinueButton = false;
-        return oneWaySelection().clear();
+        return selection().clear();
     }
     if (flightListVM.index == departureTab) {
         flightListVM.showContinueButton = false;

@@ -48,7 +48,6 @@ private:
                            CompletionCallback completionCallback);
     std::shared_ptr<OneWayFlightListView> makeList(const Field<OneWayOffers>& shown,
                                                    const OfferSelection& selection, const Constant& title);
-    OfferSelection oneWaySelection();
     OfferSelection departureSelection();
     OfferSelection returnSelection();
     void tapReturnTab();
@@ -60,7 +59,7 @@ private:
     Fields unkeyed_;
     Published<bool> noContinueButton_{unkeyed_, "showContinueButton"};
     std::shared_ptr<OneWayFlightListView> oneWayList_ =
-        makeList(flightListVM.filteredOnewayFlights, oneWaySelection(), departingTitle);
+        makeList(flightListVM.filteredOnewayFlights, selection(), departingTitle);
     std::shared_ptr<OneWayFlightListView> departureList_ =
         makeList(flightListVM.filteredDepartureFlights, departureSelection(), departingTitle);
     std::shared_ptr<OneWayFlightListView> returnList_ =

@@ -21,15 +21,6 @@ FlightListView::FlightListView(SearchRequest searchRequest,
                   std::move(completionCallback)),
     flightListVM(*viewModel) {}
 
-OfferSelection FlightListView::selection() {
-    return {flightListVM.flight,
-            flightListVM.showContinueButton,
-            flightListVM.displayedSegmentId,
-            flightListVM.selectedFlightSegmentId,
-            flightListVM.flightSelected,
-            showSegmant};
-}
-
 OfferListBindings FlightListView::listBindings() {
     return {flightListVM.isLoading, flightListVM.scrollToTop, selection()};
 }

@@ -27,7 +27,6 @@ protected:
 private:
     FlightListView(SearchRequest request, const std::shared_ptr<FlightListViewModel>& model,
                    CompletionCallback completionCallback);
-    OfferSelection selection();
     OfferListBindings listBindings();
     void clearSelection();
 

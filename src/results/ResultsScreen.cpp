@@ -67,6 +67,15 @@ bool ResultsScreen::takeIn(const std::optional<Error>& error) {
     return false;
 }
 
+OfferSelection ResultsScreen::selection() {
+    return {model_->flight,
+            model_->showContinueButton,
+            model_->displayedSegmentId,
+            model_->selectedFlightSegmentId,
+            model_->flightSelected,
+            showSegmant};
+}
+
 void ResultsScreen::refuse(const char* message) {
     errorMessage = message;
     model_->showSnackBar = true;

@@ -128,6 +128,8 @@ protected:
             model_->isLoading = false;
         });
     }
+    /// The choice in a list of one-way or of round-trip offers.
+    OfferSelection selection();
     /// Says why the way on is closed.
     void refuse(const char* message);
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }
