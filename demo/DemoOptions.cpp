@@ -21,6 +21,8 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
         {"--now", [&](Value value) { options.now = value; }},
         {"--locale", [&](Value value) { options.locale = value; }},
+        {"--language", [&](Value value) { options.language = value; }},
+        {"--region", [&](Value value) { options.region = value; }},
         {"--time-zone", [&](Value value) { options.timeZone = value; }},
         {"--text-scale", [&](Value value) { options.textScale = std::stod(value); }},
         {"--width", [&](Value value) { options.width = std::stoi(value); }},
@@ -56,6 +58,7 @@ std::string DemoOptions::usage() {
            "  --client-id TEXT     --client-secret TEXT\n"
            "  --wallet-balance N   --now ISO-TIME\n"
            "  --locale NAME        --time-zone NAME   in place of the system's own\n"
+           "  --language TAG       --region NAME      what the wallet chooses: ne, ar, device; NP\n"
            "  --dark               --text-scale N     --width N   --height N   --still (no motion)\n"
            "  --slow               --fault TEXT       trouble of the own booking service, see "
            "docs/sandbox.md\n"

@@ -18,8 +18,10 @@ struct DemoOptions {
     std::string picture;        ///< takes a picture of the first screen and ends
     std::vector<std::string> faults;
     std::string now;
-    std::string locale;   ///< such as "ne_NP"; empty for the system's
-    std::string timeZone; ///< such as "Asia/Kathmandu"; empty for the system's
+    std::string locale;                  ///< such as "ne_NP"; empty for the system's
+    std::optional<std::string> language; ///< what the wallet chooses: a tag, or "device"
+    std::optional<std::string> region;   ///< such as "NP"
+    std::string timeZone;                ///< such as "Asia/Kathmandu"; empty for the system's
     bool dark = false;
     double textScale = 1;
     int width = 390;

@@ -106,6 +106,8 @@ void DemoWallet::makeWindow() {
     session_ = window_->findChild<view::OmbrivaneSession*>();
     session_->clientId = QString::fromStdString(options_.clientId);
     session_->clientSecret = QString::fromStdString(options_.clientSecret);
+    if (options_.language) session_->setLanguage(QString::fromStdString(*options_.language));
+    if (options_.region) session_->setRegion(QString::fromStdString(*options_.region));
 }
 
 void DemoWallet::listen() {

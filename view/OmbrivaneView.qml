@@ -11,6 +11,9 @@ FocusScope {
     property alias walletBalance: session.walletBalance
     property alias phone: session.phone
     property alias environment: session.environment
+    property alias language: session.language
+    property alias region: session.region
+    property alias texts: session.texts
     property alias session: session
     property bool dark: false
     property real textScale: 1
@@ -33,6 +36,8 @@ FocusScope {
     }
     Stage {
         anchors.fill: parent
+        LayoutMirroring.enabled: Words.rightToLeft
+        LayoutMirroring.childrenInherit: true
         focus: true
         model: session.stage
     }

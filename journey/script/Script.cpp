@@ -6,6 +6,7 @@
 #include "base/Fault.h"
 #include "platform/JpegPngCodec.h"
 #include "platform/Platform.h"
+#include "words/LanguageChoice.h"
 
 #include <fstream>
 #include <sstream>
@@ -77,6 +78,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"back", [this](const std::string&) { back(); }},
         {"expect", [this](const std::string& arguments) { expect(arguments); }},
         {"in", [this](const std::string& arguments) { inLocale(arguments); }},
+        {"speak", [](const std::string& arguments) { speak(arguments); }},
         {"wait", [this](const std::string& arguments) { wait(arguments); }},
         {"wait-screen", [this](const std::string& arguments) { waitScreen(arguments); }},
         {"wait-event", [this](const std::string& arguments) { waitEvent(arguments); }},
@@ -109,6 +111,10 @@ std::string Script::help() {
            "  in LOCALE COMMAND             the command, where the device speaks this: what is shown of "
            "dates and "
            "numbers\n"
+           "  speak [LANGUAGE [REGION]]     the wallet chooses a language, \"device\" for the device's, or "
+           "takes its "
+           "choice\n"
+           "                                back\n"
            "  wait PATH JSON [SECONDS]      waits until it is (10 s unless told)\n"
            "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
            "  wait-event NAME [OBJECT] [SECONDS]\n"
@@ -288,6 +294,14 @@ void Script::noEvent(const std::string& name) {
 void Script::inLocale(const std::string& arguments) {
     const auto [locale, command] = split(arguments);
     if (platform().localization->locale() == locale) run(command);
+}
+
+void Script::speak(const std::string& arguments) {
+    const auto [language, region] = split(arguments);
+    LanguageChoice choice;
+    if (!language.empty()) choice.language = language;
+    if (!region.empty()) choice.region = region;
+    chooseLanguage(std::move(choice));
 }
 
 void Script::pause(const std::string& arguments) {

@@ -66,6 +66,7 @@ private:
     void back();
     void expect(const std::string& arguments);
     void inLocale(const std::string& arguments);
+    static void speak(const std::string& arguments);
     void wait(const std::string& arguments);
     void waitScreen(const std::string& arguments);
     void waitEvent(const std::string& arguments);

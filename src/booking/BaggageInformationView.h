@@ -1,12 +1,12 @@
 #pragma once
 
 #include "booking/TripScreens.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "keyed/Shown.h"
 #include "records/KeyedRecords.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <optional>
@@ -38,9 +38,9 @@ class BaggageInformationView : public Screen {
 
 public:
     Binding<bool> isLoading;
-    Constant title{fields, "title", "Baggage Information"};
-    Constant cabinLabel{fields, "cabinLabel", "Cabin Baggage"};
-    Constant checkInLabel{fields, "checkInLabel", "Check-In Baggage"};
+    Caption title{fields, "title", Text::baggageTitle};
+    Caption cabinLabel{fields, "cabinLabel", Text::cabinBaggage};
+    Caption checkInLabel{fields, "checkInLabel", Text::checkInBaggage};
     Derived<std::vector<BaggageBlock>> blocks{fields, "blocks", [this] { return makeBlocks_(); }};
 
 protected:

@@ -2,6 +2,7 @@
 
 #include "base/Https.h"
 #include "base/Url.h"
+#include "offers/CabinClass.h"
 #include "offers/OfferFormat.h"
 #include "platform/OnMain.h"
 #include "records/Encode.h"
@@ -11,16 +12,19 @@
 namespace ombrivane {
 namespace {
 
-constexpr const char* waiting = "Loading ...";
+/// What a block holds before its availability has arrived.
+TicketFlightBlock waitingBlock(Text title) {
+    const std::string waiting = said(Text::loading);
+    return {said(title), waiting, waiting, waiting, waiting, waiting, waiting, waiting};
+}
 
 } // namespace
 
 std::vector<TicketFlightBlock> ticketFlights(const std::optional<OWFlightAvailability>& availability) {
-    if (!availability)
-        return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
+    if (!availability) return {waitingBlock(Text::ticketDeparting)};
     const auto& flights = availability->flightsSummary;
     const auto& baggage = availability->baggageDetails;
-    return {{"Departing Flight",
+    return {{said(Text::ticketDeparting),
              flights.departCityName,
              flights.deptTime,
              flights.destCityName,
@@ -32,13 +36,12 @@ std::vector<TicketFlightBlock> ticketFlights(const std::optional<OWFlightAvailab
 
 std::vector<TicketFlightBlock> ticketFlights(const std::optional<RTFlightAvailability>& availability) {
     if (!availability) {
-        return {{"Departing Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting},
-                {"Returning Flight", waiting, waiting, waiting, waiting, waiting, waiting, waiting}};
+        return {waitingBlock(Text::ticketDeparting), waitingBlock(Text::ticketReturning)};
     }
     const auto& flights = availability->flightsSummary;
     const auto& going = availability->baggageDetails.outbound;
     const auto& coming = availability->baggageDetails.baggageDetailsReturn;
-    return {{"Departing Flight",
+    return {{said(Text::ticketDeparting),
              flights.departCityName,
              flights.deptTime,
              flights.destCityName,
@@ -46,7 +49,7 @@ std::vector<TicketFlightBlock> ticketFlights(const std::optional<RTFlightAvailab
              OfferFormat::formatDate(flights.deptDate),
              going.cabin,
              going.baggage},
-            {"Returning Flight",
+            {said(Text::ticketReturning),
              flights.returnDepartCityName,
              flights.returnDeptTime,
              flights.returnDestCityName,
@@ -57,7 +60,7 @@ std::vector<TicketFlightBlock> ticketFlights(const std::optional<RTFlightAvailab
 }
 
 BookingConfirmationView::BookingConfirmationView(std::string_view screenName,
-                                                 std::vector<TicketFlightBlock> flights,
+                                                 std::function<std::vector<TicketFlightBlock>()> flights,
                                                  std::optional<BookingSummary> summary, std::string cabinName,
                                                  std::vector<Passenger> localPassengers,
                                                  CompletionCallback completionCallback) :
@@ -130,11 +133,15 @@ std::vector<TicketPassengerBlock> BookingConfirmationView::makePassengerBlocks()
     std::vector<TicketPassengerBlock> blocks;
     for (const auto& passenger : flightTicketingPassengers.get()) {
         TicketPassengerBlock& block = blocks.emplace_back();
-        block.title = "Passenger " + std::to_string(blocks.size());
+        block.title = said(Text::ticketPassenger, {{"number", static_cast<std::int64_t>(blocks.size())}});
         block.name = passenger.passengerName;
-        block.lines = {{"Type", passenger.passengerType, "Reservation No.", passenger.pnr},
-                       {"eTicketNumber", passenger.eticketNumber, "Class", flightClass},
-                       {"Status", "Confirmed", "", ""}};
+        block.lines = {
+            {said(Text::ticketType), passenger.passengerType, said(Text::ticketReservation), passenger.pnr},
+            {said(Text::ticketETicket),
+             passenger.eticketNumber,
+             said(Text::ticketClass),
+             cabinLabel(flightClass)},
+            {said(Text::ticketStatus), said(Text::ticketConfirmed), "", ""}};
     }
     return blocks;
 }

@@ -3,7 +3,6 @@
 #include "booking/TicketTravellerInfo.h"
 #include "booking/TripScreens.h"
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
@@ -16,7 +15,9 @@
 #include "services/DownloadTicketProvider.h"
 #include "services/FlightTicketingProvider.h"
 #include "state/CompletionCallback.h"
+#include "words/Caption.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -47,10 +48,11 @@ public:
     Published<std::vector<FlightTicketingPassenger>> flightTicketingPassengers{fields,
                                                                                "flightTicketingPassengers"};
 
-    Constant title{fields, "title", "Booking Confirmed"};
-    Constant text{fields, "text", "You will receive eTicket and itinerary on your email address."};
-    Constant downloadText{fields, "downloadText", "Download Ticket"};
-    Derived<std::vector<TicketFlightBlock>> flightBlocks{fields, "flightBlocks", [this] { return flights_; }};
+    Caption title{fields, "title", Text::ticketTitle};
+    Caption text{fields, "text", Text::ticketText};
+    Caption downloadText{fields, "downloadText", Text::ticketDownload};
+    Derived<std::vector<TicketFlightBlock>> flightBlocks{
+        fields, "flightBlocks", [this] { return flights_(); }};
     Derived<std::vector<TicketPassengerBlock>> passengerBlocks{
         fields, "passengerBlocks", [this] { return makePassengerBlocks(); }};
     Action<> back{*this, "back", [this] { leave(); }, [this] { return !isLoading; }};
@@ -59,7 +61,7 @@ public:
     Action<> share{*this, "share", [this] { fetchDocument(); }, [this] { return !showProgressView; }};
 
 protected:
-    BookingConfirmationView(std::string_view name, std::vector<TicketFlightBlock> flights,
+    BookingConfirmationView(std::string_view name, std::function<std::vector<TicketFlightBlock>()> flights,
                             std::optional<BookingSummary> summary, std::string cabinName,
                             std::vector<Passenger> localPassengers, CompletionCallback completionCallback);
 
@@ -71,7 +73,7 @@ private:
     void fetchDocument();
     std::vector<TicketPassengerBlock> makePassengerBlocks() const;
 
-    std::vector<TicketFlightBlock> flights_;
+    std::function<std::vector<TicketFlightBlock>()> flights_;
     CompletionCallback completionCallback_;
     FlightTicketingProvider flightTicketingProvider_;
     DownloadTicketProvider downloadTicketProvider_;
@@ -86,9 +88,10 @@ public:
     BookingConfirmationOf(Availability availability, std::optional<BookingSummary> summary,
                           std::string cabinName, std::vector<Passenger> localPassengers,
                           CompletionCallback completionCallback) :
-        BookingConfirmationView(TripScreens<Trip>::confirmation, ticketFlights(availability),
-                                std::move(summary), std::move(cabinName), std::move(localPassengers),
-                                std::move(completionCallback)),
+        BookingConfirmationView(
+            TripScreens<Trip>::confirmation, [this] { return ticketFlights(flightAvailability.get()); },
+            std::move(summary), std::move(cabinName), std::move(localPassengers),
+            std::move(completionCallback)),
         flightAvailability(fields, TripScreens<Trip>::availabilityKey, std::move(availability)) {}
 
     Published<Availability> flightAvailability;

@@ -13,8 +13,6 @@
 namespace ombrivane {
 namespace {
 
-constexpr const char* contactMissing = "Please fill the details for emergency contact.";
-constexpr const char* passengersMissing = "Please fill the details for all passengers.";
 constexpr std::chrono::milliseconds second{1000};
 
 } // namespace
@@ -83,8 +81,8 @@ bool BookingSession::everySlotIsFilled() const {
 }
 
 void BookingSession::proceed() {
-    if (!emergencyContact.get()) return refuse(contactMissing);
-    if (!everySlotIsFilled()) return refuse(passengersMissing);
+    if (!emergencyContact.get()) return refuse(said(Text::sessionContactMissing));
+    if (!everySlotIsFilled()) return refuse(said(Text::sessionPassengersMissing));
     showProgressView = true;
     reserve();
 }
@@ -110,7 +108,7 @@ void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
     if (!booking)
         return failReservation({errorDomain::service,
                                 static_cast<int>(ServiceError::noReservation),
-                                "The reservation was not answered."});
+                                said(Text::errorReservationNotAnswered)});
     if (!documentsRequired()) return handOver(*booking);
     willUpload();
     upload(*booking);

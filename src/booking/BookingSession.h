@@ -6,7 +6,6 @@
 #include "booking/TravelDates.h"
 #include "images/KeyedImage.h"
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
@@ -19,6 +18,8 @@
 #include "services/PassengerDocumentsProvider.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <memory>
 #include <optional>
@@ -57,7 +58,7 @@ public:
     Published<std::string> destLocation;
     Published<int> timeRemaining{fields, "timeRemaining", timeAllowed};
     Published<bool> isLoading{fields, "isLoading", true};
-    Published<std::string> appBarTitle{fields, "appBarTitle", "Payment Confirmation"};
+    Published<std::string> appBarTitle{fields, "appBarTitle"};
     Published<std::vector<Passenger>> passengersList{fields, "passengersList"};
     Published<std::vector<std::optional<DocumentPicture>>> documentList{fields, "documentList"};
     Published<std::optional<BookingSummary>> bookingSummary{fields, "bookingSummary"};
@@ -69,22 +70,22 @@ public:
     Published<bool> showProgressView{fields, "showProgressView"};
     Published<bool> showPaymentView{fields, "showPaymentView"};
     Published<std::string> errorMessage{fields, "errorMessage"};
-    Published<std::string> progressMessage{fields, "progressMessage", "Please wait ..."};
+    Published<std::string> progressMessage{fields, "progressMessage"};
     Published<bool> bookingDetailsViewRouteIsActive{fields, "bookingDetailsViewRouteIsActive"};
 
     Derived<std::string> phaseName{fields, "phase", [this] { return std::string(nameOf(phase())); }};
     Derived<std::string> clockText{fields, "clockText", [this] { return minutesAndSeconds(); }};
-    Constant clockLabel{fields, "clockLabel", "left for confirmation"};
+    Caption clockLabel{fields, "clockLabel", Text::sessionClockLabel};
     /// Of the time allowed, from 1 down to 0.
     Derived<double> clockPart{
         fields, "clockPart", [this] { return static_cast<double>(timeRemaining) / timeAllowed; }};
     Derived<bool> isLastMinute{fields, "isLastMinute", [this] { return timeRemaining <= 60; }};
-    Constant totalLabel{fields, "totalLabel", "Total Fare"};
+    Caption totalLabel{fields, "totalLabel", Text::totalFare};
     Derived<std::string> total{fields, "total", [this] { return totalText(); }};
     Derived<bool> showsFoot{fields, "showsFoot", [this] { return !isLoading && !showPaymentView; }};
-    Constant continueText{fields, "continueText", "Continue"};
-    Constant expiredTitle{fields, "expiredTitle", "Session Expired"};
-    Constant expiredButtonText{fields, "expiredButtonText", "Check Latest Fares"};
+    Caption continueText{fields, "continueText", Text::continueOn};
+    Caption expiredTitle{fields, "expiredTitle", Text::sessionExpired};
+    Caption expiredButtonText{fields, "expiredButtonText", Text::sessionCheckFares};
 
     Action<> back{*this, "back", [this] { dismiss(); }, [this] { return allowsNow(SessionControl::back); }};
     Action<> continue_{
@@ -150,6 +151,8 @@ private:
     PassengerDocumentsProvider passengerDocumentsProvider_;
     WorkItem task_;
     WorkItem timer_;
+    SpokenField titleWords_{appBarTitle, Text::sessionTitle};
+    SpokenField progressWords_{progressMessage, Text::sessionWait};
     CustomSnackBarView snackBar_{showSnackBar};
     std::shared_ptr<OWPessangerContactDetailView> contact_ =
         std::make_shared<OWPessangerContactDetailView>(ContactGiven{[this] { return documentsRequired(); },
@@ -166,7 +169,7 @@ private:
                                                    bookingDetailsViewRouteIsActive,
                                                    errorMessage,
                                                    showSnackBar,
-                                                   "Verify OTP"});
+                                                   Text::paymentVerify});
 
 protected:
     /// The payment in place of the content, while its flag is raised.

@@ -44,14 +44,14 @@ void EmergencyContactInformationView::load() {
     ECIVM.isPassanger = contact && contact->isPassenger;
 }
 
-void EmergencyContactInformationView::refuse(const char* text) {
-    message = text;
+void EmergencyContactInformationView::refuse(Text text) {
+    message = said(text);
     ECIVM.showSnackBar = true;
 }
 
 void EmergencyContactInformationView::saveDetails() {
-    if (ECIVM.validate()) return refuse("Please fill the marked fields.");
-    if (ECIVM.numberIsShort()) return refuse("Please enter valid number.");
+    if (ECIVM.validate()) return refuse(Text::fillMarkedFields);
+    if (ECIVM.numberIsShort()) return refuse(Text::contactInvalidNumber);
     EmergencyContact contact;
     contact.contact = ECIVM.phoneNumber;
     contact.email = ECIVM.email;

@@ -2,7 +2,6 @@
 
 #include "booking/EmergencyContactInformationViewModel.h"
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
@@ -10,6 +9,8 @@
 #include "records/EmergencyContact.h"
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <optional>
 #include <string>
@@ -34,12 +35,12 @@ public:
     Published<std::vector<std::string>> allowedDocuments;
     Binding<std::optional<EmergencyContact>> emergencyContact;
     Binding<std::vector<Passenger>> passengersList;
-    Published<std::string> message{fields, "message", "Please fill in all the required fields."};
+    Published<std::string> message{fields, "message"};
     EmergencyContactInformationViewModel ECIVM;
 
-    Constant title{fields, "title", "Emergency Contact Information"};
-    Constant boxText{fields, "boxText", "I'm a passenger."};
-    Constant saveText{fields, "saveText", "Save Details"};
+    Caption title{fields, "title", Text::contactTitle};
+    Caption boxText{fields, "boxText", Text::contactIsPassenger};
+    Caption saveText{fields, "saveText", Text::saveDetails};
     Derived<FormColour> nameColor{fields, "nameColor", [this] { return ECIVM.nameColor(); }};
     Derived<FormColour> surnameColor{fields, "surnameColor", [this] { return ECIVM.surnameColor(); }};
     Derived<FormColour> emailColor{fields, "emailColor", [this] { return ECIVM.emailColor(); }};
@@ -60,10 +61,11 @@ public:
 private:
     void load();
     void saveDetails();
-    void refuse(const char* text);
+    void refuse(Text text);
     void writePassenger();
 
     Model model_{fields, "ECIVM", ECIVM.fields};
+    SpokenField messageWords_{message, Text::contactFillAllFields};
     CustomSnackBarView snackBar_{ECIVM.showSnackBar};
 };
 

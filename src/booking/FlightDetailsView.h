@@ -8,7 +8,9 @@
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "records/KeyedRecords.h"
+#include "words/Caption.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,19 +19,20 @@ namespace ombrivane {
 
 /// The journeys of an availability leg by leg: `OWFlightDetailsView` and `RTFlightDetailsView`.
 class FlightDetailsView : public Screen {
-    std::vector<JourneyCard> cards_;
+    std::function<std::vector<JourneyCard>()> cards_;
 
 public:
-    Constant title{fields, "title", "Flight Details"};
-    Derived<std::string> originCity{fields, "originCity", [this] { return cards_.front().originCity; }};
+    Caption title{fields, "title", Text::flightDetailsTitle};
+    Derived<std::string> originCity{fields, "originCity", [this] { return cards_().front().originCity; }};
     Derived<std::string> destinationCity{
-        fields, "destinationCity", [this] { return cards_.front().destinationCity; }};
+        fields, "destinationCity", [this] { return cards_().front().destinationCity; }};
     Constant routeImage;
-    Derived<std::vector<JourneyCard>> journeys{fields, "journeys", [this] { return cards_; }};
+    Derived<std::vector<JourneyCard>> journeys{fields, "journeys", [this] { return cards_(); }};
     Action<> close{*this, "close", [this] { dismiss(); }};
 
 protected:
-    FlightDetailsView(std::string_view screenName, const char* image, std::vector<JourneyCard> cards) :
+    FlightDetailsView(std::string_view screenName, const char* image,
+                      std::function<std::vector<JourneyCard>()> cards) :
         Screen(screenName), cards_(std::move(cards)), routeImage(fields, "routeImage", image) {}
 };
 
@@ -38,7 +41,8 @@ template <class Trip> class FlightDetailsOf final : public FlightDetailsView {
 
 public:
     explicit FlightDetailsOf(const Summary& summary) :
-        FlightDetailsView(TripScreens<Trip>::details, TripScreens<Trip>::routeImage, journeyCards(summary)),
+        FlightDetailsView(TripScreens<Trip>::details, TripScreens<Trip>::routeImage,
+                          [this] { return journeyCards(flightsSummary.get()); }),
         flightsSummary(fields, "flightsSummary", summary) {}
 
     Published<Summary> flightsSummary;

@@ -3,14 +3,15 @@
 #include "booking/FlightDetailsView.h"
 #include "booking/JourneyCard.h"
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
+#include "offers/CabinClass.h"
 #include "records/FlightAvailability.h"
 #include "records/KeyedRecords.h"
 #include "records/UniquePassanger.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <memory>
@@ -35,10 +36,11 @@ public:
     Published<bool> navigationIsActive{fields, "navigationIsActive"};
     Derived<std::vector<JourneyCard>> journeys{fields, "journeys", [this] { return cards_(); }};
     Derived<std::string> passengerLine{fields, "passengerLine", [this] {
-                                           return passengerSummary(uniquePassangers) + " | " +
-                                                  bookingClass.get();
+                                           return said(Text::sessionSummary,
+                                                       {{"passengers", passengerSummary(uniquePassangers)},
+                                                        {"cabin", cabinLabel(bookingClass)}});
                                        }};
-    Constant detailsText{fields, "detailsText", "View Flight Details"};
+    Caption detailsText{fields, "detailsText", Text::flightDetails};
     Action<> viewDetails{
         *this, "viewDetails", [this] { navigationIsActive = true; }, [this] { return !isLoading; }};
 

@@ -1,17 +1,18 @@
 #include "booking/JourneyCard.h"
 
 #include "offers/OfferFormat.h"
+#include "words/Words.h"
 
 namespace ombrivane {
 namespace {
 
-constexpr const char* outboundTitle = "Departure Flight";
-constexpr const char* returnTitle = "Return Flight";
+constexpr Text outboundTitle = Text::flightDeparture;
+constexpr Text returnTitle = Text::flightReturn;
 constexpr const char* outboundIcon = "departureBlackIcon";
 constexpr const char* returnIcon = "returnBlackIcon";
 
 /// What a card holds before its availability has arrived.
-JourneyCard sampleCard(const char* title, const char* icon) {
+JourneyCard sampleCard(Text title, const char* icon) {
     JourneyCard card;
     card.carrierLogos = {""};
     card.originCity = "Kathmandu";
@@ -21,16 +22,16 @@ JourneyCard sampleCard(const char* title, const char* icon) {
     card.date = OfferFormat::formatDate("2022-05-26");
     card.time = "16:00 PM";
     card.duration = "23 Hr 03 Min";
-    card.stops = "1 Stop";
+    card.stops = said(Text::flightStops, {{"count", 1}});
     card.dateIcon = icon;
-    card.sectionTitle = title;
+    card.sectionTitle = said(title);
     return card;
 }
 
 template <class Leg> LegLines linesOf(const Leg& leg) {
     LegLines lines;
     const std::string connection = displayForm(leg.segConnectionTime);
-    if (connection != "false") lines.connection = "Connection Time : " + connection;
+    if (connection != "false") lines.connection = said(Text::resultsConnectionTime, {{"time", connection}});
     lines.carrierLogo = leg.carrierLogo;
     lines.carrier = leg.carrierName + " > " + leg.carrierCode + "-" + leg.flightNumber;
     lines.duration = leg.segTotalFlyingHours;
@@ -48,7 +49,7 @@ template <class Leg> void addLegs(JourneyCard& card, const std::vector<Leg>& leg
         card.carrierLogos.push_back(leg.carrierLogo);
         card.legs.push_back(linesOf(leg));
     }
-    card.stops = std::to_string(legs.size()) + " Stop";
+    card.stops = said(Text::flightStops, {{"count", static_cast<std::int64_t>(legs.size())}});
 }
 
 void addRoute(JourneyCard& card) {

@@ -1,6 +1,7 @@
 #include "booking/OWPessangerContactDetailView.h"
 
 #include "booking/EmergencyContactInformationView.h"
+#include "booking/PassengerType.h"
 #include "booking/TravellerInformationView.h"
 
 namespace ombrivane {
@@ -32,7 +33,10 @@ std::shared_ptr<Screen> OWPessangerContactDetailView::makeLine(std::size_t index
     const UniquePassanger slot = uniquePassengersList->at(index);
     return std::make_shared<ContactLine>(
         "PassengerLine",
-        "Passenger " + std::to_string(slot.count) + " - " + slot.type,
+        [slot] {
+            return said(Text::sessionPassenger,
+                        {{"number", slot.count}, {"type", passengerTypeLabel(slot.type)}});
+        },
         [this, slot] { return nameOf(slot.id); },
         [this, index] {
             tapped_ = index;

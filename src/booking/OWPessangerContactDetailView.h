@@ -14,6 +14,7 @@
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
 #include "records/UniquePassanger.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <memory>
@@ -42,16 +43,16 @@ class ContactLine final : public Screen {
     Name filledIn_;
 
 public:
-    ContactLine(std::string_view lineName, std::string titleText, Name filledIn, std::function<void()> open,
-                std::function<bool()> isReady) :
+    ContactLine(std::string_view lineName, std::function<std::string()> titleText, Name filledIn,
+                std::function<void()> open, std::function<bool()> isReady) :
         Screen(lineName),
         filledIn_(std::move(filledIn)),
         title(fields, "title", std::move(titleText)),
         tap(*this, "tap", std::move(open), std::move(isReady)) {}
 
-    Constant title;
+    Derived<std::string> title;
     Derived<std::string> detail{
-        fields, "detail", [this] { return filledIn_().value_or("Fill the passenger details"); }};
+        fields, "detail", [this] { return filledIn_().value_or(said(Text::sessionFillDetails)); }};
     Derived<bool> isFilled{fields, "isFilled", [this] { return filledIn_().has_value(); }};
     Action<> tap;
 };
@@ -75,10 +76,10 @@ public:
     /// The form of a traveller is pushed, that of the line tapped last.
     Published<bool> travellerFormIsActive{fields, "travellerFormIsActive"};
 
-    Constant contactTitle{fields, "contactTitle", "Passenger Contact Details"};
-    Constant passengerTitle{fields, "passengerTitle", "Passenger Information"};
+    Caption contactTitle{fields, "contactTitle", Text::sessionContactTitle};
+    Caption passengerTitle{fields, "passengerTitle", Text::sessionPassengerTitle};
     const std::shared_ptr<ContactLine> contactLine = std::make_shared<ContactLine>(
-        "ContactLine", "Emergency contact", [this] { return contactName(); },
+        "ContactLine", [] { return said(Text::sessionContact); }, [this] { return contactName(); },
         [this] { contactFormIsActive = true; }, [this] { return !isLoading; });
     Rows rows{*this,
               "rows",

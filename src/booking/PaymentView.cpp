@@ -21,7 +21,7 @@ PaymentView::PaymentView(PaymentGiven given) :
                                     given.bookingDetailsViewRouteIsActive),
     errorMessage(fields, "errorMessage", given.errorMessage),
     showSnackBar(fields, "showSnackBar", given.showSnackBar),
-    buttonText(fields, "buttonText", std::move(given.buttonText)) {}
+    buttonWords_(buttonText, given.buttonText) {}
 
 std::string PaymentView::routeText() const {
     const auto& order = paymentSummary.get();

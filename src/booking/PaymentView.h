@@ -1,7 +1,6 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
@@ -9,6 +8,8 @@
 #include "records/KeyedRecords.h"
 #include "records/PaymentSummary.h"
 #include "services/PaymentProvider.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <optional>
 #include <string>
@@ -22,7 +23,7 @@ struct PaymentGiven {
     const Field<bool>& bookingDetailsViewRouteIsActive;
     const Field<std::string>& errorMessage;
     const Field<bool>& showSnackBar;
-    std::string buttonText;
+    Text buttonText;
 };
 
 /// The wallet payment: opens an order when it appears, so that the customer receives a one-time password, and
@@ -39,18 +40,18 @@ public:
     Binding<bool> bookingDetailsViewRouteIsActive;
     Binding<std::string> errorMessage;
     Binding<bool> showSnackBar;
-    Published<std::string> buttonText;
+    Published<std::string> buttonText{fields, "buttonText"};
     Published<std::string> otpText{fields, "otpText"};
     Published<bool> showProgressView{fields, "showProgressView"};
 
-    Constant title{fields, "title", "Payment Confirmation"};
+    Caption title{fields, "title", Text::sessionTitle};
     Derived<std::string> route{fields, "route", [this] { return routeText(); }};
     Derived<std::string> date{fields, "date", [this] { return dateText(); }};
-    Constant referenceLabel{fields, "referenceLabel", "Refrence ID"};
+    Caption referenceLabel{fields, "referenceLabel", Text::paymentReference};
     Derived<std::string> reference{fields, "reference", [this] { return referenceText(); }};
-    Constant amountLabel{fields, "amountLabel", "Amount"};
+    Caption amountLabel{fields, "amountLabel", Text::paymentAmount};
     Derived<std::string> amount{fields, "amount", [this] { return amountText(); }};
-    Constant otpPlaceholder{fields, "otpPlaceholder", "Enter OTP"};
+    Caption otpPlaceholder{fields, "otpPlaceholder", Text::paymentEnterOtp};
     Action<std::string> typeOtp{*this,
                                 "typeOtp",
                                 [this](const std::string& text) { otpText = text; },
@@ -68,6 +69,7 @@ private:
     std::string bookingReferenceID() const;
     std::string transactionID() const;
 
+    SpokenField buttonWords_;
     PaymentProvider paymentProvider_;
 };
 

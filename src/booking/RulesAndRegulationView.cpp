@@ -7,11 +7,6 @@
 #include "services/ItineraryType.h"
 
 namespace ombrivane {
-namespace {
-
-constexpr const char* noRestrictions = "No restrictions are applied for the flight.";
-
-} // namespace
 
 RulesAndRegulationView::RulesAndRegulationView(Given given) :
     Screen("RulesAndRegulationView"),
@@ -79,7 +74,7 @@ void RulesAndRegulationView::fetch() {
 void RulesAndRegulationView::take(std::optional<std::string> message, const std::optional<Error>& error) {
     if (!error) {
         showProgressView = false;
-        htmlText = message.value_or(noRestrictions);
+        htmlText = message.value_or(said(Text::rulesNone));
         return;
     }
     task_ = mainQueue().after(messageDuration, [this] { showSnackBar = false; });

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
@@ -12,6 +11,7 @@
 #include "services/RestrictionProvider.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
+#include "words/Caption.h"
 
 #include <memory>
 #include <optional>
@@ -56,11 +56,11 @@ public:
     /// The height that the drawn text needs, in points, told by the view.
     Published<double> size{fields, "size", 0.0};
 
-    Constant title{fields, "title", "Rules & Regulations"};
+    Caption title{fields, "title", Text::rulesTitle};
     /// The rules reduced to plain paragraphs.
     Derived<std::vector<RuleParagraph>> paragraphs{fields, "paragraphs", [this] { return rules(); }};
-    Constant cancelText{fields, "cancelText", "Cancel"};
-    Constant continueText{fields, "continueText", "Continue"};
+    Caption cancelText{fields, "cancelText", Text::cancel};
+    Caption continueText{fields, "continueText", Text::continueOn};
     Action<double> measured{*this, "measured", [this](double height) { size = height; }};
     Action<> cancel{*this,
                     "cancel",

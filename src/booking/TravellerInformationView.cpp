@@ -1,6 +1,7 @@
 #include "booking/TravellerInformationView.h"
 
 #include "booking/DocumentType.h"
+#include "booking/PassengerType.h"
 #include "dates/Calendar.h"
 #include "dates/DateFormatter.h"
 #include "images/PhotoPicker.h"
@@ -14,12 +15,6 @@ namespace ombrivane {
 namespace {
 
 constexpr int passportMonths = 6;
-
-/// The greatest age on the last day of travel.
-int oldest(const std::string& type) {
-    if (type == "Infant") return 2;
-    return type == "Child" ? 12 : 100;
-}
 
 /// Of the session's own availability, else of the last one that the process has seen.
 TravelDates heldDates(const std::optional<TravelDates>& session) {
@@ -87,7 +82,7 @@ void TravellerInformationView::takeExpiryDate(const std::string& day) {
 
 void TravellerInformationView::setLimits(const std::optional<TravelDates>& dates) {
     const TravelDates held = heldDates(dates);
-    minDOB = held.last.plusYears(-oldest(type));
+    minDOB = held.last.plusYears(-oldestAge(type));
     minPpDate = held.first.plusMonths(passportMonths);
 }
 

@@ -6,7 +6,6 @@
 #include "booking/Travellers.h"
 #include "dates/Calendar.h"
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
@@ -15,6 +14,7 @@
 #include "parts/CustomSnackBarView.h"
 #include "records/KeyedRecords.h"
 #include "records/Passenger.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <memory>
@@ -75,9 +75,9 @@ public:
     Published<Day> minDOB{fields, "minDOB"};
     TravellerInformationViewModel TIVM;
 
-    Constant title{fields, "title", "Traveller Information"};
-    Constant message{fields, "message", "Please fill the marked fields."};
-    Constant saveText{fields, "saveText", "Save Details"};
+    Caption title{fields, "title", Text::travellerTitle};
+    Caption message{fields, "message", Text::fillMarkedFields};
+    Caption saveText{fields, "saveText", Text::saveDetails};
     Derived<std::string> nationality{fields, "nationality", [this] { return TIVM.nationality.get(); }};
     Derived<std::string> dateOfBirthText{
         fields, "dateOfBirthText", [this] { return shownDate(TIVM.dateOfBirth); }};

@@ -1,6 +1,7 @@
 #include "booking/TravellerInformationViewModel.h"
 
 #include "booking/DocumentType.h"
+#include "booking/PassengerType.h"
 
 namespace ombrivane {
 

@@ -49,8 +49,9 @@ void CustomRoundTripDatePickerView::fillEmptyFields() {
 }
 
 std::string CustomRoundTripDatePickerView::describeChosen() const {
-    return formatDay(roundTripDepartureDate, dayPattern::calendar) + " - " +
-           formatDay(roundTripReturnDate, dayPattern::calendar);
+    return said(Text::dateRange,
+                {{"first", formatDay(roundTripDepartureDate, dayPattern::calendar)},
+                 {"last", formatDay(roundTripReturnDate, dayPattern::calendar)}});
 }
 
 std::pair<Day, Day> CustomRoundTripDatePickerView::chosen() const {

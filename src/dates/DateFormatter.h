@@ -17,10 +17,11 @@ inline constexpr const char* shortMonth = "LLL";          ///< on the wheels
 inline constexpr const char* dayOfMonth = "d";            ///< there, and on the cells of a calendar
 } // namespace dayPattern
 
-/// A day as the customer reads it: in the device's language, calendar and digits. Any thread.
+/// A day as the customer reads it: in the language, calendar and digits of the device, or of the wallet's
+/// choice, where the order of the fields is that of the region, too. Any thread.
 std::string formatDay(Day day, const std::string& pattern);
 
-/// A whole number in the device's decimal style, with grouping: "88,222".
+/// A whole number in the decimal style of the same, with grouping: "88,222".
 std::string formatNumber(std::int64_t number);
 
 } // namespace ombrivane

@@ -2,12 +2,13 @@
 
 #include "base/Fault.h"
 #include "platform/Platform.h"
+#include "words/Words.h"
 
 #include <cmath>
 
 namespace ombrivane {
 
-icu::Locale deviceLocale() { return icu::Locale::createCanonical(platform().localization->locale().c_str()); }
+icu::Locale shownLocale() { return icu::Locale::createCanonical(Words::shared().locale().c_str()); }
 
 std::unique_ptr<icu::TimeZone> deviceTimeZone() {
     const auto zone = icu::UnicodeString::fromUTF8(platform().localization->timeZone());
@@ -17,7 +18,7 @@ std::unique_ptr<icu::TimeZone> deviceTimeZone() {
 std::unique_ptr<icu::Calendar> calendarAt(Day day) {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::Calendar> calendar(
-        icu::Calendar::createInstance(*icu::TimeZone::getGMT(), deviceLocale(), status));
+        icu::Calendar::createInstance(*icu::TimeZone::getGMT(), shownLocale(), status));
     if (U_FAILURE(status) || !calendar) fatalFault("the device's calendar cannot be made");
     calendar->setTime(icuTime(day.days()), status);
     return calendar;

@@ -9,10 +9,11 @@
 
 #include <memory>
 
-/// ICU's types for the device's locale and time zone. Included where dates are computed and nowhere else.
+/// ICU's types for the locale in which dates are shown and for the device's time zone. Included where dates
+/// are computed and nowhere else.
 namespace ombrivane {
 
-icu::Locale deviceLocale();
+icu::Locale shownLocale();
 std::unique_ptr<icu::TimeZone> deviceTimeZone();
 
 /// The device's own calendar, set to midnight of `day`. A day has no time zone, so the calendar's is UTC.

@@ -20,10 +20,14 @@ void TravelCalendar::finish() {
 }
 
 TravelCalendar::Month::Month(TravelCalendar& calendar, int offset) :
-    Screen("Month"), calendar_(calendar), offset_(offset) {
-    labels_.reserve(grid_.size());
+    Screen("Month"), calendar_(calendar), offset_(offset) {}
+
+std::vector<std::string> TravelCalendar::Month::labelDays() const {
+    std::vector<std::string> labels;
+    labels.reserve(grid_.size());
     for (const auto& value : grid_)
-        labels_.push_back(formatDay(value.date, dayPattern::dayOfMonth));
+        labels.push_back(formatDay(value.date, dayPattern::dayOfMonth));
+    return labels;
 }
 
 std::string TravelCalendar::Month::describe() const {
@@ -35,6 +39,7 @@ std::string TravelCalendar::Month::describe() const {
 std::vector<CalendarCell> TravelCalendar::Month::draw() const {
     const auto [first, last] = calendar_.chosen();
     const Day today = calendar::today();
+    const auto& labels = labels_.get();
     std::vector<CalendarCell> drawn;
     drawn.reserve(grid_.size());
     for (std::size_t i = 0; i < grid_.size(); ++i) {
@@ -43,7 +48,7 @@ std::vector<CalendarCell> TravelCalendar::Month::draw() const {
         if (!value.offsetDay) {
             cell.day = value.day;
             cell.date = value.date.text();
-            cell.label = labels_[i];
+            cell.label = labels[i];
             cell.selectable = value.date >= today;
             cell.selected = value.date == first || value.date == last;
             cell.inRange = value.date > first && value.date < last;

@@ -3,11 +3,12 @@
 #include "dates/Calendar.h"
 #include "dates/DateValue.h"
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <memory>
 #include <string>
@@ -37,9 +38,10 @@ public:
         int monthsAhead() const { return calendar_.currentMonth.get() + offset_; }
         std::string describe() const;
         std::vector<CalendarCell> draw() const;
+        std::vector<std::string> labelDays() const;
 
         std::vector<DateValue> grid_ = monthGrid(calendar::today(), monthsAhead());
-        std::vector<std::string> labels_;
+        Spoken<std::vector<std::string>> labels_{[this] { return labelDays(); }};
     };
 
     void appear() override;
@@ -47,11 +49,17 @@ public:
     Published<Day> currentDate{fields, "currentDate", calendar::today()};
     Published<int> currentMonth{fields, "currentMonth", 0};
     Published<int> scrollToIndex{fields, "scrollToIndex", 1};
-    Constant title{fields, "title", "Select Travel Date"};
-    Derived<std::vector<std::string>> dayNames{
-        fields, "dayNames", [] {
-            return std::vector<std::string>{"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
-        }};
+    Caption title{fields, "title", Text::calendarTitle};
+    Derived<std::vector<std::string>> dayNames{fields, "dayNames", [] {
+                                                   return std::vector<std::string>{
+                                                       said(Text::calendarSunday),
+                                                       said(Text::calendarMonday),
+                                                       said(Text::calendarTuesday),
+                                                       said(Text::calendarWednesday),
+                                                       said(Text::calendarThursday),
+                                                       said(Text::calendarFriday),
+                                                       said(Text::calendarSaturday)};
+                                               }};
     Derived<std::string> chosenText{fields, "chosenText", [this] { return describeChosen(); }};
     Rows months{
         *this,

@@ -10,7 +10,7 @@ std::string OfferFormat::formatDate(const std::string& text) {
     return day ? formatDay(*day, dayPattern::calendar) : text;
 }
 
-std::string OfferFormat::cabinClassName(const std::string& code) { return cabinNameOfCode(code); }
+std::string OfferFormat::cabinClassName(const std::string& code) { return cabinLabel(cabinNameOfCode(code)); }
 
 std::string OfferFormat::price(const std::string& currency, std::int64_t amount) {
     return currency + " " + formatNumber(amount);

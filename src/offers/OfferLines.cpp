@@ -1,11 +1,10 @@
 #include "offers/OfferLines.h"
 
 #include "offers/OfferFormat.h"
+#include "words/Words.h"
 
 namespace ombrivane {
 namespace {
-
-constexpr const char* nonRefundable = "Non-Refundable";
 
 /// What an offer that names no class is shown as.
 constexpr const char* economyCode = "M";
@@ -16,14 +15,15 @@ SegmentLines linesOf(const Segment& segment, const std::string& cabin) {
     lines.carrier =
         segment.carrierName + " > " + segment.carrierCode + "-" + segment.flightNumber + " - " + cabin;
     if (segment.carrierCodeMarketing && *segment.carrierCodeMarketing != segment.carrierCode) {
-        lines.operatedBy = "Operated by " + segment.carrierCodeMarketingName.value_or("");
+        lines.operatedBy =
+            said(Text::resultsOperatedBy, {{"carrier", segment.carrierCodeMarketingName.value_or("")}});
     }
     lines.from = segment.airportDeparture.name + ", " + segment.airportDeparture.country.value_or("");
     lines.departure = OfferFormat::formatDate(segment.dateOfDeparture) + ", " + segment.timeOfDeparture;
     lines.to = segment.airportArrival.name + ", " + segment.airportArrival.country.value_or("");
     lines.arrival = OfferFormat::formatDate(segment.dateOfArrival) + ", " + segment.timeOfArrival;
     const std::string connection = displayForm(segment.connectionTime);
-    if (connection != "false") lines.connection = "Connection Time : " + connection;
+    if (connection != "false") lines.connection = said(Text::resultsConnectionTime, {{"time", connection}});
     return lines;
 }
 
@@ -63,17 +63,22 @@ OfferLines foldedLines(const FlightSearchOneWay& offer) {
     return {OfferFormat::price(summary.currency, offer.fareInformation.totalCost),
             {foldedJourney(offer.flightSummary,
                            summary.bookingClass,
-                           summary.refundable.value_or(nonRefundable),
+                           summary.refundable.value_or(said(Text::resultsNonRefundable)),
                            offer.baggageDetails)}};
 }
 
 OfferLines foldedLines(const FlightSearchRoundTrip& offer) {
     const auto& summary = offer.searchSummary;
     const auto& baggage = offer.baggageDetails;
-    return {
-        OfferFormat::price(summary.currency, offer.fareInformation.totalCost),
-        {foldedJourney(offer.flightDepartureSummary, summary.bookingClass, nonRefundable, baggage.outbound),
-         foldedJourney(offer.flightReturnSummary, summary.bookingClass, nonRefundable, baggage.return_)}};
+    return {OfferFormat::price(summary.currency, offer.fareInformation.totalCost),
+            {foldedJourney(offer.flightDepartureSummary,
+                           summary.bookingClass,
+                           said(Text::resultsNonRefundable),
+                           baggage.outbound),
+             foldedJourney(offer.flightReturnSummary,
+                           summary.bookingClass,
+                           said(Text::resultsNonRefundable),
+                           baggage.return_)}};
 }
 
 OfferLines linesOf(const FlightSearchOneWay& offer) {
@@ -92,8 +97,8 @@ OfferLines linesOf(const FlightSearchRoundTrip& offer) {
 OfferLines placeholderLines(std::size_t journeys) {
     JourneyLines lines;
     lines.carrierLogo = "dummyurl";
-    lines.carrierName = "Loading ...";
-    lines.refundability = nonRefundable;
+    lines.carrierName = said(Text::loading);
+    lines.refundability = said(Text::resultsNonRefundable);
     lines.cabin = OfferFormat::cabinClassName(economyCode);
     lines.departureLocation = "KTM";
     lines.departureTime = "16:00";

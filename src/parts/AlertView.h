@@ -3,6 +3,7 @@
 #include "keyed/Action.h"
 #include "keyed/Constant.h"
 #include "keyed/Screen.h"
+#include "words/Caption.h"
 
 #include <string>
 
@@ -18,7 +19,7 @@ public:
 
     Constant title;
     Constant message;
-    Constant buttonText{fields, "buttonText", "Dismiss"};
+    Caption buttonText{fields, "buttonText", Text::alertDismiss};
     Action<> button{*this, "button", [this] { dismiss(); }};
 };
 

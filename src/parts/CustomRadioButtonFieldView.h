@@ -13,8 +13,8 @@ namespace ombrivane {
 /// One radio row: `CustomRadioButtonFieldView`.
 class CustomRadioButtonFieldView final : public Screen {
 public:
-    CustomRadioButtonFieldView(std::string identity, std::string labelText, std::function<bool()> marked,
-                               std::function<void()> choose) :
+    CustomRadioButtonFieldView(std::string identity, std::function<std::string()> labelText,
+                               std::function<bool()> marked, std::function<void()> choose) :
         Screen("CustomRadioButtonFieldView"),
         id(fields, "id", std::move(identity)),
         label(fields, "label", std::move(labelText)),
@@ -22,7 +22,7 @@ public:
         tap(*this, "tap", std::move(choose)) {}
 
     Constant id;
-    Constant label;
+    Derived<std::string> label;
     Derived<bool> isMarked;
     Action<> tap;
 };

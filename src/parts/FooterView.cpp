@@ -3,6 +3,7 @@
 #include "base/OmbrivaneVersion.h"
 #include "base/Url.h"
 #include "parts/AlertView.h"
+#include "words/Words.h"
 
 namespace ombrivane {
 namespace {
@@ -32,7 +33,7 @@ void FooterView::open(const std::string& url) {
 }
 
 std::shared_ptr<Screen> FooterView::makeVersionAlert() {
-    return std::make_shared<AlertView>("Build Version", OmbrivaneVersionString);
+    return std::make_shared<AlertView>(said(Text::buildVersion), OmbrivaneVersionString);
 }
 
 } // namespace ombrivane

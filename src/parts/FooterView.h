@@ -6,6 +6,7 @@
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
 #include "platform/Platform.h"
+#include "words/Caption.h"
 
 #include <memory>
 #include <string>
@@ -18,7 +19,7 @@ public:
     FooterView() : Screen("FooterView") {}
 
     Published<bool> showAlert{fields, "showAlert"};
-    Constant poweredBy{fields, "poweredBy", "Powered By"};
+    Caption poweredBy{fields, "poweredBy", Text::poweredBy};
     /// The support numbers, as shown. They are of a range that is not given out to anybody, until a wallet
     /// has its own.
     Constant mobile{fields, "mobile", "+977 980 0000 000"};

@@ -6,7 +6,7 @@
 namespace ombrivane {
 namespace {
 
-constexpr const char* insufficientFund = "You don't have sufficient fund.";
+constexpr Text insufficientFund = Text::resultsInsufficientFund;
 
 } // namespace
 
@@ -24,12 +24,9 @@ DomesticFlightListView::DomesticFlightListView(SearchRequest searchRequest,
 
 std::shared_ptr<OneWayFlightListView> DomesticFlightListView::makeList(const Field<OneWayOffers>& shown,
                                                                        const OfferSelection& selection,
-                                                                       const Constant& title) {
+                                                                       Text title) {
     return std::make_shared<OneWayFlightListView>(
-        shown,
-        OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection},
-        title.get(),
-        true);
+        shown, OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection}, title, true);
 }
 
 OfferSelection DomesticFlightListView::departureSelection() {
@@ -93,7 +90,7 @@ bool DomesticFlightListView::canBeFiltered() const {
 }
 
 void DomesticFlightListView::tapReturnTab() {
-    if (!flightListVM.flight.get()) return refuse("Please select a flight first.");
+    if (!flightListVM.flight.get()) return refuse(Text::resultsSelectFlight);
     flightListVM.index = returnTab;
 }
 

@@ -5,6 +5,7 @@
 #include "results/ResultsScreen.h"
 #include "services/FlightSearchOneWayProvider.h"
 #include "services/FlightSearchRoundTripProvider.h"
+#include "words/Caption.h"
 
 namespace ombrivane {
 
@@ -18,8 +19,8 @@ public:
     Published<bool> showDepartureFlightSegmant{fields, "showDepartureFlightSegmant"};
     Published<bool> showReturnFlightSegmant{fields, "showReturnFlightSegmant"};
     Derived<bool> showsTabs{fields, "showsTabs", [this] { return flightListVM.hasReturnDate.get(); }};
-    Constant departingTitle{fields, "departingTitle", "Departing Flights"};
-    Constant returningTitle{fields, "returningTitle", "Returning Flights"};
+    Caption departingTitle{fields, "departingTitle", Text::resultsDeparting};
+    Caption returningTitle{fields, "returningTitle", Text::resultsReturning};
     Action<> tapDepartingFlights{*this,
                                  "tapDepartingFlights",
                                  [this] { flightListVM.index = departureTab; },
@@ -47,7 +48,7 @@ private:
     DomesticFlightListView(SearchRequest request, const std::shared_ptr<DomesticFlightListViewModel>& model,
                            CompletionCallback completionCallback);
     std::shared_ptr<OneWayFlightListView> makeList(const Field<OneWayOffers>& shown,
-                                                   const OfferSelection& selection, const Constant& title);
+                                                   const OfferSelection& selection, Text title);
     OfferSelection departureSelection();
     OfferSelection returnSelection();
     void tapReturnTab();
@@ -59,11 +60,11 @@ private:
     Fields unkeyed_;
     Published<bool> noContinueButton_{unkeyed_, "showContinueButton"};
     std::shared_ptr<OneWayFlightListView> oneWayList_ =
-        makeList(flightListVM.filteredOnewayFlights, selection(), departingTitle);
+        makeList(flightListVM.filteredOnewayFlights, selection(), Text::resultsDeparting);
     std::shared_ptr<OneWayFlightListView> departureList_ =
-        makeList(flightListVM.filteredDepartureFlights, departureSelection(), departingTitle);
+        makeList(flightListVM.filteredDepartureFlights, departureSelection(), Text::resultsDeparting);
     std::shared_ptr<OneWayFlightListView> returnList_ =
-        makeList(flightListVM.filteredReturnFlights, returnSelection(), returningTitle);
+        makeList(flightListVM.filteredReturnFlights, returnSelection(), Text::resultsReturning);
 };
 
 } // namespace ombrivane

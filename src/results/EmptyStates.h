@@ -1,10 +1,10 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <string>
@@ -20,10 +20,12 @@ public:
         button(*this, "button", std::move(callback)) {}
 
     Published<bool> filtered;
-    Constant title{fields, "title", "We’re Sorry"};
-    Constant text{fields, "text", "No flight found for the selected dates ! Kindly choose different date."};
-    Derived<std::string> buttonText{
-        fields, "buttonText", [this] { return std::string(filtered ? "Modify Filter" : "Modify Search"); }};
+    Caption title{fields, "title", Text::resultsSorry};
+    Caption text{fields, "text", Text::resultsNothingFound};
+    Derived<std::string> buttonText{fields, "buttonText", [this] {
+                                        return said(filtered ? Text::resultsModifyFilter
+                                                             : Text::resultsModifySearch);
+                                    }};
     Action<> button;
 };
 
@@ -32,10 +34,8 @@ class NoInternetConnectionView final : public Screen {
 public:
     NoInternetConnectionView() : Screen("NoInternetConnectionView") {}
 
-    Constant title{fields, "title", "We Lost You!"};
-    Constant text{fields,
-                  "text",
-                  "No internet connection. Make sure wifi or cellular data is turned on and then try again."};
+    Caption title{fields, "title", Text::resultsOfflineTitle};
+    Caption text{fields, "text", Text::resultsOffline};
 };
 
 } // namespace ombrivane

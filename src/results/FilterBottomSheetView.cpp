@@ -40,10 +40,12 @@ std::string FilterBottomSheetView::priceText(double amount, const char* what) co
 }
 
 std::shared_ptr<Screen> FilterBottomSheetView::makeAirline(std::size_t index) {
-    const std::string name =
-        index == 0 ? FilterBottomSheetViewModel::allAirlines : FBSVM.airLines->at(index - 1);
+    const std::string name = index == 0 ? allAirlines : FBSVM.airLines->at(index - 1);
     return std::make_shared<CustomRadioButtonFieldView>(
-        name, name, [this, name] { return selectedId.get() == name; }, [this, name] { selectedId = name; });
+        name,
+        [name] { return name == allAirlines ? said(Text::filterAllAirlines) : name; },
+        [this, name] { return selectedId.get() == name; },
+        [this, name] { selectedId = name; });
 }
 
 void FilterBottomSheetView::applyChoices() {

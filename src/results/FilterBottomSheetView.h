@@ -6,8 +6,10 @@
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
+#include "results/AllAirlines.h"
 #include "results/FilterBottomSheetViewModel.h"
 #include "results/TimeBucket.h"
+#include "words/Caption.h"
 
 #include <algorithm>
 #include <functional>
@@ -38,7 +40,7 @@ public:
         Screen("TimeCardView"), bucket_(bucket), time(fields, "time", chosenTime) {}
 
     Constant iconName{fields, "iconName", bucket_.icon};
-    Constant title{fields, "title", bucket_.title};
+    Caption title{fields, "title", bucket_.title};
     Constant subTitle{fields, "subTitle", bucket_.label};
     Constant value{fields, "value", bucket_.key};
     Derived<bool> isSelected{fields, "isSelected", [this] { return time.get() == value.get(); }};
@@ -67,17 +69,17 @@ public:
     Binding<std::string> time;
     FilterBottomSheetViewModel FBSVM;
 
-    Constant title{fields, "title", "Search Filter"};
-    Constant resetText{fields, "resetText", "Reset All"};
-    Constant priceTitle{fields, "priceTitle", "Price"};
+    Caption title{fields, "title", Text::filterTitle};
+    Caption resetText{fields, "resetText", Text::filterReset};
+    Caption priceTitle{fields, "priceTitle", Text::filterPrice};
     Derived<std::string> priceRange{fields, "priceRange", [this] { return describeRange(); }};
     Derived<std::string> chosenPrice{
         fields, "chosenPrice", [this] { return priceText(price, "the filter's price"); }};
     Derived<double> minPrice{fields, "minPrice", [this] { return FBSVM.minPrice.get(); }};
     Derived<double> maxPrice{fields, "maxPrice", [this] { return FBSVM.maxPrice.get(); }};
-    Constant airlinesTitle{fields, "airlinesTitle", "Airlines"};
-    Constant timeTitle{fields, "timeTitle", "Time"};
-    Constant applyText{fields, "applyText", "Apply Filter"};
+    Caption airlinesTitle{fields, "airlinesTitle", Text::filterAirlines};
+    Caption timeTitle{fields, "timeTitle", Text::filterTime};
+    Caption applyText{fields, "applyText", Text::filterApply};
     /// "All Airlines", then the airlines of the list.
     Rows airlines{*this,
                   "airlines",
@@ -93,7 +95,7 @@ public:
         *this, "slide", [this](double value) { price = std::clamp(value, minPrice.get(), maxPrice.get()); }};
     Action<> resetAll{*this, "resetAll", [this] {
                           time = "";
-                          selectedId = FilterBottomSheetViewModel::allAirlines;
+                          selectedId = allAirlines;
                           price = FBSVM.maxPrice.get();
                       }};
     Action<> apply{*this, "apply", [this] { applyChoices(); }};

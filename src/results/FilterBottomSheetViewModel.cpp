@@ -2,6 +2,7 @@
 
 #include "offers/OfferJourney.h"
 #include "platform/Platform.h"
+#include "results/AllAirlines.h"
 #include "results/TimeBucket.h"
 #include "results/WholeNumber.h"
 

@@ -12,9 +12,6 @@ namespace ombrivane {
 /// wins over the one-way list; of a round trip only the outbound journey is looked at. Main thread.
 class FilterBottomSheetViewModel {
 public:
-    /// In the place of an airline: none is left out.
-    static constexpr const char* allAirlines = "All Airlines";
-
     void calculateMaxPrice();
     /// Starts from 10,000,000, which therefore stands for an empty list and for anything dearer.
     void calculateMinPrice();

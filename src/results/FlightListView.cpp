@@ -6,7 +6,7 @@
 namespace ombrivane {
 namespace {
 
-constexpr const char* insufficientBalance = "You don't have sufficient balance.";
+constexpr Text insufficientBalance = Text::resultsInsufficientBalance;
 
 } // namespace
 

@@ -34,9 +34,9 @@ private:
     FlightSearchRoundTripProvider flightSearchRoundTripProvider_;
     /// Without a strip of cards, which only a round trip has here.
     std::shared_ptr<OneWayFlightListView> oneWayList_ = std::make_shared<OneWayFlightListView>(
-        flightListVM.filteredOnewayFlights, listBindings(), "Departing Flights", false);
+        flightListVM.filteredOnewayFlights, listBindings(), Text::resultsDeparting, false);
     std::shared_ptr<RoundTripFlightListView> roundTripList_ = std::make_shared<RoundTripFlightListView>(
-        flightListVM.filteredRoundtripFlights, listBindings(), "Departing Flights", true);
+        flightListVM.filteredRoundtripFlights, listBindings(), Text::resultsDeparting, true);
 };
 
 } // namespace ombrivane

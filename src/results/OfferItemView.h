@@ -6,6 +6,8 @@
 #include "keyed/Screen.h"
 #include "offers/OfferLines.h"
 #include "results/OfferSelection.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <functional>
 #include <optional>
@@ -34,9 +36,9 @@ struct RoundTripListTraits {
 /// One offer of a result list. Without an offer it draws sample content under the shimmer.
 class OfferItemView : public Screen {
 public:
-    /// @param lines what the card shows, folded
+    /// @param lines makes what the card shows, folded
     /// @param unfoldedLines makes the lines with their segments, when they are shown
-    OfferItemView(const char* itemName, std::optional<AnyFlight> offer, OfferLines lines,
+    OfferItemView(const char* itemName, std::optional<AnyFlight> offer, std::function<OfferLines()> lines,
                   std::function<OfferLines()> unfoldedLines, const OfferSelection& selection) :
         Screen(itemName),
         offer_(std::move(offer)),
@@ -46,10 +48,10 @@ public:
 
     Derived<bool> isPlaceholder{fields, "isPlaceholder", [this] { return !offer_; }};
     Derived<std::string> id{fields, "id", [this] { return offer_ ? offer_->id().text() : std::string(); }};
-    Derived<std::string> price{fields, "price", [this] { return lines_.price; }};
+    Derived<std::string> price{fields, "price", [this] { return lines_.get().price; }};
     Derived<std::vector<JourneyLines>> journeys{fields, "journeys", [this] {
                                                     return isUnfolded.get() ? unfoldedLines_().journeys
-                                                                            : lines_.journeys;
+                                                                            : lines_.get().journeys;
                                                 }};
     Derived<bool> isChosen{fields, "isChosen", [this] {
                                return offer_ && selection_.selectedFlightSegmentId.get() == offer_->id();
@@ -58,13 +60,13 @@ public:
                                  return offer_ && selection_.showSegmant &&
                                         selection_.displayedSegmentId.get() == offer_->id();
                              }};
-    Constant detailsText{fields, "detailsText", "View Details"};
+    Caption detailsText{fields, "detailsText", Text::resultsDetails};
     /// Chooses the offer and unfolds its segments, or takes both back.
     Action<> tap{*this, "tap", [this] { selection_.tap(*offer_); }, [this] { return offer_.has_value(); }};
 
 private:
     const std::optional<AnyFlight> offer_;
-    const OfferLines lines_;
+    const Spoken<OfferLines> lines_;
     const std::function<OfferLines()> unfoldedLines_;
     OfferSelection selection_;
 };
@@ -72,8 +74,8 @@ private:
 /// One card of the strip above a list.
 class OfferCardView final : public Screen {
 public:
-    OfferCardView(const char* cardName, std::string logo, std::string carrier, std::string priceText,
-                  std::function<void()> run) :
+    OfferCardView(const char* cardName, std::string logo, std::string carrier,
+                  std::function<std::string()> priceText, std::function<void()> run) :
         Screen(cardName),
         carrierLogo(fields, "carrierLogo", std::move(logo)),
         carrierName(fields, "carrierName", std::move(carrier)),
@@ -82,7 +84,7 @@ public:
 
     Constant carrierLogo;
     Constant carrierName;
-    Constant price;
+    Derived<std::string> price;
     Action<> tap;
 };
 

@@ -10,13 +10,13 @@ namespace ombrivane {
 
 template <class Traits>
 OfferListView<Traits>::OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings,
-                                     std::string titleText, bool withStrip) :
+                                     Text titleText, bool withStrip) :
     Screen(Traits::list),
     selection_(bindings.selection),
     offers(fields, Traits::journeys == 1 ? "onewayFlights" : "roundtripFlights", shown),
     isLoading(fields, "isLoading", bindings.isLoading),
     scrollToTop(fields, "scrollToTop", bindings.scrollToTop),
-    title(fields, "title", std::move(titleText)),
+    titleWords_(title, titleText),
     withStrip_(withStrip) {}
 
 template <class Traits> std::vector<RowIdentity> OfferListView<Traits>::placeholders() {
@@ -53,18 +53,30 @@ const typename OfferListView<Traits>::Offers& OfferListView<Traits>::stripOffers
 template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeRow(std::size_t index) const {
     if (isLoading) {
         return std::make_shared<OfferItemView>(
-            Traits::item, std::nullopt, placeholderLines(Traits::journeys), nullptr, selection_);
+            Traits::item,
+            std::nullopt,
+            [] { return placeholderLines(Traits::journeys); },
+            nullptr,
+            selection_);
     }
     const auto offer = offers->at(index);
     return std::make_shared<OfferItemView>(
-        Traits::item, AnyFlight(offer), foldedLines(*offer), [offer] { return linesOf(*offer); }, selection_);
+        Traits::item,
+        AnyFlight(offer),
+        [offer] { return foldedLines(*offer); },
+        [offer] { return linesOf(*offer); },
+        selection_);
 }
 
 template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeCard(std::size_t index) {
     if (isLoading) {
         const OfferLines sample = placeholderLines(1);
         return std::make_shared<OfferCardView>(
-            Traits::card, "dummyurl", sample.journeys.front().carrierName, sample.price, [] {});
+            Traits::card,
+            "dummyurl",
+            sample.journeys.front().carrierName,
+            [price = sample.price] { return price; },
+            [] {});
     }
     const auto& offer = *stripOffers().at(index);
     const auto& journey = outbound(offer);
@@ -72,7 +84,9 @@ template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeCard(
         Traits::card,
         journey.carrierLogo,
         journey.carrierName,
-        OfferFormat::price(offer.searchSummary.currency, offer.fareInformation.totalCost),
+        [currency = offer.searchSummary.currency, cost = offer.fareInformation.totalCost] {
+            return OfferFormat::price(currency, cost);
+        },
         [this, id = offer.id.text()] { scrollToId = id; });
 }
 

@@ -5,6 +5,7 @@
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
 #include "results/OfferItemView.h"
+#include "words/Spoken.h"
 
 #include <cstdint>
 #include <memory>
@@ -31,7 +32,7 @@ public:
     using Offer = typename Traits::Offer;
     using Offers = std::vector<std::shared_ptr<const Offer>>;
 
-    OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings, std::string titleText,
+    OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings, Text titleText,
                   bool withStrip);
 
     Binding<Offers> offers;
@@ -43,7 +44,7 @@ public:
         fields, "selectedFlightSegmentId", selection_.selectedFlightSegmentId};
     Binding<bool> flightSelected{fields, "flightSelected", selection_.flightSelected};
     Binding<bool> showSegmant{fields, "showSegmant", selection_.showSegmant};
-    Published<std::string> title;
+    Published<std::string> title{fields, "title"};
     /// The offer that a tapped card of the strip wants in view.
     Published<std::string> scrollToId{fields, "scrollToId"};
     Rows rows{*this,
@@ -71,6 +72,7 @@ private:
     std::shared_ptr<Screen> makeRow(std::size_t index) const;
     std::shared_ptr<Screen> makeCard(std::size_t index);
 
+    SpokenField titleWords_;
     const bool withStrip_;
     mutable Offers stripOffers_;
     mutable std::uint64_t stripVersion_ = UINT64_MAX;

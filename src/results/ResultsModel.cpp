@@ -3,6 +3,7 @@
 #include "dates/DateFormatter.h"
 #include "services/FlightQuery.h"
 #include "services/ItineraryType.h"
+#include "words/Words.h"
 
 #include <algorithm>
 
@@ -29,9 +30,8 @@ template <class Offers> void sortOffers(Offers& offers) {
         offers[i] = std::move(keyed[i].offer);
 }
 
-std::string counted(const std::string& before, const std::string& count, const char* letter,
-                    const char* what) {
-    return countFrom(count, what) >= 1 ? before + count + letter : "";
+std::string counted(const std::string& before, const std::string& count, Text text, const char* what) {
+    return countFrom(count, what) >= 1 ? before + said(text, {{"count", count}}) : "";
 }
 
 } // namespace
@@ -39,10 +39,15 @@ std::string counted(const std::string& before, const std::string& count, const c
 std::string ResultsModel::formatHeaderSubtitle(std::optional<Day> departure, std::optional<Day> returning,
                                                const std::string& adults, const std::string& children,
                                                const std::string& infants) const {
-    std::string line = departure ? formatDay(*departure, dayPattern::calendar) : "";
-    if (hasReturnDate && returning) line += " - " + formatDay(*returning, dayPattern::calendar);
-    return line + " | " + counted("", adults, "A", "the adult count") +
-           counted(", ", children, "C", "the child count") + counted(", ", infants, "I", "the infant count");
+    std::string dates = departure ? formatDay(*departure, dayPattern::calendar) : "";
+    if (hasReturnDate && returning) {
+        dates =
+            said(Text::dateRange, {{"first", dates}, {"last", formatDay(*returning, dayPattern::calendar)}});
+    }
+    const std::string travellers = counted("", adults, Text::resultsAdults, "the adult count") +
+                                   counted(", ", children, Text::resultsChildren, "the child count") +
+                                   counted(", ", infants, Text::resultsInfants, "the infant count");
+    return said(Text::resultsHeader, {{"dates", dates}, {"travellers", travellers}});
 }
 
 void ResultsModel::startSearch(bool roundTrip) {

@@ -4,6 +4,7 @@
 #include "dates/Day.h"
 #include "keyed/Field.h"
 #include "records/KeyedRecords.h"
+#include "results/AllAirlines.h"
 
 #include <optional>
 #include <string>
@@ -45,7 +46,7 @@ public:
     Published<bool> flightSelected{fields, "flightSelected"};
     Published<std::optional<AnyFlight>> flight{fields, "flight"};
     Published<std::string> tripType{fields, "tripType"};
-    Published<std::string> selectedId{fields, "selectedId", "All Airlines"};
+    Published<std::string> selectedId{fields, "selectedId", allAirlines};
     Published<double> price{fields, "price", 0.0};
     Published<std::string> time{fields, "time"};
 };

@@ -19,13 +19,13 @@ constexpr double headerLeavesAt = 32.0;
 } // namespace
 
 ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view modelKey, SearchRequest request,
-                             std::shared_ptr<ResultsModel> model, std::string message,
+                             std::shared_ptr<ResultsModel> model, Text message,
                              CompletionCallback completionCallback) :
     Screen(screenName),
     request_(std::move(request)),
     model_(std::move(model)),
-    errorMessage(fields, "errorMessage", std::move(message)),
     completionCallback_(std::move(completionCallback)),
+    errorWords_(errorMessage, message),
     modelModel_(fields, modelKey, model_->fields) {
     model_->tripType = request_.tripType;
     model_->departDate = request_.departDate;
@@ -76,8 +76,8 @@ OfferSelection ResultsScreen::selection() {
             showSegmant};
 }
 
-void ResultsScreen::refuse(const char* message) {
-    errorMessage = message;
+void ResultsScreen::refuse(Text message) {
+    errorMessage = said(message);
     model_->showSnackBar = true;
 }
 

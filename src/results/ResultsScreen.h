@@ -1,7 +1,6 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
@@ -15,6 +14,8 @@
 #include "services/FlightQuery.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <cstdint>
 #include <memory>
@@ -48,7 +49,7 @@ public:
     /// How far the list is scrolled from its start, in points.
     Published<double> offset{fields, "offset", 0.0};
     Published<bool> showSegmant{fields, "showSegmant"};
-    Published<std::string> errorMessage;
+    Published<std::string> errorMessage{fields, "errorMessage"};
 
     Derived<std::string> routeImage{fields, "routeImage", [this] {
                                         return std::string(model_->hasReturnDate ? "exchangeIcon" : "toIcon");
@@ -62,18 +63,18 @@ public:
         fields, "departDateText", [this] { return dateText(model_->departDate); }};
     Derived<std::string> returnDateText{
         fields, "returnDateText", [this] { return dateText(model_->returnDate); }};
-    Constant addReturnDateText{fields, "addReturnDateText", "Add Return Date"};
+    Caption addReturnDateText{fields, "addReturnDateText", Text::resultsAddReturnDate};
     Derived<bool> showsReturnDate{fields, "showsReturnDate", [this] { return model_->hasReturnDate.get(); }};
     Derived<bool> showsFloatingBar{
         fields, "showsFloatingBar", [this] { return !model_->isLoading && !model_->noInternetConnection; }};
     Derived<bool> showsScrollUp{
         fields, "showsScrollUp", [this] { return showsFloatingBar.get() && !model_->showActionBar; }};
     Derived<bool> filterIsOn{fields, "filterIsOn", [this] {
-                                 return model_->selectedId.get() != "All Airlines" || !model_->time->empty();
+                                 return model_->selectedId.get() != allAirlines || !model_->time->empty();
                              }};
-    Constant totalLabel{fields, "totalLabel", "Total Fare"};
+    Caption totalLabel{fields, "totalLabel", Text::totalFare};
     Derived<std::string> total{fields, "total", [this] { return totalText(); }};
-    Constant continueText{fields, "continueText", "Continue"};
+    Caption continueText{fields, "continueText", Text::continueOn};
 
     Action<> back{*this, "back", [this] { dismiss(); }};
     Action<> edit{*this, "edit", [this] { dismiss(); }};
@@ -103,8 +104,7 @@ public:
 
 protected:
     ResultsScreen(std::string_view name, std::string_view modelKey, SearchRequest request,
-                  std::shared_ptr<ResultsModel> model, std::string message,
-                  CompletionCallback completionCallback);
+                  std::shared_ptr<ResultsModel> model, Text message, CompletionCallback completionCallback);
 
     virtual void sendSearch(const FlightQuery& query, bool roundTrip) = 0;
     /// Before a search starts, what the kind of list clears besides.
@@ -131,7 +131,7 @@ protected:
     /// The choice in a list of one-way or of round-trip offers.
     OfferSelection selection();
     /// Says why the way on is closed.
-    void refuse(const char* message);
+    void refuse(Text message);
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }
 
 private:
@@ -149,6 +149,7 @@ private:
 
     std::uint64_t searches_ = 0; ///< sent so far
     CompletionCallback completionCallback_;
+    SpokenField errorWords_;
     Model modelModel_;
     CustomSnackBarView snackBar_{model_->showSnackBar};
     /// What the calendar writes for the departure; the header shows the date itself.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "words/Text.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -11,7 +13,7 @@ namespace ombrivane {
 /// is both early morning and morning.
 struct TimeBucket {
     const char* key;
-    const char* title;
+    Text title;
     const char* label;
     const char* icon;
     std::int64_t firstHour;
@@ -19,10 +21,10 @@ struct TimeBucket {
 };
 
 inline constexpr std::array<TimeBucket, 4> timeBuckets{{
-    {"earlyMorning", "Early Morning", "00:00 - 06:00", "sunriseIcon", 0, 6},
-    {"morning", "Morning", "06:00 - 12:00", "sunIcon", 6, 12},
-    {"afternoon", "Afternoon", "12:00 - 18:00", "sunsetIcon", 12, 18},
-    {"evening", "Evening", "18:00 - 00:00", "starIcon", 18, INT64_MAX},
+    {"earlyMorning", Text::timeEarlyMorning, "00:00 - 06:00", "sunriseIcon", 0, 6},
+    {"morning", Text::timeMorning, "06:00 - 12:00", "sunIcon", 6, 12},
+    {"afternoon", Text::timeAfternoon, "12:00 - 18:00", "sunsetIcon", 12, 18},
+    {"evening", Text::timeEvening, "18:00 - 00:00", "starIcon", 18, INT64_MAX},
 }};
 
 /// The bucket with `key`, or nullptr.

@@ -9,6 +9,7 @@
 #include "records/Airport.h"
 #include "records/KeyedRecords.h"
 #include "services/AirportSearchProvider.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <memory>
@@ -38,8 +39,8 @@ public:
     void appear() override { searchFor(""); }
 
     Published<std::vector<Airport>> airports{fields, "airports"};
-    Constant placeholder;
-    Constant heading{fields, "heading", "Popular Destination"};
+    Caption placeholder;
+    Caption heading{fields, "heading", Text::airportsPopular};
     Rows rows{*this,
               "rows",
               [this] { return airports->size(); },
@@ -56,7 +57,7 @@ public:
     static std::string describe(const Airport& airport);
 
 protected:
-    AirportSearch(std::string_view screenName, std::string_view textKey, const char* placeholderText) :
+    AirportSearch(std::string_view screenName, std::string_view textKey, Text placeholderText) :
         Screen(screenName), placeholder(fields, "placeholder", placeholderText), text(fields, textKey) {}
 
     /// Which of the airports found are shown.

@@ -1,13 +1,14 @@
 #include "search/CustomTabBarView.h"
 
 #include "parts/AlertView.h"
+#include "words/Words.h"
 
 namespace ombrivane {
 
 std::vector<std::string> CustomTabBarView::labelTabs() const {
     std::vector<std::string> texts;
     for (const TabBarItem tab : tabs.get()) {
-        texts.emplace_back(tabBarWordings.at(static_cast<std::size_t>(tab)).label);
+        texts.push_back(said(tabBarWordings.at(static_cast<std::size_t>(tab)).label));
     }
     return texts;
 }
@@ -21,7 +22,7 @@ void CustomTabBarView::choose(TabBarItem tab) {
 }
 
 std::shared_ptr<Screen> CustomTabBarView::makeAlert() {
-    return std::make_shared<AlertView>("Sorry!", "This feature is not available at the moment.");
+    return std::make_shared<AlertView>(said(Text::alertSorry), said(Text::tabNotAvailable));
 }
 
 } // namespace ombrivane

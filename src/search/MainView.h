@@ -1,7 +1,6 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
@@ -11,6 +10,7 @@
 #include "search/OneWayView.h"
 #include "search/RoundTripView.h"
 #include "state/CompletionCallback.h"
+#include "words/Caption.h"
 
 #include <memory>
 #include <optional>
@@ -27,7 +27,7 @@ public:
         Screen("MainView"), completionCallback_(std::move(completionCallback)) {}
 
     Published<TabBarItem> tabSelection{fields, "tabSelection", TabBarItem::oneWay};
-    Constant title{fields, "title", "Flight Search"};
+    Caption title{fields, "title", Text::searchTitle};
     /// Closes the component without a word to the host.
     Action<> back{*this, "back", [this] { completionCallback_(std::nullopt, std::nullopt); }};
 

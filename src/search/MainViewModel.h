@@ -4,6 +4,7 @@
 #include "dates/Day.h"
 #include "dates/TripDates.h"
 #include "keyed/Field.h"
+#include "offers/CabinClass.h"
 #include "records/Country.h"
 #include "records/KeyedRecords.h"
 
@@ -60,7 +61,7 @@ public:
     Published<std::string> adult{fields, "adult", "1"};
     Published<std::string> child{fields, "child", "0"};
     Published<std::string> infant{fields, "infant", "0"};
-    Published<std::string> cabinClass{fields, "cabinClass", "All Class"};
+    Published<std::string> cabinClass{fields, "cabinClass", anyCabin};
 };
 
 } // namespace ombrivane

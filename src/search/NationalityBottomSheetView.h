@@ -6,6 +6,7 @@
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
 #include "search/MainViewModel.h"
+#include "words/Caption.h"
 
 #include <functional>
 #include <memory>
@@ -40,7 +41,7 @@ public:
     Published<std::string> nationalityText{fields, "nationalityText"};
     Published<std::vector<Country>> countries{fields, "countries", model_.countries};
     Published<std::vector<Country>> filteredCountries{fields, "filteredCountries"};
-    Constant placeholder{fields, "placeholder", "Search Nationality"};
+    Caption placeholder{fields, "placeholder", Text::nationalitySearch};
     Rows rows{*this,
               "rows",
               [this] { return shown().size(); },

@@ -42,14 +42,14 @@ void SearchForm::chooseNationality() {
         }));
 }
 
-void SearchForm::refuse(const char* message) {
-    errorMessage = message;
+void SearchForm::refuse(Text message) {
+    errorMessage = said(message);
     model_.showAlert = true;
 }
 
 void SearchForm::checkAndSearch() {
-    if (model_.isMissingFields()) return refuse("Please select all the fields.");
-    if (traits_.hasReturnDate && model_.isMissingReturnDate()) return refuse("Please select return date.");
+    if (model_.isMissingFields()) return refuse(Text::searchSelectAllFields);
+    if (traits_.hasReturnDate && model_.isMissingReturnDate()) return refuse(Text::searchSelectReturnDate);
     if (model_.departCityCode.get() == model_.destCityCode.get()) {
         model_.showDestinationSameAlert = true;
     } else if (model_.isDomestic()) {
@@ -112,11 +112,11 @@ std::shared_ptr<Screen> SearchForm::makeNationalitySheet() {
 }
 
 std::shared_ptr<Screen> SearchForm::makeAlert() {
-    return std::make_shared<AlertView>("Error!", errorMessage.get());
+    return std::make_shared<AlertView>(said(Text::alertError), errorMessage.get());
 }
 
 std::shared_ptr<Screen> SearchForm::makeSameCityAlert() {
-    return std::make_shared<AlertView>("Error!", "Departure / Destination city cannot be same");
+    return std::make_shared<AlertView>(said(Text::alertError), said(Text::searchSameCity));
 }
 
 } // namespace ombrivane

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
 #include "results/SearchRequest.h"
 #include "search/MainViewModel.h"
+#include "search/TravellersText.h"
 #include "services/CountryProvider.h"
 #include "state/AppState.h"
 #include "state/CompletionCallback.h"
+#include "words/Caption.h"
+#include "words/Spoken.h"
 
 #include <memory>
 #include <string>
@@ -44,25 +46,26 @@ public:
     void appear() override { isInView_ = true; }
     void disappear() override { isInView_ = false; }
 
-    Published<std::string> errorMessage{fields, "errorMessage", "Please select all the fields."};
+    Published<std::string> errorMessage{fields, "errorMessage"};
     /// The calendar is pushed.
     Published<bool> datePickerIsActive{fields, "datePickerIsActive"};
 
     Derived<std::string> origin{fields, "origin", [this] { return model_.originText.get(); }};
-    Constant originPlaceholder{fields, "originPlaceholder", "Enter Origin"};
+    Caption originPlaceholder{fields, "originPlaceholder", Text::searchEnterOrigin};
     Derived<std::string> destination{fields, "destination", [this] { return model_.destinationText.get(); }};
-    Constant destinationPlaceholder{fields, "destinationPlaceholder", "Enter Destination"};
+    Caption destinationPlaceholder{fields, "destinationPlaceholder", Text::searchEnterDestination};
     Derived<std::string> departureDate{fields, "departureDate", [this] {
                                            return shownDate(model_.departureDateText, model_.departureDate);
                                        }};
-    Constant departureDatePlaceholder{fields, "departureDatePlaceholder", "Departure Date"};
+    Caption departureDatePlaceholder{fields, "departureDatePlaceholder", Text::searchDepartureDate};
     /// Of the round-trip form.
     Derived<std::string> returnDate{
         fields, "returnDate", [this] { return shownDate(model_.returnDateText, model_.returnDate); }};
-    Constant returnDatePlaceholder{fields, "returnDatePlaceholder", "Return Date"};
+    Caption returnDatePlaceholder{fields, "returnDatePlaceholder", Text::searchReturnDate};
     Derived<std::string> nationality{fields, "nationality", [this] { return model_.nationalityText.get(); }};
-    Constant nationalityPlaceholder{fields, "nationalityPlaceholder", "Select Nationality"};
-    Derived<std::string> travellers{fields, "travellers", [this] { return model_.travellerText.get(); }};
+    Caption nationalityPlaceholder{fields, "nationalityPlaceholder", Text::searchNationality};
+    Derived<std::string> travellers{
+        fields, "travellers", [this] { return shownTravellers(model_.travellerText); }};
     Derived<bool> showsReturnDate{fields, "showsReturnDate", [this] { return traits_.hasReturnDate; }};
     Derived<bool> isFetchingCountries{
         fields, "isFetchingCountries", [this] { return model_.showProgressView.get(); }};
@@ -82,7 +85,7 @@ private:
     static std::string shownDate(const std::string& text, Day date);
     void chooseNationality();
     void checkAndSearch();
-    void refuse(const char* message);
+    void refuse(Text message);
     SearchRequest request() const;
     std::shared_ptr<Screen> makeOriginSearch();
     std::shared_ptr<Screen> makeDestinationSearch();
@@ -94,6 +97,7 @@ private:
     std::shared_ptr<Screen> makeAlert();
     static std::shared_ptr<Screen> makeSameCityAlert();
 
+    SpokenField errorWords_{errorMessage, Text::searchSelectAllFields};
     bool isInView_ = false;
     CountryProvider countriesProvider_;
     Model appStateModel_{fields, "appState", appState_.fields};

@@ -4,7 +4,7 @@ namespace ombrivane {
 
 SelectDestinationFlightView::SelectDestinationFlightView(MainViewModel& model, std::string originCode,
                                                          std::function<void()> callback) :
-    AirportSearch("SelectDestinationFlightView", "destinationText", "Search Destination City"),
+    AirportSearch("SelectDestinationFlightView", "destinationText", Text::airportsSearchDestination),
     model_(model),
     selectedOriginCityCode(fields, "selectedOriginCityCode", std::move(originCode)),
     callback_(std::move(callback)) {}

@@ -17,7 +17,7 @@ private:
 
 public:
     explicit SelectOriginFlightView(MainViewModel& model) :
-        AirportSearch("SelectOriginFlightView", "originText", "Search Origin City"), model_(model) {}
+        AirportSearch("SelectOriginFlightView", "originText", Text::airportsSearchOrigin), model_(model) {}
 
     Binding<std::string> originTextField{fields, "originTextField", model_.originText};
     Binding<std::string> destinationTextField{fields, "destinationTextField", model_.destinationText};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyed/Keyed.h"
+#include "words/Text.h"
 
 #include <array>
 
@@ -12,13 +13,13 @@ enum class TabBarItem { oneWay, roundTrip, multiCity };
 struct TabBarWording {
     TabBarItem tab;
     const char* key;
-    const char* label;
+    Text label;
 };
 
 inline constexpr std::array<TabBarWording, 3> tabBarWordings{{
-    {TabBarItem::oneWay, "oneWay", "One Way"},
-    {TabBarItem::roundTrip, "roundTrip", "Round Trip"},
-    {TabBarItem::multiCity, "multiCity", "Multi City"},
+    {TabBarItem::oneWay, "oneWay", Text::tabOneWay},
+    {TabBarItem::roundTrip, "roundTrip", Text::tabRoundTrip},
+    {TabBarItem::multiCity, "multiCity", Text::tabMultiCity},
 }};
 
 template <> struct Keyed<TabBarItem> {

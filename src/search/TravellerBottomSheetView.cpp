@@ -12,7 +12,7 @@ std::shared_ptr<Screen> TravellerBottomSheetView::makeStepper(TravellerKind kind
 std::shared_ptr<Screen> TravellerBottomSheetView::makeCabin(const CabinChoice& choice) {
     return std::make_shared<CustomRadioButtonFieldView>(
         choice.id,
-        choice.label,
+        [&choice] { return said(choice.label); },
         [this, &choice] { return cabinClass.get() == choice.id; },
         [this, &choice] { cabinClass = choice.id; });
 }

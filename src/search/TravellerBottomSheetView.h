@@ -1,12 +1,13 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
 #include "keyed/Field.h"
 #include "keyed/Rows.h"
 #include "keyed/Screen.h"
+#include "offers/CabinClass.h"
 #include "search/MainViewModel.h"
 #include "search/TravellerRules.h"
+#include "words/Caption.h"
 
 #include <array>
 #include <memory>
@@ -28,10 +29,10 @@ public:
     Binding<std::string> child{fields, "child", model_.child};
     Binding<std::string> infant{fields, "infant", model_.infant};
     Binding<std::string> cabinClass{fields, "cabinClass", model_.cabinClass};
-    Constant heading{fields, "heading", "Select Number Of Travellers And Class"};
-    Constant subHeading{fields, "subHeading", "Add Number Of Travellers"};
-    Constant cabinHeading{fields, "cabinHeading", "Choose Cabin Class"};
-    Constant doneText{fields, "doneText", "Done"};
+    Caption heading{fields, "heading", Text::travellersTitle};
+    Caption subHeading{fields, "subHeading", Text::travellersAdd};
+    Caption cabinHeading{fields, "cabinHeading", Text::travellersCabin};
+    Caption doneText{fields, "doneText", Text::done};
     /// Adults, children, infants.
     Rows steppers{*this,
                   "steppers",
@@ -47,16 +48,16 @@ public:
 private:
     struct CabinChoice {
         const char* id;
-        const char* label;
+        Text label;
     };
 
     static constexpr std::array kinds{TravellerKind::adult, TravellerKind::child, TravellerKind::infant};
     static constexpr std::array<CabinChoice, 5> cabinChoices{{
-        {"Economy", "Economy"},
-        {"Premium Economy", "Premium Economy"},
-        {"Business", "Business"},
-        {"First Class", "First Class"},
-        {"All Class", "All"},
+        {"Economy", Text::cabinEconomy},
+        {"Premium Economy", Text::cabinPremiumEconomy},
+        {"Business", Text::cabinBusiness},
+        {"First Class", Text::cabinFirst},
+        {anyCabin, Text::cabinAll},
     }};
 
     std::shared_ptr<Screen> makeStepper(TravellerKind kind);

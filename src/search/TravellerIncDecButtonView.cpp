@@ -2,16 +2,16 @@
 
 namespace ombrivane {
 
-TravellerIncDecButtonView::Words TravellerIncDecButtonView::words() const {
+TravellerIncDecButtonView::Label TravellerIncDecButtonView::label() const {
     switch (kind_) {
     case TravellerKind::adult:
-        return {"Adult", "12 years and above"};
+        return {Text::passengerAdult, Text::travellersAdultAge};
     case TravellerKind::child:
-        return {"Child", "2 - 12 years"};
+        return {Text::passengerChild, Text::travellersChildAge};
     case TravellerKind::infant:
         break;
     }
-    return {"Infant", "below 2 years"};
+    return {Text::passengerInfant, Text::travellersInfantAge};
 }
 
 const Field<std::string>& TravellerIncDecButtonView::count() const {

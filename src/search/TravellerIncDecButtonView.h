@@ -5,6 +5,7 @@
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "search/TravellerRules.h"
+#include "words/Words.h"
 
 #include <string>
 
@@ -24,8 +25,8 @@ public:
     Binding<std::string> adult;
     Binding<std::string> child;
     Binding<std::string> infant;
-    Derived<std::string> category{fields, "category", [this] { return words().category; }};
-    Derived<std::string> categoryDetail{fields, "categoryDetail", [this] { return words().detail; }};
+    Derived<std::string> category{fields, "category", [this] { return said(label().category); }};
+    Derived<std::string> categoryDetail{fields, "categoryDetail", [this] { return said(label().detail); }};
     Derived<std::string> numberValue{fields, "numberValue", [this] { return count().get(); }};
     /// Whether the controls are drawn as active.
     Derived<bool> mayIncrement{fields, "mayIncrement", [this] { return counts().mayIncrement(kind_); }};
@@ -42,12 +43,12 @@ public:
                        }};
 
 private:
-    struct Words {
-        const char* category;
-        const char* detail;
+    struct Label {
+        Text category;
+        Text detail;
     };
 
-    Words words() const;
+    Label label() const;
     /// The count that this stepper changes.
     const Field<std::string>& count() const;
     TravellerCounts counts() const;

@@ -1,30 +1,31 @@
 #include "services/CustomError.h"
 
 #include "platform/Platform.h"
+#include "words/Words.h"
 
 #include <array>
 
 namespace ombrivane {
 namespace {
 
-struct Wording {
-    const char* key;
+struct Failure {
+    Text text;
     const char* comment; ///< for the translator
 };
 
 /// In the order of the cases.
-constexpr std::array<Wording, 4> wordings{{
-    {"The provided url is not valid.", "Invalid URL"},
-    {"You are not connected to internet.", "No Internet Connection"},
-    {"Please update yor phone to ios 14.", "Invalid URL"},
-    {"The source and destination can't be same", "Invalid Destination"},
+constexpr std::array<Failure, 4> failures{{
+    {Text::errorInvalidUrl, "Invalid URL"},
+    {Text::errorNoConnection, "No Internet Connection"},
+    {Text::errorUpdateDevice, "Invalid URL"},
+    {Text::errorInvalidDestination, "Invalid Destination"},
 }};
 
 } // namespace
 
 std::optional<std::string> errorDescription(CustomError error) {
-    const Wording& wording = wordings.at(static_cast<std::size_t>(error));
-    return platform().localization->localized(wording.key, wording.comment);
+    const Failure& failure = failures.at(static_cast<std::size_t>(error));
+    return platform().localization->localized(said(failure.text), failure.comment);
 }
 
 Error makeError(CustomError error) {

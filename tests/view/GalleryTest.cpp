@@ -1,4 +1,5 @@
 #include "Inspection.h"
+#include "Pseudo.h"
 #include "Walk.h"
 
 #include <gtest/gtest.h>
@@ -18,14 +19,17 @@ struct Look {
     int height;
     bool dark;
     double textScale;
+    const char* language; ///< a tag, `longer` for texts that are accented and longer, or nothing for none
 };
 
-constexpr Look phone{"phone", 390, 844, false, 1};
+constexpr const char* longer = "longer";
+constexpr Look phone{"phone", 390, 844, false, 1, nullptr};
 constexpr Look looks[] = {
     phone,
-    {"dark-narrow", 320, 640, true, 1},
-    {"narrow-large-text", 320, 568, false, 2},
-    {"wide", 1024, 768, false, 1.3},
+    {"dark-narrow", 320, 640, true, 1, "ne"},
+    {"narrow-large-text", 320, 568, false, 2, nullptr},
+    {"narrow-longer", 320, 568, false, 2, longer},
+    {"wide", 1024, 768, false, 1.3, "ar"},
 };
 
 constexpr const char* walks[] = {"abroad", "home", "trouble", "payment", "hostile"};
@@ -64,6 +68,11 @@ TEST_P(GalleryTest, EveryPageIsSoundAndLooksAsItDid) {
     WalkPorts ports;
     Window window(look.width, look.height);
     window.setLook(look.dark, look.textScale);
+    if (look.language == longer) {
+        window.session().setTexts(accentedTexts());
+    } else if (look.language != nullptr) {
+        window.session().setLanguage(look.language);
+    }
     const char* folder = std::getenv("OMBRIVANE_PICTURES");
     int taken = 0;
     walk(ports,

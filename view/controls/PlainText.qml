@@ -14,6 +14,8 @@ Text {
     topPadding: (spread - 1) * 0.6 * font.pixelSize
     bottomPadding: -topPadding
     wrapMode: Text.Wrap
+    // Of the page, not of the letters: what is said mirrors with everything else.
+    horizontalAlignment: Text.AlignLeft
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 }

@@ -2,6 +2,7 @@
 
 #include "base/Fault.h"
 #include "platform/Platform.h"
+#include "words/LanguageChoice.h"
 
 #include <QPointer>
 
@@ -25,6 +26,42 @@ double OmbrivaneSession::givenWalletBalance() const {
 
 void OmbrivaneSession::setWalletBalance(double given) {
     walletBalance = std::isnan(given) ? std::nullopt : std::optional(given);
+}
+
+void OmbrivaneSession::setLanguage(const QString& given) {
+    language = given;
+    speakAgain();
+}
+
+void OmbrivaneSession::setRegion(const QString& given) {
+    region = given;
+    speakAgain();
+}
+
+void OmbrivaneSession::setTexts(const QVariantMap& given) {
+    texts = given;
+    speakAgain();
+}
+
+void OmbrivaneSession::resetLanguage() {
+    language.reset();
+    speakAgain();
+}
+
+void OmbrivaneSession::resetRegion() {
+    region.reset();
+    speakAgain();
+}
+
+void OmbrivaneSession::speak() const {
+    LanguageChoice choice{given(language), given(region), {}};
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        choice.texts.emplace(text.key().toStdString(), text->toString().toStdString());
+    chooseLanguage(std::move(choice));
+}
+
+void OmbrivaneSession::speakAgain() const {
+    if (view_) speak();
 }
 
 void OmbrivaneSession::drop() {
@@ -54,6 +91,7 @@ CompletionCallback OmbrivaneSession::callback() {
 
 void OmbrivaneSession::open() {
     drop();
+    speak();
     opened_ = std::make_shared<Opened>();
     view_ = std::make_unique<OmbrivaneView>(clientId.toStdString(),
                                             clientSecret.toStdString(),

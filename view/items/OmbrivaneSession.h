@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QVariantMap>
 
 #include <memory>
 #include <optional>
@@ -24,6 +25,10 @@ class OmbrivaneSession : public QObject {
         double walletBalance READ givenWalletBalance WRITE setWalletBalance RESET resetWalletBalance FINAL)
     Q_PROPERTY(QString phone READ givenPhone WRITE setPhone RESET resetPhone FINAL)
     Q_PROPERTY(QString environment READ givenEnvironment WRITE setEnvironment RESET resetEnvironment FINAL)
+    // Of the language, as `LanguageChoice` says; a change takes effect at once while the component is open.
+    Q_PROPERTY(QString language READ givenLanguage WRITE setLanguage RESET resetLanguage FINAL)
+    Q_PROPERTY(QString region READ givenRegion WRITE setRegion RESET resetRegion FINAL)
+    Q_PROPERTY(QVariantMap texts READ givenTexts WRITE setTexts FINAL)
     Q_PROPERTY(ombrivane::view::StageModel* stage READ stage CONSTANT FINAL)
 
 public:
@@ -51,6 +56,9 @@ public:
     std::optional<double> walletBalance; ///< in whole rupees; absent: no limit
     std::optional<QString> phone;        ///< of the customer
     std::optional<QString> environment; ///< absent: "test"; any text but "test", an empty one too: production
+    std::optional<QString> language;    ///< a BCP 47 tag or "device"; absent: English
+    std::optional<QString> region;      ///< by which numbers and dates are written; absent: of the language
+    QVariantMap texts;                  ///< the wallet's own texts by key
 
     /// The hand-over, or progress where "exit" in it is false; JSON. On the main thread.
     Q_SIGNAL void finished(const QString& dictionary);
@@ -66,6 +74,12 @@ public:
     QString givenPhone() const { return phone.value_or(QString()); }
     /// For QML: empty where absent.
     QString givenEnvironment() const { return environment.value_or(QString()); }
+    /// For QML: empty where absent.
+    QString givenLanguage() const { return language.value_or(QString()); }
+    /// For QML: empty where absent.
+    QString givenRegion() const { return region.value_or(QString()); }
+    /// For QML.
+    QVariantMap givenTexts() const { return texts; }
     /// For QML: NaN where absent.
     double givenWalletBalance() const;
     /// Given from here on, also when it is empty.
@@ -74,6 +88,12 @@ public:
     void setPhone(const QString& given) { phone = given; }
     /// Given from here on, also when it is empty.
     void setEnvironment(const QString& given) { environment = given; }
+    /// A BCP 47 tag or "device", from here on.
+    void setLanguage(const QString& given);
+    /// A region, from here on.
+    void setRegion(const QString& given);
+    /// Texts by key, from here on, in the place of those given before.
+    void setTexts(const QVariantMap& given);
     /// NaN is absent, as it is what an absent balance reads as.
     void setWalletBalance(double given);
     /// Absent from here on.
@@ -83,10 +103,16 @@ public:
     /// Absent from here on.
     void resetEnvironment() { environment.reset(); }
     /// Absent from here on.
+    void resetLanguage();
+    /// Absent from here on.
+    void resetRegion();
+    /// Absent from here on.
     void resetWalletBalance() { walletBalance.reset(); }
 
 private:
     CompletionCallback callback();
+    void speak() const;
+    void speakAgain() const;
 
     struct Opened {};
 

@@ -1,0 +1,62 @@
+#include "Walk.h"
+
+#include "words/Words.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace ombrivane::view {
+namespace {
+
+/// A wallet that says in QML what it wants.
+constexpr const char* wallet = R"(
+import QtQuick
+import Ombrivane
+Window {
+    visible: true
+    OmbrivaneView {
+        objectName: "component"
+        anchors.fill: parent
+        clientId: "wallet"; clientSecret: "wallet-secret"; reducedMotion: true
+        language: "ne"; region: "NP"; texts: ({ searchFlights: "Nepal by air" })
+    }
+})";
+
+bool shows(Window& window, const QString& text) {
+    const auto items = window.visibleItems();
+    return std::any_of(items.begin(), items.end(), [&](const QQuickItem* item) {
+        return item->property("text").toString() == text;
+    });
+}
+
+QString words(const char* language, Text text) {
+    chooseLanguage({.language = language, .region = {}, .texts = {}});
+    const QString said = QString::fromStdString(ombrivane::said(text));
+    chooseLanguage({});
+    return said;
+}
+
+TEST(LanguageTest, AWalletInQmlSaysItsLanguageAndChangesItWhileThePagesAreShown) {
+    const WalkPorts ports;
+    const QString english = words("en", Text::searchTitle);
+    const QString nepali = words("ne", Text::searchTitle);
+    ASSERT_NE(english, nepali);
+    Window window(wallet);
+    window.open();
+    ASSERT_TRUE(window.waitForScreen("MainView"));
+    EXPECT_TRUE(Window::waitFor([&] { return shows(window, nepali); }));
+    EXPECT_TRUE(shows(window, "Nepal by air"));
+    window.session().resetLanguage();
+    EXPECT_TRUE(Window::waitFor([&] { return shows(window, english); }));
+    EXPECT_TRUE(shows(window, "Nepal by air"));
+    window.session().setTexts({});
+    window.session().setLanguage("ne-NP");
+    EXPECT_TRUE(Window::waitFor([&] { return shows(window, nepali); }));
+    EXPECT_FALSE(shows(window, "Nepal by air"));
+    EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
+    chooseLanguage({});
+}
+
+} // namespace
+} // namespace ombrivane::view

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "keyed/Observable.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QVariantMap>
+
+namespace ombrivane::view {
+
+/// Every text of the component for its pages, by key, in the customer's language.
+///
+/// Of what is included several times moc reads the first, which has to be the one below.
+class WordsAdapter : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(Words)
+    QML_SINGLETON
+#define OMBRIVANE_WORDING(key, english) Q_PROPERTY(QString key READ key NOTIFY changed FINAL)
+#include "words/Texts.def"
+#undef OMBRIVANE_WORDING
+    /// Whether the language is written from the right to the left.
+    Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY changed FINAL)
+
+public:
+    WordsAdapter();
+
+#define OMBRIVANE_WORDING(key, english) static QString key();
+#include "words/Texts.def"
+#undef OMBRIVANE_WORDING
+
+    static bool rightToLeft();
+
+    /// A text with named places, each filled in: `Words.fill(Words.fieldIsMissing, {field: name})`.
+    Q_INVOKABLE static QString fill(const QString& pattern, const QVariantMap& places);
+
+    Q_SIGNAL void changed();
+
+private:
+    Subscription changed_;
+};
+
+} // namespace ombrivane::view
