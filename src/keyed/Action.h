@@ -25,7 +25,10 @@ public:
         run_(std::move(run)),
         enabled_(std::move(enabled)) {}
 
-    bool isEnabled() const { return owner_.takesInput() && (!enabled_ || enabled_()); }
+    /// Whether a tap does anything now.
+    bool isEnabled() const { return isAllowed() && owner_.takesInput(); }
+    /// Whether its own condition allows it, whatever lies over its screen: what a control is drawn by.
+    bool isAllowed() const { return !enabled_ || enabled_(); }
 
     void operator()(Arguments... arguments) {
         const auto hold = owner_.weak_from_this().lock();
@@ -41,10 +44,10 @@ public:
         triggerWith(arguments, std::index_sequence_for<Arguments...>());
     }
 
-    /// Tells when the control may have become usable or unusable by a change of a field.
+    /// Tells when its own condition has begun or ceased to allow it.
     Subscription observe(Observer observer) override {
         if (!condition_)
-            condition_ = std::make_unique<Derived<bool>>(unkeyed_, key(), [this] { return isEnabled(); });
+            condition_ = std::make_unique<Derived<bool>>(unkeyed_, key(), [this] { return isAllowed(); });
         return condition_->observe(std::move(observer));
     }
 

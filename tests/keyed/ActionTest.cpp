@@ -72,6 +72,14 @@ TEST_F(ActionTest, DoesNothingWhileDisabledAndTellsWhenThatChanges) {
     write.trigger({1, "b"});
     EXPECT_EQ(form->written.get(), "b1");
     EXPECT_EQ(told, (std::vector<std::string>{R"({"enabled":false})", R"({"enabled":true})"}));
+
+    // A control is drawn by the condition alone: nothing tells when what lay over its screen has gone.
+    form->setHost({});
+    form->isOpen = false;
+    EXPECT_FALSE(form->write.isAllowed());
+    form->isOpen = true;
+    EXPECT_EQ(told.size(), 4U);
+    EXPECT_TRUE(form->write.isAllowed() && !form->write.isEnabled());
 }
 
 TEST_F(ActionTest, AFaultInsideStaysInside) {
