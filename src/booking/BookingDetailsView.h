@@ -1,8 +1,6 @@
 #pragma once
 
-#include "booking/BaggageInformationView.h"
 #include "booking/BookingSession.h"
-#include "booking/FlightInformationView.h"
 #include "booking/TripScreens.h"
 
 #include <memory>
@@ -16,6 +14,9 @@ template <class Trip> class BookingDetailsView final : public BookingSession {
 public:
     explicit BookingDetailsView(BookingGiven given) :
         BookingSession(TripScreens<Trip>::session, std::move(given)) {}
+
+    std::shared_ptr<FlightInformationView> information() const override { return information_; }
+    std::shared_ptr<BaggageInformationView> baggage() const override { return baggage_; }
 
     Published<Availability> flightAvailability{fields, TripScreens<Trip>::availabilityKey};
 

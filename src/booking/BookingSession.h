@@ -1,5 +1,7 @@
 #pragma once
 
+#include "booking/BaggageInformationView.h"
+#include "booking/FlightInformationView.h"
 #include "booking/OWPessangerContactDetailView.h"
 #include "booking/PaymentView.h"
 #include "booking/SessionPhase.h"
@@ -49,6 +51,12 @@ public:
 
     void appear() override;
     void disappear() override { task_.cancel(); }
+
+    /// What is shown inside of the session, also while the payment stands in the place of the others.
+    virtual std::shared_ptr<FlightInformationView> information() const = 0;
+    virtual std::shared_ptr<BaggageInformationView> baggage() const = 0;
+    std::shared_ptr<OWPessangerContactDetailView> contact() const { return contact_; }
+    std::shared_ptr<PaymentView> payment() const { return payment_; }
 
     Published<std::string> itineraryType;
     Published<std::optional<AnyFlight>> flight;

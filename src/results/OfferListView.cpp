@@ -7,23 +7,40 @@
 #include <utility>
 
 namespace ombrivane {
+namespace {
 
-template <class Traits>
-OfferListView<Traits>::OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings,
-                                     Text titleText, bool withStrip) :
-    Screen(Traits::list),
-    selection_(bindings.selection),
-    offers(fields, Traits::journeys == 1 ? "onewayFlights" : "roundtripFlights", shown),
-    isLoading(fields, "isLoading", bindings.isLoading),
-    scrollToTop(fields, "scrollToTop", bindings.scrollToTop),
-    titleWords_(title, titleText),
-    withStrip_(withStrip) {}
+/// As many as fill a tall phone.
+constexpr std::size_t placeholderCount = 6;
 
-template <class Traits> std::vector<RowIdentity> OfferListView<Traits>::placeholders() {
+std::vector<RowIdentity> placeholders() {
     std::vector<RowIdentity> identities;
     for (std::size_t index = 0; index < placeholderCount; ++index)
         identities.emplace_back("placeholder" + std::to_string(index));
     return identities;
+}
+
+} // namespace
+
+OfferList::OfferList(std::string_view listName, const OfferListBindings& bindings, Text titleText) :
+    Screen(listName),
+    selection_(bindings.selection),
+    isLoading(fields, "isLoading", bindings.isLoading),
+    scrollToTop(fields, "scrollToTop", bindings.scrollToTop),
+    titleWords_(title, titleText) {}
+
+template <class Traits>
+OfferListView<Traits>::OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings,
+                                     Text titleText, bool withStrip) :
+    OfferList(Traits::list, bindings, titleText),
+    offers(fields, Traits::journeys == 1 ? "onewayFlights" : "roundtripFlights", shown),
+    withStrip_(withStrip) {}
+
+template <class Traits> std::size_t OfferListView<Traits>::countRows() const {
+    return isLoading ? placeholderCount : offers->size();
+}
+
+template <class Traits> std::vector<RowIdentity> OfferListView<Traits>::identifyRows() const {
+    return isLoading ? placeholders() : identitiesOf(offers.get(), &Offer::id);
 }
 
 template <class Traits> std::size_t OfferListView<Traits>::countCards() const {
@@ -57,7 +74,7 @@ template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeRow(s
             std::nullopt,
             [] { return placeholderLines(Traits::journeys); },
             nullptr,
-            selection_);
+            selection());
     }
     const auto offer = offers->at(index);
     return std::make_shared<OfferItemView>(
@@ -65,7 +82,7 @@ template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeRow(s
         AnyFlight(offer),
         [offer] { return foldedLines(*offer); },
         [offer] { return linesOf(*offer); },
-        selection_);
+        selection());
 }
 
 template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeCard(std::size_t index) {

@@ -21,21 +21,13 @@ struct OfferListBindings {
     OfferSelection selection;
 };
 
-/// A list of offers with, where it is wanted, a strip of cards above it: one card for each pair of total and
-/// airline. While a search runs it shows placeholders.
-template <class Traits> class OfferListView final : public Screen {
+/// What a list of offers holds besides them. While a search runs it shows placeholders.
+class OfferList : public Screen {
 private:
     // Ahead of the bindings to it.
-    OfferSelection selection_;
+    const OfferSelection selection_;
 
 public:
-    using Offer = typename Traits::Offer;
-    using Offers = std::vector<std::shared_ptr<const Offer>>;
-
-    OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings, Text titleText,
-                  bool withStrip);
-
-    Binding<Offers> offers;
     Binding<bool> isLoading;
     Binding<bool> scrollToTop;
     Binding<bool> showContinueButton{fields, "showContinueButton", selection_.showContinueButton};
@@ -49,9 +41,9 @@ public:
     Published<std::string> scrollToId{fields, "scrollToId"};
     Rows rows{*this,
               "rows",
-              [this] { return isLoading ? placeholderCount : offers->size(); },
+              [this] { return countRows(); },
               [this](std::size_t index) { return makeRow(index); },
-              [this] { return isLoading ? placeholders() : identitiesOf(offers.get(), &Offer::id); }};
+              [this] { return identifyRows(); }};
     /// Empty where no strip is wanted.
     Rows strip{*this,
                "strip",
@@ -61,18 +53,45 @@ public:
     /// The list has arrived at its head.
     Action<> arrivedAtTop{*this, "arrivedAtTop", [this] { scrollToTop = false; }};
 
+protected:
+    OfferList(std::string_view name, const OfferListBindings& bindings, Text titleText);
+
+    const OfferSelection& selection() const { return selection_; }
+
+    virtual std::size_t countRows() const = 0;
+    virtual std::vector<RowIdentity> identifyRows() const = 0;
+    virtual std::shared_ptr<Screen> makeRow(std::size_t index) const = 0;
+    virtual std::size_t countCards() const = 0;
+    virtual std::vector<RowIdentity> identifyCards() const = 0;
+    virtual std::shared_ptr<Screen> makeCard(std::size_t index) = 0;
+
 private:
-    /// As many as fill a tall phone.
-    static constexpr std::size_t placeholderCount = 6;
-    static std::vector<RowIdentity> placeholders();
-
-    std::size_t countCards() const;
-    std::vector<RowIdentity> identifyCards() const;
-    const Offers& stripOffers() const;
-    std::shared_ptr<Screen> makeRow(std::size_t index) const;
-    std::shared_ptr<Screen> makeCard(std::size_t index);
-
     SpokenField titleWords_;
+};
+
+/// A list of offers with, where it is wanted, a strip of cards above it: one card for each pair of total and
+/// airline.
+template <class Traits> class OfferListView final : public OfferList {
+public:
+    using Offer = typename Traits::Offer;
+    using Offers = std::vector<std::shared_ptr<const Offer>>;
+
+    OfferListView(const Field<Offers>& shown, const OfferListBindings& bindings, Text titleText,
+                  bool withStrip);
+
+    Binding<Offers> offers;
+
+protected:
+    std::size_t countRows() const override;
+    std::vector<RowIdentity> identifyRows() const override;
+    std::shared_ptr<Screen> makeRow(std::size_t index) const override;
+    std::size_t countCards() const override;
+    std::vector<RowIdentity> identifyCards() const override;
+    std::shared_ptr<Screen> makeCard(std::size_t index) override;
+
+private:
+    const Offers& stripOffers() const;
+
     const bool withStrip_;
     mutable Offers stripOffers_;
     mutable std::uint64_t stripVersion_ = UINT64_MAX;

@@ -37,6 +37,9 @@ private:
 public:
     void appear() override;
 
+    /// What both kinds of list keep of their search.
+    ResultsModel& model() const { return *model_; }
+
     Published<std::string> departCityCode{fields, "departCityCode", request_.departCityCode};
     Published<std::string> departCity{fields, "departCity", request_.departCity};
     Published<std::string> destCityCode{fields, "destCityCode", request_.destCityCode};
