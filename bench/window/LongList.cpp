@@ -55,7 +55,7 @@ void LongList::fill() {
 QUrl LongList::page() const { return view::pageOf(*screen_); }
 
 void LongList::renewAdapter() {
-    adapter_ = std::make_unique<view::FlightListAdapter>(screen_);
+    adapter_ = std::make_unique<view::ResultsAdapter>(screen_);
     QQmlEngine::setObjectOwnership(adapter_.get(), QQmlEngine::CppOwnership);
 }
 

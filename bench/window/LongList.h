@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/ResultAdapters.h"
+#include "adapters/ResultsAdapter.h"
 #include "results/ResultsModel.h"
 
 #include <memory>
@@ -21,7 +21,7 @@ public:
     void fill();
 
     QUrl page() const;
-    view::FlightListAdapter& adapter() { return *adapter_; }
+    view::ResultsAdapter& adapter() { return *adapter_; }
     /// A fresh adapter, as a page that opens anew has one.
     void renewAdapter();
     std::size_t size() const { return offers_.size(); }
@@ -29,7 +29,7 @@ public:
 private:
     OneWayOffers offers_;
     std::shared_ptr<FlightListView> screen_;
-    std::unique_ptr<view::FlightListAdapter> adapter_;
+    std::unique_ptr<view::ResultsAdapter> adapter_;
 };
 
 } // namespace ombrivane::bench

@@ -1,20 +1,21 @@
 #pragma once
 
+#include "adapters/MainViewAdapter.h"
 #include "adapters/ScreenAdapter.h"
-#include "adapters/SearchAdapters.h"
 #include "session/EntryView.h"
 
 #include <memory>
 
 namespace ombrivane::view {
 
-/// The root of all pages: nothing until the bootstrap has finished, then the search.
+/// The root of all pages: nothing until the bootstrap has finished, then the search. By hand, since it reads
+/// no key.
 class EntryAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(ombrivane::view::MainViewAdapter* content READ content NOTIFY contentChanged FINAL)
-    OMBRIVANE_SCREEN(EntryAdapter, EntryView)
+    OMBRIVANE_SCREEN(EntryAdapter, ScreenAdapter, EntryView)
 
 public:
     MainViewAdapter* content();

@@ -1,9 +1,34 @@
 #include "adapters/PageTable.h"
 
-#include "adapters/BookingAdapters.h"
 #include "adapters/EntryAdapter.h"
-#include "adapters/ResultAdapters.h"
-#include "adapters/SearchAdapters.h"
+#include "adapters/MonthAdapter.h"
+#include "adapters/OfferAdapter.h"
+#include "adapters/PhotoPickerAdapter.h"
+#include "adapters/ResultsAdapter.h"
+#include "adapters/SessionAdapter.h"
+#include "adapters/screens/AirportRowAdapter.h"
+#include "adapters/screens/AirportSearchAdapter.h"
+#include "adapters/screens/AlertAdapter.h"
+#include "adapters/screens/CalendarAdapter.h"
+#include "adapters/screens/ConfirmationAdapter.h"
+#include "adapters/screens/ContactLineAdapter.h"
+#include "adapters/screens/DocumentTypeAdapter.h"
+#include "adapters/screens/DomesticFlightListAdapter.h"
+#include "adapters/screens/EmergencyAdapter.h"
+#include "adapters/screens/FilterAdapter.h"
+#include "adapters/screens/FlightDetailsAdapter.h"
+#include "adapters/screens/NationalityRowAdapter.h"
+#include "adapters/screens/NationalitySheetAdapter.h"
+#include "adapters/screens/NoFlightsAdapter.h"
+#include "adapters/screens/NoInternetAdapter.h"
+#include "adapters/screens/OfferCardAdapter.h"
+#include "adapters/screens/OfferListAdapter.h"
+#include "adapters/screens/RadioRowAdapter.h"
+#include "adapters/screens/RulesAdapter.h"
+#include "adapters/screens/StepperAdapter.h"
+#include "adapters/screens/TimeCardAdapter.h"
+#include "adapters/screens/TravellerAdapter.h"
+#include "adapters/screens/TravellerSheetAdapter.h"
 #include "base/Fault.h"
 
 #include <functional>
@@ -22,10 +47,6 @@ template <class Adapter> std::unique_ptr<ScreenAdapter> make(std::shared_ptr<Scr
     return std::make_unique<Adapter>(std::move(screen));
 }
 
-template <class List> std::unique_ptr<ScreenAdapter> makeList(std::shared_ptr<Screen> screen) {
-    return std::make_unique<OfferListAdapter>(std::static_pointer_cast<List>(std::move(screen)));
-}
-
 const std::map<std::string_view, Row>& table() {
     static const std::map<std::string_view, Row> rows{
         {"OmbrivaneView", {"EntryPage", make<EntryAdapter>}},
@@ -41,10 +62,10 @@ const std::map<std::string_view, Row>& table() {
         {"CustomOneWayDatePickerView", {"TravelCalendarView", make<CalendarAdapter>}},
         {"CustomRoundTripDatePickerView", {"TravelCalendarView", make<CalendarAdapter>}},
         {"Month", {nullptr, make<MonthAdapter>}},
-        {"FlightListView", {"FlightListView", make<FlightListAdapter>}},
+        {"FlightListView", {"FlightListView", make<ResultsAdapter>}},
         {"DomesticFlightListView", {"DomesticFlightListView", make<DomesticFlightListAdapter>}},
-        {"OneWayFlightListView", {"OfferListView", makeList<OneWayFlightListView>}},
-        {"RoundTripFlightListView", {"OfferListView", makeList<RoundTripFlightListView>}},
+        {"OneWayFlightListView", {"OfferListView", make<OfferListAdapter>}},
+        {"RoundTripFlightListView", {"OfferListView", make<OfferListAdapter>}},
         {"OneWayListItemView", {nullptr, make<OfferAdapter>}},
         {"RoundTripListItemView", {nullptr, make<OfferAdapter>}},
         {"OneWayHorizontalListItemView", {nullptr, make<OfferCardAdapter>}},

@@ -31,3 +31,13 @@ private:
 };
 
 } // namespace ombrivane::view
+
+/// The paragraphs that a screen derives.
+#define OMBRIVANE_PARAGRAPHS(name, source)                                                                   \
+    Q_PROPERTY(ombrivane::view::ParagraphsModel* name READ name CONSTANT FINAL)                              \
+public:                                                                                                      \
+    ombrivane::view::ParagraphsModel* name() { return &name##Model_; }                                       \
+                                                                                                             \
+private:                                                                                                     \
+    ombrivane::view::ParagraphsModel name##Model_{(source).get()};                                           \
+    ombrivane::Subscription name##Watch_ = watch(source, [this] { name##Model_.show((source).get()); });

@@ -1,16 +1,13 @@
 #pragma once
 
+#include "adapters/Shown.h"
 #include "keyed/Screen.h"
-#include "richtext/ShownText.h"
 
 #include <QObject>
 #include <QQmlEngine>
-#include <QString>
 
-#include <functional>
 #include <memory>
-#include <string>
-#include <vector>
+#include <utility>
 
 namespace ombrivane::view {
 
@@ -37,19 +34,15 @@ private:
     std::shared_ptr<Screen> screen_;
 };
 
-/// A text of the core as a page may show it.
-inline QString shown(const std::string& text) { return QString::fromStdString(shownText(text)); }
-inline bool shown(bool value) { return value; }
-inline int shown(int value) { return value; }
-inline double shown(double value) { return value; }
-
 } // namespace ombrivane::view
 
 /// Gives the adapter its screen as `core()`. First line of an adapter.
-#define OMBRIVANE_SCREEN(Adapter, Core)                                                                      \
+#define OMBRIVANE_SCREEN(Adapter, Base, Core)                                                                \
 public:                                                                                                      \
-    explicit Adapter(std::shared_ptr<ombrivane::Screen> screen) : ScreenAdapter(std::move(screen)) {}        \
-    ombrivane::Core& core() const { return static_cast<ombrivane::Core&>(*screen()); }
+    explicit Adapter(std::shared_ptr<ombrivane::Screen> screen) : Base(std::move(screen)) {}                 \
+    ombrivane::Core& core() const { return static_cast<ombrivane::Core&>(*screen()); }                       \
+                                                                                                             \
+private:
 
 /// One readable field: property, signal and conversion. `source` is an expression over `core()`.
 #define OMBRIVANE_FIELD(Type, name, source)                                                                  \
@@ -64,16 +57,22 @@ private:                                                                        
 #define OMBRIVANE_TEXT(name, source) OMBRIVANE_FIELD(QString, name, source)
 #define OMBRIVANE_FLAG(name, source) OMBRIVANE_FIELD(bool, name, source)
 
-/// One intent without arguments, and whether its control is usable.
+/// One intent without arguments.
 #define OMBRIVANE_INTENT(name, source)                                                                       \
-    Q_PROPERTY(bool name##Enabled READ name##Enabled NOTIFY name##EnabledChanged FINAL)                      \
 public:                                                                                                      \
     Q_INVOKABLE void name() { source(); }                                                                    \
-    bool name##Enabled() const { return (source).isEnabled(); }                                              \
+                                                                                                             \
+private:
+
+/// Whether the condition of an intent allows it: what its control is drawn by.
+#define OMBRIVANE_ENABLED(name, source)                                                                      \
+    Q_PROPERTY(bool name##Enabled READ name##Enabled NOTIFY name##EnabledChanged FINAL)                      \
+public:                                                                                                      \
+    bool name##Enabled() const { return (source).isAllowed(); }                                              \
     Q_SIGNAL void name##EnabledChanged();                                                                    \
                                                                                                              \
 private:                                                                                                     \
-    ombrivane::Subscription name##Watch_ = watch(source, [this] { emit name##EnabledChanged(); });
+    ombrivane::Subscription name##EnabledWatch_ = watch(source, [this] { emit name##EnabledChanged(); });
 
 /// One intent that takes a text.
 #define OMBRIVANE_INPUT(name, source)                                                                        \
@@ -97,3 +96,12 @@ public:                                                                         
                                                                                                              \
 private:                                                                                                     \
     ombrivane::view::RowsModel name##Model_{screen(), source};
+
+/// A screen shown inside of this one, by an adapter of its own.
+#define OMBRIVANE_PART(Adapter, name, source)                                                                \
+    Q_PROPERTY(ombrivane::view::Adapter* name READ name CONSTANT FINAL)                                      \
+public:                                                                                                      \
+    ombrivane::view::Adapter* name() { return &name##Part_; }                                                \
+                                                                                                             \
+private:                                                                                                     \
+    ombrivane::view::Adapter name##Part_{source};

@@ -11,7 +11,7 @@ T.AbstractButton {
 
     objectName: "offer"
     implicitHeight: column.implicitHeight + 2 * Theme.margin
-    enabled: !row.isPlaceholder
+    enabled: row.tapEnabled
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.CheckBox
     Accessible.name: row.label

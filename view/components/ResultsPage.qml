@@ -9,7 +9,7 @@ FocusScope {
     default property alias tabs: header.tabs
     readonly property real footShown: foot.arrival * foot.height
     // A wide window moves the list aside for its filter.
-    readonly property bool besideFilter: width >= Theme.wideWidth && results.showsFilter
+    readonly property bool besideFilter: width >= Theme.wideWidth && results.showFilterBottomSheet
 
     function showContent() { content.setSource(results.contentPage, {"screen": results.content, "results": results}) }
 
@@ -78,7 +78,7 @@ FocusScope {
             emphasised: true
             action: page.results.continueText
             actionIcon: "toIcon"
-            onClicked: page.results.goOn()
+            onClicked: page.results.proceed()
             Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
         }
         SnackBar {

@@ -16,7 +16,7 @@ T.AbstractButton {
     enabled: !awaited
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
-    Accessible.name: row.label
+    Accessible.name: row.carrierName + ", " + row.price
     onClicked: row.tap()
     Keys.onReturnPressed: card.clicked()
     Keys.onEnterPressed: card.clicked()

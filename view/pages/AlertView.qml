@@ -45,9 +45,9 @@ FocusScope {
                 Layout.topMargin: 8
                 text: page.screen.buttonText
                 focus: true
-                onClicked: page.screen.dismiss()
+                onClicked: page.screen.button()
             }
         }
     }
-    Keys.onEscapePressed: page.screen.dismiss()
+    Keys.onEscapePressed: page.screen.button()
 }

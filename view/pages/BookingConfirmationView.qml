@@ -32,7 +32,7 @@ Item {
         }
         ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading || page.screen.showProgressView; label: qsTr("Loading") }
         Repeater {
-            model: page.screen.flights
+            model: page.screen.flightBlocks
             Card {
                 id: flight
                 required property TicketFlightValue modelData
@@ -46,7 +46,7 @@ Item {
             }
         }
         Repeater {
-            model: page.screen.passengers
+            model: page.screen.passengerBlocks
             Card {
                 id: passenger
                 required property TicketPassengerValue modelData

@@ -14,7 +14,7 @@ Item {
         id: header
         width: parent.width
         spacing: 0
-        enabled: !page.covered
+        enabled: page.screen.backEnabled
         PageHeader {
             Layout.fillWidth: true
             title: page.screen.showPaymentView ? page.screen.appBarTitle
@@ -53,7 +53,7 @@ Item {
                 Layout.fillWidth: true
                 quiet: true
                 text: page.screen.information.detailsText
-                enabled: !page.screen.isLoading
+                enabled: page.screen.information.viewDetailsEnabled
                 onClicked: page.screen.information.viewDetails()
             }
         }
@@ -108,7 +108,7 @@ Item {
         id: foot
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         visible: page.screen.showsFoot
-        enabled: !page.covered
+        enabled: page.screen.proceedEnabled
         label: page.screen.totalLabel
         value: page.screen.total
         emphasised: true

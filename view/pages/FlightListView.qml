@@ -5,7 +5,7 @@ import Ombrivane
 ResultsPage {
     id: page
 
-    required property FlightListAdapter screen
+    required property ResultsAdapter screen
 
     results: screen
 }

@@ -53,7 +53,7 @@ Item {
             Layout.preferredWidth: 1
             quiet: true
             text: page.screen.cancelText
-            enabled: !page.screen.showProgressView
+            enabled: page.screen.cancelEnabled
             onClicked: page.screen.cancel()
         }
         MainButton {
@@ -61,7 +61,7 @@ Item {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             text: page.screen.continueText
-            enabled: !page.screen.showProgressView
+            enabled: page.screen.proceedEnabled
             onClicked: page.screen.proceed()
         }
     }

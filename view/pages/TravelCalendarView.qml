@@ -24,12 +24,12 @@ FocusScope {
         id: names
         anchors { top: header.bottom; horizontalCenter: parent.horizontalCenter }
         Repeater {
-            model: 7
+            model: page.screen.dayNames
             PlainText {
-                required property int index
+                required property string modelData
                 width: page.cellWidth
                 height: implicitHeight + 8
-                text: page.screen.dayName(index)
+                text: modelData
                 color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
                 horizontalAlignment: Text.AlignHCenter

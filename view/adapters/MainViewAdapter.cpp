@@ -1,4 +1,4 @@
-#include "adapters/SearchAdapters.h"
+#include "adapters/MainViewAdapter.h"
 
 namespace ombrivane::view {
 

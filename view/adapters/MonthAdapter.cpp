@@ -1,4 +1,4 @@
-#include "adapters/CalendarAdapters.h"
+#include "adapters/MonthAdapter.h"
 
 #include "dates/DateFormatter.h"
 
@@ -23,7 +23,7 @@ void DayAdapter::update(const CalendarCell& cell, bool fromPrevious, bool toNext
     emit changed();
 }
 
-MonthAdapter::MonthAdapter(std::shared_ptr<Screen> month) : ScreenAdapter(std::move(month)) {
+MonthAdapter::MonthAdapter(std::shared_ptr<Screen> month) : MonthProperties(std::move(month)) {
     for (const auto& cell : core().cells.get()) {
         if (!isFiller(cell))
             days_.append(std::make_unique<DayAdapter>(cell, this).release());
@@ -43,10 +43,6 @@ void MonthAdapter::update() {
         const bool toNext = cells[i].selected && i + 1 < cells.size() && cells[i + 1].inRange;
         days_[day++]->update(cells[i], fromPrevious, toNext);
     }
-}
-
-QString CalendarAdapter::dayName(int weekday) const {
-    return shown(core().dayNames.get().at(static_cast<std::size_t>(weekday)));
 }
 
 } // namespace ombrivane::view

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "adapters/ReadOnlyList.h"
-#include "adapters/RowsModel.h"
-#include "adapters/ScreenAdapter.h"
-#include "dates/TravelCalendar.h"
+#include "adapters/Value.h"
+#include "adapters/screens/MonthProperties.h"
 
 namespace ombrivane::view {
 
@@ -46,18 +44,18 @@ private:
     bool joinsNext_ = false;
 };
 
-class MonthAdapter : public ombrivane::view::ScreenAdapter {
+/// One month. By hand, since its days stay, each an object of its own, and since the page lays out days where
+/// the screen has fillers before the first.
+class MonthAdapter : public ombrivane::view::MonthProperties {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(QQmlListProperty<ombrivane::view::DayAdapter> days READ days CONSTANT FINAL)
     Q_PROPERTY(int firstColumn READ firstColumn CONSTANT FINAL) ///< where the first day stands in its week
-    OMBRIVANE_TEXT(title, core().title)
 
 public:
     explicit MonthAdapter(std::shared_ptr<Screen> screen);
 
-    TravelCalendar::Month& core() const { return static_cast<TravelCalendar::Month&>(*screen()); }
     QQmlListProperty<DayAdapter> days() { return readOnlyList(this, days_); }
     int firstColumn() const { return firstColumn_; }
 
@@ -67,24 +65,6 @@ private:
     QList<DayAdapter*> days_; ///< children of this
     int firstColumn_ = 0;
     Subscription watch_;
-};
-
-class CalendarAdapter : public ombrivane::view::ScreenAdapter {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("made by the component")
-    OMBRIVANE_SCREEN(CalendarAdapter, TravelCalendar)
-    OMBRIVANE_TEXT(title, core().title)
-    OMBRIVANE_TEXT(chosenText, core().chosenText)
-    OMBRIVANE_FIELD(int, scrollToIndex, core().scrollToIndex)
-    OMBRIVANE_INPUT(tapDay, core().tapDay)
-    OMBRIVANE_INTENT(done, core().done)
-    OMBRIVANE_INTENT(close, core().close)
-    OMBRIVANE_ROWS(months, core().months)
-
-public:
-    /// The fixed name of a day of the week; 0 is Sunday.
-    Q_INVOKABLE QString dayName(int weekday) const;
 };
 
 } // namespace ombrivane::view

@@ -1,13 +1,12 @@
-#include "adapters/ResultAdapters.h"
+#include "adapters/ResultsAdapter.h"
 
 #include "adapters/PageTable.h"
 #include "keyed/Link.h"
 
 namespace ombrivane::view {
 
-ResultsAdapter::ResultsAdapter(std::shared_ptr<Screen> results, ResultsModel& model) :
-    ScreenAdapter(std::move(results)),
-    model_(model),
+ResultsAdapter::ResultsAdapter(std::shared_ptr<Screen> results) :
+    ResultsProperties(std::move(results)),
     contentScreen_(unkeyed_, "content", [this] { return core().parts().front()->screen(); }) {
     followContent();
     contentWatch_ = contentScreen_.observe([this] { followContent(); });

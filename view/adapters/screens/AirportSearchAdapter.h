@@ -1,0 +1,23 @@
+// Written by scripts/adapters: the keys that pages read.
+#pragma once
+
+#include "adapters/RowsModel.h"
+#include "adapters/ScreenAdapter.h"
+#include "search/AirportSearch.h"
+
+namespace ombrivane::view {
+
+/// What pages read of `AirportSearch`.
+class AirportSearchAdapter : public ombrivane::view::ScreenAdapter {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the component")
+    OMBRIVANE_SCREEN(AirportSearchAdapter, ScreenAdapter, AirportSearch)
+    OMBRIVANE_TEXT(placeholder, core().placeholder)
+    OMBRIVANE_TEXT(heading, core().heading)
+    OMBRIVANE_ROWS(rows, core().rows)
+    OMBRIVANE_INPUT(type, core().type)
+    OMBRIVANE_INTENT(close, core().close)
+};
+
+} // namespace ombrivane::view
