@@ -127,8 +127,8 @@ const std::vector<OtherName>& otherNames() {
         {"ResultsAdapter", "flightListVM", "", "model()"},
         // In a page `index` is the place of a row.
         {"DomesticFlightListAdapter", "flightListVM.index", "tab", "index"},
-        // A page knows of the picture only whether there is one.
-        {"TravellerAdapter", "TIVM.documentImage", "hasPicture", "documentImage"},
+        // It is drawn, and its size in points is asked for, by the tile of the document.
+        {"TravellerAdapter", "TIVM.documentImage", "document", "documentImage"},
         // What a field shows has the name of the field, also that of a date; the day and its limits are what
         // the wheels turn to.
         {"TravellerAdapter", "dateOfBirthText", "dateOfBirth", "dateOfBirthText"},

@@ -85,7 +85,7 @@ std::string valueMacro(const Member& member) {
     if (holds<std::vector<RuleParagraph>>(member)) return "PARAGRAPHS(";
     if (holds<std::vector<std::string>>(member)) return "FIELD(QStringList, ";
     if (holds<std::optional<Day>>(member)) return "TEXT(";
-    if (holds<std::optional<DocumentPicture>>(member)) return "FLAG(";
+    if (holds<std::optional<DocumentPicture>>(member)) return "FIELD(ombrivane::view::DocumentValue, ";
     const Json value = member.read();
     if (value.is_string()) return "TEXT(";
     if (value.is_boolean()) return "FLAG(";

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "keyed/Screen.h"
-
+#include "adapters/DocumentValue.h"
 #include "booking/FormColour.h"
 #include "dates/Day.h"
-#include "platform/DocumentPicture.h"
 #include "richtext/ShownText.h"
 
 #include <QString>
@@ -33,7 +31,5 @@ inline QString shown(FormColour colour) { return formColourNames.at(static_cast<
 inline QString shown(const std::optional<Day>& day) {
     return day ? QString::fromStdString(day->text()) : QString();
 }
-/// Whether there is one.
-inline bool shown(const std::optional<DocumentPicture>& picture) { return picture.has_value(); }
 
 } // namespace ombrivane::view

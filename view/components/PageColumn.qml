@@ -16,7 +16,8 @@ Flickable {
     function isMissing(item: Item): bool {
         const field = item as FormField
         const button = item as FieldButton
-        return field !== null && field.missing || button !== null && button.missing
+        const tile = item as DocumentTile
+        return field !== null && field.missing || button !== null && button.missing || tile !== null && tile.missing
     }
     function showFirstMissing() {
         for (let i = 0; i < column.children.length; ++i) {
@@ -43,7 +44,7 @@ Flickable {
         id: column
         x: (area.width - width) / 2
         y: Theme.margin / 2
-        width: Math.min(area.width - 2 * Theme.margin, Theme.contentWidth)
+        width: Math.max(0, Math.min(area.width - 2 * Theme.margin, Theme.contentWidth))
         spacing: Theme.gap
     }
 }

@@ -107,13 +107,13 @@ Item {
                 }
             }
         }
-        MainButton {
+        DocumentTile {
             objectName: "upload"
             visible: page.screen.showsDocuments
             Layout.fillWidth: true
-            quiet: true
-            iconName: page.screen.hasPicture ? "doneIcon" : "addIcon"
-            text: qsTr("Upload Document")
+            placeholder: qsTr("Upload Document")
+            value: page.screen.document
+            mark: page.screen.documentImageColor
             onClicked: page.screen.openPhotoPicker()
         }
     }
