@@ -7,21 +7,22 @@ ColumnLayout {
     id: block
 
     required property JourneyValue modelData
+    property bool awaited: false
 
     spacing: 4
     RowLayout {
         Layout.fillWidth: true
         spacing: 10
         Logo { url: block.modelData.carrierLogo }
-        PlainText { Layout.fillWidth: true; text: block.modelData.route; font.weight: Font.Medium }
+        PlainText { Layout.fillWidth: true; awaited: block.awaited; text: block.modelData.route; font.weight: Font.Medium }
     }
     Flow {
         Layout.fillWidth: true
         spacing: 8
         Icon { width: 20; height: 20; name: block.modelData.dateIcon; color: Theme.placeHolderColor }
-        PlainText { text: block.modelData.date; font.pixelSize: Theme.captionSize }
-        PlainText { text: block.modelData.time; font.pixelSize: Theme.captionSize; font.weight: Font.Medium }
-        PlainText { text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
-        PlainText { text: block.modelData.stops; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+        PlainText { awaited: block.awaited; text: block.modelData.date; font.pixelSize: Theme.captionSize }
+        PlainText { awaited: block.awaited; text: block.modelData.time; font.pixelSize: Theme.captionSize; font.weight: Font.Medium }
+        PlainText { awaited: block.awaited; text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+        PlainText { awaited: block.awaited; text: block.modelData.stops; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
     }
 }

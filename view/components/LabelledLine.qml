@@ -8,11 +8,14 @@ Item {
     property string iconName: ""
     property string label: ""
     property string value: ""
+    property bool awaited: false
 
     // The value goes below its label where there is no room beside it.
-    readonly property bool stacked: value !== "" && label !== "" && width - told.x < naturalLabel.advanceWidth + naturalValue.advanceWidth + 12
+    readonly property bool stacked: laidOut && value !== "" && label !== "" && width - told.x < naturalLabel.advanceWidth + naturalValue.advanceWidth + 12
 
-    implicitHeight: stacked ? told.implicitHeight + given.implicitHeight : Math.max(22, told.implicitHeight, given.implicitHeight)
+    // Before it has its width its texts are squeezed to a letter a line, a height that a layout would keep.
+    readonly property bool laidOut: width > 120
+    implicitHeight: !laidOut ? 22 * Theme.textScale : stacked ? told.implicitHeight + given.implicitHeight : Math.max(22, told.implicitHeight, given.implicitHeight)
 
     TextMetrics { id: naturalLabel; font: told.font; text: line.label }
     TextMetrics { id: naturalValue; font: given.font; text: line.value }
@@ -31,6 +34,7 @@ Item {
         y: line.stacked ? 0 : (line.height - height) / 2
         width: line.stacked ? line.width - x : given.x - x - 10
         text: line.label
+        awaited: line.awaited
         color: Theme.placeHolderColor
     }
     PlainText {
@@ -39,6 +43,7 @@ Item {
         y: line.stacked ? line.height - height : (line.height - height) / 2
         width: Math.min(Math.ceil(naturalValue.advanceWidth) + 1, line.width - told.x)
         text: line.value
+        awaited: line.awaited
         horizontalAlignment: Text.AlignRight
         font.weight: Font.Medium
     }

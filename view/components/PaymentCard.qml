@@ -10,10 +10,11 @@ PageColumn {
 
     Card {
         Layout.fillWidth: true
-        PlainText { Layout.fillWidth: true; text: area.screen.route; font.weight: Font.Medium }
-        PlainText { Layout.fillWidth: true; text: area.screen.date; color: Theme.placeHolderColor }
-        LabelledLine { Layout.fillWidth: true; label: area.screen.referenceLabel; value: area.screen.reference }
-        LabelledLine { Layout.fillWidth: true; label: area.screen.amountLabel; value: area.screen.amount }
+        awaited: area.screen.showProgressView
+        PlainText { Layout.fillWidth: true; awaited: area.screen.showProgressView; text: area.screen.route; font.weight: Font.Medium }
+        PlainText { Layout.fillWidth: true; awaited: area.screen.showProgressView; text: area.screen.date; color: Theme.placeHolderColor }
+        LabelledLine { Layout.fillWidth: true; label: area.screen.referenceLabel; value: area.screen.reference; awaited: area.screen.showProgressView }
+        LabelledLine { Layout.fillWidth: true; label: area.screen.amountLabel; value: area.screen.amount; awaited: area.screen.showProgressView }
     }
     FormField {
         objectName: "otp"
@@ -24,7 +25,6 @@ PageColumn {
         inputMethodHints: Qt.ImhDigitsOnly
         onTextEdited: area.screen.typeOtp(text)
     }
-    ProgressLine { Layout.fillWidth: true; visible: area.screen.showProgressView; label: qsTr("Payment") }
     MainButton {
         objectName: "verify"
         Layout.fillWidth: true

@@ -6,6 +6,9 @@ Text {
     // The distance of lines. The toolkit puts what it adds below each line; the paddings share it out evenly.
     property real spread: 1.35
 
+    // Its words are samples of what is not there yet: they give a shape its size and are told to nobody.
+    property bool awaited: false
+
     textFormat: Text.PlainText
     color: Theme.blackColor
     font.family: Theme.fontFamily
@@ -18,4 +21,5 @@ Text {
     horizontalAlignment: Text.AlignLeft
     Accessible.role: Accessible.StaticText
     Accessible.name: text
+    Accessible.ignored: awaited
 }

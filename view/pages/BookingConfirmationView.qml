@@ -30,7 +30,7 @@ Item {
             MainButton { objectName: "download"; Layout.fillWidth: true; iconName: "fileIcon"; text: page.screen.downloadText; onClicked: page.screen.downloadTicket() }
             IconButton { objectName: "share"; iconName: "shareIcon"; label: qsTr("Share the ticket"); onClicked: page.screen.share() }
         }
-        ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading || page.screen.showProgressView; label: qsTr("Loading") }
+        ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading; label: qsTr("Loading") }
         Repeater {
             model: page.screen.flightBlocks
             Card {
@@ -44,6 +44,12 @@ Item {
                 LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: qsTr("Cabin Baggage"); value: flight.modelData.cabin }
                 LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: qsTr("Check-In Baggage"); value: flight.modelData.checkIn }
             }
+        }
+        Card {
+            objectName: "awaitedPassenger"
+            Layout.fillWidth: true
+            visible: page.screen.isLoading
+            AwaitedText { Layout.fillWidth: true; lines: [0.5, 0.9, 0.9, 0.7] }
         }
         Repeater {
             model: page.screen.passengerBlocks
@@ -66,6 +72,11 @@ Item {
                 }
             }
         }
+    }
+    ProgressOverlay {
+        anchors.fill: parent
+        visible: page.screen.showProgressView
+        message: qsTr("Loading")
     }
     SnackBar {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }

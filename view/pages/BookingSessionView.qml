@@ -7,7 +7,8 @@ Item {
     id: page
 
     required property SessionAdapter screen
-    readonly property bool covered: screen.showProgressView || screen.showSessionExpiredAlert
+    readonly property bool pays: screen.payment !== null && screen.payment.showProgressView
+    readonly property bool covered: screen.showProgressView || pays || screen.showSessionExpiredAlert
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     ColumnLayout {
@@ -37,13 +38,14 @@ Item {
         enabled: !page.covered
         Card {
             Layout.fillWidth: true
-            opacity: page.screen.isLoading ? 0.5 : 1
+            awaited: page.screen.isLoading
             Repeater {
                 model: page.screen.information.journeys
-                JourneySummary { Layout.fillWidth: true }
+                JourneySummary { Layout.fillWidth: true; awaited: page.screen.isLoading }
             }
             PlainText {
                 Layout.fillWidth: true
+                awaited: page.screen.isLoading
                 text: page.screen.information.passengerLine
                 color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
@@ -59,7 +61,7 @@ Item {
         }
         Card {
             Layout.fillWidth: true
-            opacity: page.screen.isLoading ? 0.5 : 1
+            awaited: page.screen.isLoading
             title: page.screen.baggage.title
             Repeater {
                 model: page.screen.baggage.blocks
@@ -68,9 +70,9 @@ Item {
                     required property BaggageValue modelData
                     Layout.fillWidth: true
                     spacing: 4
-                    PlainText { text: block.modelData.route; font.weight: Font.Medium }
-                    LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: page.screen.baggage.cabinLabel; value: block.modelData.cabin }
-                    LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: page.screen.baggage.checkInLabel; value: block.modelData.checkIn }
+                    PlainText { awaited: page.screen.isLoading; text: block.modelData.route; font.weight: Font.Medium }
+                    LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: page.screen.baggage.cabinLabel; value: block.modelData.cabin; awaited: page.screen.isLoading }
+                    LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: page.screen.baggage.checkInLabel; value: block.modelData.checkIn; awaited: page.screen.isLoading }
                 }
             }
         }
@@ -115,6 +117,11 @@ Item {
         action: page.screen.continueText
         onClicked: page.screen.proceed()
     }
+    ProgressOverlay {
+        anchors.fill: parent
+        visible: page.pays
+        message: qsTr("Payment")
+    }
     SnackBar {
         anchors { left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom; margins: Theme.margin }
         message: page.screen.errorMessage
@@ -131,7 +138,7 @@ Item {
         color: Theme.canvasColor
         Accessible.role: Accessible.AlertMessage
         Accessible.name: page.screen.expiredTitle
-        TapHandler {}
+        Blocker { anchors.fill: parent }
         ColumnLayout {
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.margin, 320)

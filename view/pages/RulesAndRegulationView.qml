@@ -33,9 +33,14 @@ Item {
             font.underline: underlined
             font.pixelSize: Theme.sectionSize
         }
+        AwaitedText {
+            y: Theme.margin
+            width: parent.width
+            visible: page.screen.showProgressView
+            running: visible
+        }
         ProgressLine {
-            anchors.centerIn: parent
-            width: 160
+            width: parent.width
             visible: page.screen.showProgressView
             label: qsTr("Fetching the fare rules")
         }
