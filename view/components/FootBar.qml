@@ -18,7 +18,7 @@ Rectangle {
     implicitHeight: grid.implicitHeight + 2 * Theme.gap
     color: Theme.whiteColor
 
-    TapHandler {}
+    Blocker { anchors.fill: parent }
     Rectangle { width: parent.width; height: 1; color: Theme.hairlineColor }
     GridLayout {
         id: grid

@@ -15,7 +15,7 @@ Rectangle {
         Accessible.name: said.text
         text: overlay.visible ? overlay.message : ""
     }
-    TapHandler {}
+    Blocker { anchors.fill: parent }
     Rectangle {
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * Theme.margin, 280)

@@ -18,7 +18,7 @@ Rectangle {
 
     Behavior on collapse { NumberAnimation { duration: Theme.stateDuration; easing.type: Easing.OutCubic } }
 
-    TapHandler {}
+    Blocker { anchors.fill: parent }
     Item {
         id: route
         y: -header.collapse * height

@@ -1,7 +1,8 @@
 import QtQuick
 import Ombrivane
 
-// A sheet from the foot of the stage: handle, content, the rest dims. A swipe, a tap outside, Escape and Back close it.
+// A sheet from the foot of the stage: handle, content, the rest dims. It takes the focus when it opens. A swipe, a tap
+// outside, its control, Escape and Back close it; a tap inside does not.
 // One that is `beside` stands at the leading edge instead, next to what it belongs to, and nothing dims.
 FocusScope {
     id: sheet
@@ -13,17 +14,19 @@ FocusScope {
     property real shift: 0
     signal dismissed
 
+    focus: true
     Accessible.role: Accessible.Dialog
     Accessible.name: name
+    Accessible.focusable: true
 
     Rectangle {
         anchors.fill: parent
         color: sheet.beside ? "transparent" : Theme.dimColor
-        TapHandler { onTapped: sheet.dismissed() }
+        Blocker { anchors.fill: parent; onClicked: sheet.dismissed() }
     }
     Rectangle {
         id: panel
-        readonly property real head: sheet.beside ? Theme.margin : 28
+        readonly property real head: Theme.target
         readonly property real shownHeight: sheet.beside ? sheet.height : Math.min(sheet.wantedHeight + head, sheet.height - 40)
         x: sheet.beside ? 0 : (parent.width - width) / 2
         width: sheet.beside ? Theme.besideWidth : Math.min(parent.width, Theme.contentWidth)
@@ -32,14 +35,14 @@ FocusScope {
         radius: sheet.beside ? 0 : Theme.cardRadius
         color: Theme.whiteColor
 
-        TapHandler {}
+        Blocker { anchors.fill: parent }
         Rectangle { visible: sheet.beside; x: parent.width; width: 1; height: parent.height; color: Theme.hairlineColor }
         Item {
             visible: !sheet.beside
             width: parent.width
-            height: 28
+            height: panel.head
             Icon {
-                anchors.centerIn: parent
+                anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: 10 }
                 width: 40
                 height: 8
                 name: "dashIcon"
@@ -51,6 +54,13 @@ FocusScope {
                 onTranslationChanged: sheet.shift = Math.max(0, translation.y)
                 onActiveChanged: if (!active) { if (sheet.shift > 80) sheet.dismissed(); else sheet.shift = 0 }
             }
+        }
+        IconButton {
+            objectName: "closeSheet"
+            anchors { right: parent.right; rightMargin: 4 }
+            iconName: "crossIcon"
+            label: qsTr("Close")
+            onClicked: sheet.dismissed()
         }
         Item {
             id: holder

@@ -15,7 +15,7 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Theme.dimColor
-        TapHandler {}
+        Blocker { anchors.fill: parent }
     }
     Rectangle {
         anchors.centerIn: parent

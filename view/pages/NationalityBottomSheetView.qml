@@ -16,7 +16,7 @@ Sheet {
     SearchField {
         id: field
         objectName: "search"
-        anchors { top: parent.top; left: parent.left; right: parent.right; margins: Theme.margin }
+        anchors { top: parent.top; left: parent.left; right: parent.right; margins: Theme.margin; topMargin: 0 }
         focus: true
         placeholder: page.screen.placeholder
         onTextEdited: page.screen.type(text)

@@ -7,6 +7,8 @@ FocusScope {
 
     required property CalendarAdapter screen
 
+    focus: true
+
     readonly property real gridWidth: Math.min(width - 12, Theme.contentWidth)
     readonly property real cellWidth: Math.floor(gridWidth / 7)
     readonly property real cellHeight: Math.max(46, 30 * Theme.textScale)

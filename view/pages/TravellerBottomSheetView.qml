@@ -14,7 +14,7 @@ Sheet {
     onDismissed: back()
 
     Flickable {
-        anchors { top: parent.top; bottom: done.top; bottomMargin: 8; left: parent.left; right: parent.right; margins: Theme.margin }
+        anchors { top: parent.top; bottom: done.top; bottomMargin: 8; left: parent.left; right: parent.right; margins: Theme.margin; topMargin: 0 }
         contentHeight: column.implicitHeight
         clip: true
         ColumnLayout {
