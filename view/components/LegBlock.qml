@@ -1,48 +1,63 @@
 import QtQuick
-import QtQuick.Layouts
 import Ombrivane
 
-// One leg of the flight details, with the connection before it.
-ColumnLayout {
+// One leg of the flight details, with the connection before it. Placed by hand: nested layouts keep the heights that
+// their texts had before they got their width.
+Column {
     id: block
 
     required property LegValue modelData
 
     spacing: 6
     PlainText {
-        Layout.fillWidth: true
+        width: block.width
         visible: text !== ""
         text: block.modelData.connection
         color: Theme.secondaryColor
         font.pixelSize: Theme.captionSize
     }
-    RowLayout {
-        Layout.fillWidth: true
-        spacing: 10
-        Logo { url: block.modelData.carrierLogo }
-        ColumnLayout {
-            Layout.fillWidth: true
-            spacing: 0
-            PlainText { Layout.fillWidth: true; text: block.modelData.carrier; font.weight: Font.Medium }
-            PlainText { Layout.fillWidth: true; text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+    Item {
+        width: block.width
+        height: Math.max(logo.height, carrier.height)
+        Logo {
+            id: logo
+            y: (parent.height - height) / 2
+            width: implicitWidth
+            height: implicitHeight
+            url: block.modelData.carrierLogo
+        }
+        Column {
+            id: carrier
+            x: logo.width + 10
+            width: parent.width - x
+            PlainText { width: parent.width; text: block.modelData.carrier; font.weight: Font.Medium }
+            PlainText { width: parent.width; text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
         }
     }
-    RowLayout {
-        Layout.fillWidth: true
-        spacing: 10
+    Item {
+        width: block.width
+        height: Math.max(line.height, stops.height)
         Icon {
-            implicitWidth: 24
-            implicitHeight: 72
+            id: line
+            objectName: "legLine"
+            y: (parent.height - height) / 2
+            width: 24
+            height: 72
             name: "atobline"
             color: Theme.placeHolderColor
         }
-        ColumnLayout {
-            Layout.fillWidth: true
+        Column {
+            id: stops
+            objectName: "legStops"
+            x: line.width + 10
+            y: (parent.height - height) / 2
+            width: parent.width - x
             spacing: 2
-            PlainText { Layout.fillWidth: true; text: block.modelData.departureAirport }
-            PlainText { Layout.fillWidth: true; text: block.modelData.departure; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
-            PlainText { Layout.fillWidth: true; Layout.topMargin: 8; text: block.modelData.arrivalAirport }
-            PlainText { Layout.fillWidth: true; text: block.modelData.arrival; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+            PlainText { width: parent.width; text: block.modelData.departureAirport }
+            PlainText { width: parent.width; text: block.modelData.departure; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
+            Item { width: 1; height: 4 }
+            PlainText { width: parent.width; text: block.modelData.arrivalAirport }
+            PlainText { width: parent.width; text: block.modelData.arrival; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
         }
     }
 }

@@ -33,6 +33,13 @@ Item {
                 required property JourneyValue modelData
                 Layout.fillWidth: true
                 title: modelData.sectionTitle
+                Flow {
+                    Layout.fillWidth: true
+                    spacing: 8
+                    PlainText { objectName: "sectionOrigin"; text: section.modelData.originCity; font.weight: Font.Medium }
+                    Icon { width: 22; height: 22 * Math.max(1, Theme.textScale); name: "departureBlackIcon"; color: Theme.placeHolderColor }
+                    PlainText { objectName: "sectionDestination"; text: section.modelData.destinationCity; font.weight: Font.Medium }
+                }
                 Repeater {
                     model: section.modelData.legs
                     LegBlock { Layout.fillWidth: true }
