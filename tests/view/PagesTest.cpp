@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <map>
+#include <sstream>
 
 namespace ombrivane::view {
 namespace {
@@ -334,6 +335,80 @@ TEST(PagesTest, EveryRowShowsItsOwnOfferWhileTheListIsScrolled) {
         after.resize(before.size()); // the header may be out of view now, and make room for one more
         EXPECT_EQ(after, before);
     });
+}
+
+/// The page of the list, and the offer to which its strip has led.
+QQuickItem* listPage(Window& window) {
+    QQuickItem* list = window.item("offers");
+    return list != nullptr ? list->parentItem() : nullptr;
+}
+
+/// How far the wanted offer, or the head of the list, is from the place where it belongs.
+double distance(Window& window, bool offer) {
+    const QQuickItem* page = listPage(window);
+    const QQuickItem* list = window.item("offers");
+    const double at = list->property("contentY").toDouble();
+    if (!offer) return at - list->property("originY").toDouble() + list->property("topMargin").toDouble();
+    const auto* rows = QQmlProperty::read(page, "screen.rows").value<QObject*>();
+    int position = -1;
+    QMetaObject::invokeMethod(const_cast<QObject*>(rows),
+                              "positionOf",
+                              Q_RETURN_ARG(int, position),
+                              Q_ARG(QString, QQmlProperty::read(page, "screen.scrollToId").toString()));
+    QQuickItem* row = nullptr;
+    QMetaObject::invokeMethod(
+        const_cast<QQuickItem*>(list), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row), Q_ARG(int, position));
+    constexpr double gap = 12;
+    return row != nullptr ? row->y() - at - page->property("collapsedInset").toDouble() - gap : 10000;
+}
+
+TEST(PagesTest, AMovementOfTheListEndsAtItsItemAndOtherOffersStartAtTheirHead) {
+    int looks = 0;
+    WalkPorts ports;
+    Window window;
+    walk(ports, window, "tests/view/gallery/strip.script", [&](const std::string& name) {
+        window.settle();
+        ++looks;
+        if (name == "near") return;
+        SCOPED_TRACE(looks);
+        EXPECT_NEAR(distance(window, name == "offer"), 0, 1);
+    });
+    EXPECT_EQ(looks, 11);
+}
+
+/// With motion.
+constexpr const char* lively = R"(
+import QtQuick
+import Ombrivane
+Window {
+    visible: true
+    OmbrivaneView {
+        objectName: "component"
+        anchors.fill: parent
+        clientId: "wallet"
+        clientSecret: "wallet-secret"
+    }
+})";
+
+TEST(PagesTest, AFingerStopsTheMovementOfTheList) {
+    std::istringstream lines("play journeys/steps/home.steps\nplay journeys/steps/one-way.steps\n"
+                             "tap DomesticFlightListView.strip[30].tap\nlook moving\n");
+    int looks = 0;
+    WalkPorts ports;
+    Window window(lively, 390, 844);
+    walk(ports, window, lines, [&](const std::string& /*name*/) {
+        const QQuickItem* list = window.item("offers");
+        const auto place = [&] { return list->property("contentY").toDouble(); };
+        const double start = place();
+        EXPECT_TRUE(Window::waitFor([&] { return place() > start + 40; })) << "it moves";
+        QTest::mousePress(&window.window(), Qt::LeftButton, {}, QPoint(195, 600));
+        const double stopped = place();
+        QTest::qWait(150);
+        EXPECT_EQ(place(), stopped);
+        QTest::mouseRelease(&window.window(), Qt::LeftButton, {}, QPoint(195, 600));
+        ++looks;
+    });
+    EXPECT_EQ(looks, 1);
 }
 
 TEST(PagesTest, theBackControlClosesWithoutAWordToTheHost) {

@@ -11,25 +11,47 @@ ResultsContent {
 
     offset: list.contentY - list.originY + list.topMargin
 
-    function showTop() {
-        scroll.stop()
-        list.pinned = false
-        scroll.from = list.contentY
-        scroll.to = list.originY - list.topMargin
-        scroll.duration = Theme.pageDuration
-        scroll.start()
+    // The offer that a movement leads to, -1 for the head of the list.
+    property int wanted: -1
+
+    function stop() {
+        movement.stop()
+        if (page.screen.scrollToTop) page.screen.arrivedAtTop()
     }
-    function showOffer(position: int) {
-        const here = list.contentY
+    function moveTo(position: int, duration: int) {
+        movement.stop()
         list.pinned = false
-        list.positionViewAtIndex(position, ListView.Beginning)
-        const there = Math.max(list.originY - list.topMargin, list.contentY - page.collapsedInset - Theme.gap)
-        list.contentY = here
-        scroll.stop()
-        scroll.from = here
-        scroll.to = there
-        scroll.duration = Theme.reducedMotion ? 0 : 2000
-        scroll.start()
+        page.wanted = position
+        movement.start = list.contentY
+        movement.duration = Theme.reducedMotion ? 0 : duration
+        movement.restart()
+    }
+    // Where the list stands once the movement has arrived; it is only known when the offer is drawn, since offers above
+    // it may be unfolded.
+    function destination(): real {
+        const top = list.originY - list.topMargin
+        if (page.wanted < 0) return top
+        const offer = list.itemAtIndex(page.wanted)
+        const head = list.headerItem === null ? 0 : list.headerItem.height
+        const rows = Math.max(1, list.count)
+        const place = offer !== null ? offer.y : list.originY + head + page.wanted * (list.contentHeight - head) / rows
+        const end = list.originY + list.contentHeight + list.bottomMargin - list.height
+        return Math.max(top, Math.min(end, place - page.collapsedInset - Theme.gap))
+    }
+    function arrive() {
+        if (page.wanted >= 0) list.positionViewAtIndex(page.wanted, ListView.Beginning)
+        list.contentY = page.destination()
+        list.forceLayout()
+        list.contentY = page.destination()
+        list.pinned = page.wanted < 0
+        list.pin()
+        page.stop()
+    }
+    // Other offers start at their head.
+    function startAnew() {
+        page.stop()
+        list.pinned = true
+        list.pin()
     }
 
     ListView {
@@ -93,7 +115,10 @@ ResultsContent {
         onOriginYChanged: pin()
         onTopMarginChanged: pin()
         onContentHeightChanged: pin()
-        onMovementStarted: pinned = false
+        onMovementStarted: {
+            page.stop()
+            pinned = false
+        }
         onMovementEnded: pinned = atYBeginning
     }
     Timer {
@@ -102,17 +127,36 @@ ResultsContent {
         running: !page.screen.isLoading
     }
     NumberAnimation {
-        id: scroll
-        target: list
-        property: "contentY"
-        onFinished: {
-            list.pinned = list.atYBeginning
-            if (page.screen.scrollToTop) page.screen.arrivedAtTop()
+        id: movement
+        property real start: 0
+        property real progress: 0
+        target: movement
+        property: "progress"
+        from: 0
+        to: 1
+        onProgressChanged: if (running) list.contentY = start + (page.destination() - start) * progress
+        onFinished: page.arrive()
+    }
+    // A finger stops the movement, and does then what it does in a list at rest.
+    MouseArea {
+        anchors.fill: parent
+        enabled: movement.running
+        Accessible.ignored: true
+        onPressed: mouse => {
+            page.stop()
+            mouse.accepted = false
         }
     }
     Connections {
         target: page.screen
-        function onScrollToTopChanged() { if (page.screen.scrollToTop) page.showTop() }
-        function onScrollToIdChanged() { page.showOffer(page.screen.rows.positionOf(page.screen.scrollToId)) }
+        function onScrollToTopChanged() { if (page.screen.scrollToTop) page.moveTo(-1, Theme.pageDuration) }
+        function onScrollToIdChanged() { page.moveTo(page.screen.rows.positionOf(page.screen.scrollToId), 2000) }
+    }
+    Connections {
+        target: page.screen.rows
+        function onDataChanged() { page.startAnew() }
+        function onRowsInserted() { page.startAnew() }
+        function onRowsRemoved() { page.startAnew() }
+        function onRowsMoved() { page.startAnew() }
     }
 }
