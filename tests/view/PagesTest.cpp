@@ -390,14 +390,24 @@ Window {
     }
 })";
 
-TEST(PagesTest, AFingerStopsTheMovementOfTheList) {
+TEST(PagesTest, AFingerStopsTheMovementOfTheListWhichElseEndsAtItsItem) {
     std::istringstream lines("play journeys/steps/home.steps\nplay journeys/steps/one-way.steps\n"
-                             "tap DomesticFlightListView.strip[30].tap\nlook moving\n");
+                             "tap DomesticFlightListView.strip[30].tap\nlook moving\n"
+                             "expect model.showContinueButton false\n"
+                             "tap DomesticFlightListView.rows[14].tap\n"
+                             "tap DomesticFlightListView.strip[24].tap\nlook arrived\n");
     int looks = 0;
     WalkPorts ports;
     Window window(lively, 390, 844);
-    walk(ports, window, lines, [&](const std::string& /*name*/) {
+    walk(ports, window, lines, [&](const std::string& name) {
+        ++looks;
         const QQuickItem* list = window.item("offers");
+        if (name == "arrived") {
+            EXPECT_TRUE(Window::waitFor([&] { return std::abs(distance(window, true)) < 1; }));
+            QTest::qWait(150);
+            EXPECT_NEAR(distance(window, true), 0, 1);
+            return;
+        }
         const auto place = [&] { return list->property("contentY").toDouble(); };
         const double start = place();
         EXPECT_TRUE(Window::waitFor([&] { return place() > start + 40; })) << "it moves";
@@ -406,9 +416,8 @@ TEST(PagesTest, AFingerStopsTheMovementOfTheList) {
         QTest::qWait(150);
         EXPECT_EQ(place(), stopped);
         QTest::mouseRelease(&window.window(), Qt::LeftButton, {}, QPoint(195, 600));
-        ++looks;
     });
-    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(looks, 2);
 }
 
 TEST(PagesTest, theBackControlClosesWithoutAWordToTheHost) {

@@ -137,15 +137,16 @@ ResultsContent {
         onProgressChanged: if (running) list.contentY = start + (page.destination() - start) * progress
         onFinished: page.arrive()
     }
-    // A finger stops the movement, and does then what it does in a list at rest.
+    // A finger stops the movement, and no more: an offer that was passing by is not what it meant. It may go on to drag.
     MouseArea {
-        anchors.fill: parent
-        enabled: movement.running
+        parent: list.contentItem
+        y: list.contentY
+        z: 2
+        width: list.width
+        height: list.height
+        enabled: movement.running || pressed
         Accessible.ignored: true
-        onPressed: mouse => {
-            page.stop()
-            mouse.accepted = false
-        }
+        onPressed: page.stop()
     }
     Connections {
         target: page.screen
