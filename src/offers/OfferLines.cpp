@@ -9,18 +9,24 @@ namespace {
 /// What an offer that names no class is shown as.
 constexpr const char* economyCode = "M";
 
+/// `text`, then `addition` after `joint` where there is one.
+std::string joined(const std::string& text, const char* joint, const std::string& addition) {
+    return addition.empty() ? text : text + joint + addition;
+}
+
 SegmentLines linesOf(const Segment& segment, const std::string& cabin) {
     SegmentLines lines;
     lines.carrierLogo = segment.carrierLogo;
     lines.carrier =
-        segment.carrierName + " > " + segment.carrierCode + "-" + segment.flightNumber + " - " + cabin;
-    if (segment.carrierCodeMarketing && *segment.carrierCodeMarketing != segment.carrierCode) {
-        lines.operatedBy =
-            said(Text::resultsOperatedBy, {{"carrier", segment.carrierCodeMarketingName.value_or("")}});
+        joined(segment.carrierName + " > " + segment.carrierCode + "-" + segment.flightNumber, " - ", cabin);
+    const std::string marketing = segment.carrierCodeMarketingName.value_or("");
+    if (segment.carrierCodeMarketing && *segment.carrierCodeMarketing != segment.carrierCode &&
+        !marketing.empty()) {
+        lines.operatedBy = said(Text::resultsOperatedBy, {{"carrier", marketing}});
     }
-    lines.from = segment.airportDeparture.name + ", " + segment.airportDeparture.country.value_or("");
+    lines.from = joined(segment.airportDeparture.name, ", ", segment.airportDeparture.country.value_or(""));
     lines.departure = OfferFormat::formatDate(segment.dateOfDeparture) + ", " + segment.timeOfDeparture;
-    lines.to = segment.airportArrival.name + ", " + segment.airportArrival.country.value_or("");
+    lines.to = joined(segment.airportArrival.name, ", ", segment.airportArrival.country.value_or(""));
     lines.arrival = OfferFormat::formatDate(segment.dateOfArrival) + ", " + segment.timeOfArrival;
     const std::string connection = displayForm(segment.connectionTime);
     if (connection != "false") lines.connection = said(Text::resultsConnectionTime, {{"time", connection}});

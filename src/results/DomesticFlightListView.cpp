@@ -89,6 +89,15 @@ bool DomesticFlightListView::canBeFiltered() const {
                                               : !flightListVM.returnFlights->empty();
 }
 
+bool DomesticFlightListView::isNarrowed() const {
+    const auto narrowed = [](const auto& shown, const auto& all) { return shown->size() < all->size(); };
+    if (!flightListVM.hasReturnDate)
+        return narrowed(flightListVM.filteredOnewayFlights, flightListVM.onewayFlights);
+    return flightListVM.index == departureTab
+               ? narrowed(flightListVM.filteredDepartureFlights, flightListVM.departureFlights)
+               : narrowed(flightListVM.filteredReturnFlights, flightListVM.returnFlights);
+}
+
 void DomesticFlightListView::tapReturnTab() {
     if (!flightListVM.flight.get()) return refuse(Text::resultsSelectFlight);
     flightListVM.index = returnTab;

@@ -56,6 +56,12 @@ bool FlightListView::canBeFiltered() const {
                                       : !flightListVM.onewayFlights->empty();
 }
 
+bool FlightListView::isNarrowed() const {
+    return flightListVM.hasReturnDate
+               ? flightListVM.filteredRoundtripFlights->size() < flightListVM.roundtripFlights->size()
+               : flightListVM.filteredOnewayFlights->size() < flightListVM.onewayFlights->size();
+}
+
 void FlightListView::clearSelection() {
     flightListVM.showContinueButton = false;
     selection().clear();

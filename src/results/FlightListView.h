@@ -19,6 +19,7 @@ protected:
     std::shared_ptr<Screen> list() const override;
     bool listIsEmpty() const override;
     bool canBeFiltered() const override;
+    bool isNarrowed() const override;
     std::shared_ptr<Screen> makeFilter() override;
     std::optional<std::int64_t> totalCost() const override;
     std::optional<std::string> totalCurrency() const override;

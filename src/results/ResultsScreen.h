@@ -72,9 +72,8 @@ public:
         fields, "showsFloatingBar", [this] { return !model_->isLoading && !model_->noInternetConnection; }};
     Derived<bool> showsScrollUp{
         fields, "showsScrollUp", [this] { return showsFloatingBar.get() && !model_->showActionBar; }};
-    Derived<bool> filterIsOn{fields, "filterIsOn", [this] {
-                                 return model_->selectedId.get() != allAirlines || !model_->time->empty();
-                             }};
+    /// Whether the list that is shown is narrowed, whatever is chosen in the filter.
+    Derived<bool> filterIsOn{fields, "filterIsOn", [this] { return !model_->isLoading && isNarrowed(); }};
     Caption totalLabel{fields, "totalLabel", Text::totalFare};
     Derived<std::string> total{fields, "total", [this] { return totalText(); }};
     Caption continueText{fields, "continueText", Text::continueOn};
@@ -116,6 +115,8 @@ protected:
     virtual bool listIsEmpty() const = 0;
     /// Whether the list that is shown has offers, filtered out or not.
     virtual bool canBeFiltered() const = 0;
+    /// Whether some of them are left out.
+    virtual bool isNarrowed() const = 0;
     virtual std::shared_ptr<Screen> makeFilter() = 0;
     virtual std::optional<std::int64_t> totalCost() const = 0;
     virtual std::optional<std::string> totalCurrency() const = 0;

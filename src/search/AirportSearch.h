@@ -27,7 +27,10 @@ public:
     Constant code;
     Constant name_;
     Constant country;
-    Derived<std::string> mainText{fields, "mainText", [this] { return city.get() + ", " + country.get(); }};
+    Derived<std::string> mainText{fields, "mainText", [this] {
+                                      const std::string& named = country.get();
+                                      return named.empty() ? city.get() : city.get() + ", " + named;
+                                  }};
     Action<> tap;
 };
 

@@ -99,15 +99,31 @@ TEST_F(OfferLinesTest, ASegmentShowsCarrierPlacesAndTimes) {
 TEST_F(OfferLinesTest, OperatedByStandsOnlyForAnotherMarketingCarrier) {
     struct Case {
         Json code;
+        Json name;
         const char* line;
     };
-    for (const auto& [code, line] : {Case{nullptr, ""}, Case{"SF", ""}, Case{"LT", "Operated by Lotus"}}) {
-        const auto lines = segment([&code = code](Json& json) {
+    for (const auto& [code, name, line] : {Case{nullptr, "Lotus", ""},
+                                           Case{"SF", "Lotus", ""},
+                                           Case{"LT", nullptr, ""},
+                                           Case{"LT", "Lotus", "Operated by Lotus"}}) {
+        const auto lines = segment([&code = code, &name = name](Json& json) {
             if (!code.is_null()) json["carrierCodeMarketing"] = code;
-            json["carrierCodeMarketingName"] = "Lotus";
+            json.erase("carrierCodeMarketingName");
+            if (!name.is_null()) json["carrierCodeMarketingName"] = name;
         });
-        EXPECT_EQ(lines.operatedBy, line) << code;
+        EXPECT_EQ(lines.operatedBy, line) << code << name;
     }
+}
+
+TEST_F(OfferLinesTest, WhatASegmentLeavesOutLeavesNoPunctuationBehind) {
+    Json offer = offers::oneWay({});
+    offer["search_summary"]["booking_class"] = "Y";
+    Json& json = offer["flight_summary"]["segments"][0];
+    for (const char* airport : {"airportDeparture", "airportArrival"})
+        json[airport].erase("country");
+    const auto lines = of(offer).journeys.at(0).segments.at(0);
+    EXPECT_EQ(lines.carrier + "|" + lines.from + "|" + lines.to,
+              "Saffron > SF-12|Kathmandu Airport|Doha Airport");
 }
 
 TEST_F(OfferLinesTest, OnlyTheValueFalseHidesTheConnection) {

@@ -315,6 +315,21 @@ TEST_F(FlightListViewTest, AFilterOpensOnTheListAndClearsTheChoiceWhenApplied) {
     EXPECT_EQ(keysOf(model().filteredOnewayFlights.get()), "b") << "reset alone does not filter";
 }
 
+TEST_F(FlightListViewTest, TheFilterIsMarkedWhileItLeavesOffersOut) {
+    open();
+    EXPECT_FALSE(screen->filterIsOn.get());
+    answer(three());
+    screen->openFilter();
+    filter().slide(2500);
+    EXPECT_FALSE(screen->filterIsOn.get()) << "nothing is applied yet";
+    filter().apply();
+    EXPECT_TRUE(screen->filterIsOn.get()) << "by the price alone";
+    screen->nextDeparture();
+    EXPECT_FALSE(screen->filterIsOn.get());
+    answer(three());
+    EXPECT_FALSE(screen->filterIsOn.get()) << "over the full list of another search";
+}
+
 TEST_F(FlightListViewTest, AFilterThatLeavesNothingOffersToBeModified) {
     open(true);
     answer(listOf({{"a", 1000}}, offers::roundTrip));
