@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/ResultsAdapter.h"
-#include "results/ResultsModel.h"
+#include "results/FlightListView.h"
 
 #include <memory>
 #include <string>

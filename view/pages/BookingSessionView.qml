@@ -8,7 +8,6 @@ Item {
 
     required property SessionAdapter screen
     readonly property bool pays: screen.payment !== null && screen.payment.showProgressView
-    readonly property bool covered: screen.showProgressView || pays || screen.showSessionExpiredAlert
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     ColumnLayout {
@@ -19,7 +18,7 @@ Item {
         PageHeader {
             Layout.fillWidth: true
             title: page.screen.showPaymentView ? page.screen.appBarTitle
-                                               : qsTr("%1 – %2").arg(page.screen.departLocation).arg(page.screen.destLocation)
+                                               : Words.fill(Words.sessionRoute, {origin: page.screen.departLocation, destination: page.screen.destLocation})
             onLeave: page.screen.back()
         }
         ClockPill {
@@ -35,7 +34,7 @@ Item {
     PageColumn {
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom }
         visible: !page.screen.showPaymentView
-        enabled: !page.covered
+        enabled: page.screen.lendsInput
         Card {
             Layout.fillWidth: true
             awaited: page.screen.isLoading
@@ -98,7 +97,7 @@ Item {
         ProgressLine {
             Layout.fillWidth: true
             visible: page.screen.isLoading
-            label: qsTr("Checking the latest fare")
+            label: Words.sessionCheckingFare
         }
     }
     Loader {
@@ -120,7 +119,7 @@ Item {
     ProgressOverlay {
         anchors.fill: parent
         visible: page.pays
-        message: qsTr("Payment")
+        message: Words.paymentWait
     }
     SnackBar {
         anchors { left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom; margins: Theme.margin }
