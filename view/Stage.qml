@@ -20,7 +20,7 @@ FocusScope {
             readonly property bool pushed: presentation === 0
             property real arrival: pushed && index > 0 && Theme.pageDuration > 0 ? 1 : 0
 
-            x: arrival * root.width
+            x: (Words.rightToLeft ? -arrival : arrival) * root.width
             width: root.width
             height: root.height
             visible: index >= root.model.firstInView || index === root.model.firstInView - 1 && root.model.count - 1 === root.model.firstInView

@@ -21,13 +21,13 @@ Rectangle {
     border.width: 1
     border.color: tint
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("%1 %2").arg(time).arg(label)
+    Accessible.name: Words.fill(Words.sessionClock, {time: time, label: label})
 
     Announcement {
         id: said
         Accessible.role: Accessible.AlertMessage
         Accessible.name: said.text
-        text: pill.lastMinute ? qsTr("Less than a minute left for confirmation") : ""
+        text: pill.lastMinute ? Words.sessionLastMinute : ""
     }
     // The words go below the time where there is no room beside it.
     Flow {

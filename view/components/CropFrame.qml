@@ -6,6 +6,10 @@ import Ombrivane
 Item {
     id: frame
 
+    // A picture has the same sides in every language.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
+
     // In parts of the whole, from 0 to 1.
     readonly property rect kept: Qt.rect(startX, startY, endX - startX, endY - startY)
     property real startX: 0
@@ -35,7 +39,7 @@ Item {
         border.color: Theme.primaryColor
     }
     Repeater {
-        model: [qsTr("Upper left corner"), qsTr("Upper right corner"), qsTr("Lower left corner"), qsTr("Lower right corner")]
+        model: [Words.pictureUpperLeft, Words.pictureUpperRight, Words.pictureLowerLeft, Words.pictureLowerRight]
         delegate: FocusScope {
             id: corner
             required property string modelData

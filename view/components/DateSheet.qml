@@ -46,7 +46,7 @@ Sheet {
                 objectName: "month"
                 Layout.fillWidth: true
                 focus: true
-                label: qsTr("Month")
+                label: Words.wheelMonth
                 model: choice.months
                 chosen: choice.monthIndex
                 onTurned: index => choice.turnMonth(index)
@@ -55,7 +55,7 @@ Sheet {
                 id: dayWheel
                 objectName: "day"
                 Layout.fillWidth: true
-                label: qsTr("Day")
+                label: Words.wheelDay
                 model: choice.days
                 chosen: choice.dayIndex
                 onTurned: index => choice.turnDay(index)
@@ -64,7 +64,7 @@ Sheet {
                 id: yearWheel
                 objectName: "year"
                 Layout.fillWidth: true
-                label: qsTr("Year")
+                label: Words.wheelYear
                 model: choice.years
                 chosen: choice.yearIndex
                 onTurned: index => choice.turnYear(index)
@@ -73,7 +73,7 @@ Sheet {
         MainButton {
             objectName: "done"
             Layout.fillWidth: true
-            text: qsTr("Done")
+            text: Words.done
             onClicked: sheet.picked(choice.day)
         }
     }

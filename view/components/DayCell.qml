@@ -22,7 +22,7 @@ T.AbstractButton {
             readonly property real from: cell.modelData.inRange || cell.modelData.joinsPrevious ? 0 : parent.width / 2
             readonly property real to: cell.modelData.inRange || cell.modelData.joinsNext ? parent.width : parent.width / 2
             active: to > from
-            x: from
+            x: Words.rightToLeft ? parent.width - to : from
             y: disc.y
             width: to - from
             height: disc.height

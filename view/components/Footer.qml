@@ -32,8 +32,8 @@ ColumnLayout {
         Layout.alignment: Qt.AlignHCenter
         spacing: 4
         IconButton { iconName: "phoneIcon"; label: footer.screen.mobile; onClicked: footer.screen.callMobile() }
-        IconButton { iconName: "viberIcon"; label: qsTr("Viber"); onClicked: footer.screen.openViber() }
-        IconButton { iconName: "whatsappIcon"; label: qsTr("WhatsApp"); onClicked: footer.screen.openWhatsapp() }
+        IconButton { iconName: "viberIcon"; label: Words.supportViber; onClicked: footer.screen.openViber() }
+        IconButton { iconName: "whatsappIcon"; label: Words.supportWhatsapp; onClicked: footer.screen.openWhatsapp() }
         IconButton { iconName: "rotarPhoneIcon"; label: footer.screen.landLine; onClicked: footer.screen.callLandLine() }
     }
     PlainText {

@@ -11,8 +11,9 @@ Item {
     property bool awaited: false
 
     // The value goes below its label where there is no room beside it.
-    readonly property bool stacked: laidOut && value !== "" && label !== "" && width - told.x < naturalLabel.advanceWidth + naturalValue.advanceWidth + 12
+    readonly property bool stacked: laidOut && value !== "" && label !== "" && width - indent < naturalLabel.advanceWidth + naturalValue.advanceWidth + 12
 
+    readonly property real indent: icon.visible ? 32 : 0
     // Before it has its width its texts are squeezed to a letter a line, a height that a layout would keep.
     readonly property bool laidOut: width > 120
     implicitHeight: !laidOut ? 22 * Theme.textScale : stacked ? told.implicitHeight + given.implicitHeight : Math.max(22, told.implicitHeight, given.implicitHeight)
@@ -30,18 +31,18 @@ Item {
     }
     PlainText {
         id: told
-        x: icon.visible ? 32 : 0
+        anchors { left: parent.left; leftMargin: line.indent }
         y: line.stacked ? 0 : (line.height - height) / 2
-        width: line.stacked ? line.width - x : given.x - x - 10
+        width: line.width - line.indent - (line.stacked ? 0 : given.width + 10)
         text: line.label
         awaited: line.awaited
         color: Theme.placeHolderColor
     }
     PlainText {
         id: given
-        x: line.width - width
+        anchors.right: parent.right
         y: line.stacked ? line.height - height : (line.height - height) / 2
-        width: Math.min(Math.ceil(naturalValue.advanceWidth) + 1, line.width - told.x)
+        width: Math.min(Math.ceil(naturalValue.advanceWidth) + 1, line.width - line.indent)
         text: line.value
         awaited: line.awaited
         horizontalAlignment: Text.AlignRight

@@ -28,8 +28,8 @@ Column {
         }
         Column {
             id: carrier
-            x: logo.width + 10
-            width: parent.width - x
+            anchors { left: logo.right; leftMargin: 10 }
+            width: parent.width - logo.width - 10
             PlainText { width: parent.width; text: block.modelData.carrier; font.weight: Font.Medium }
             PlainText { width: parent.width; text: block.modelData.duration; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }
         }
@@ -49,9 +49,9 @@ Column {
         Column {
             id: stops
             objectName: "legStops"
-            x: line.width + 10
+            anchors { left: line.right; leftMargin: 10 }
             y: (parent.height - height) / 2
-            width: parent.width - x
+            width: parent.width - line.width - 10
             spacing: 2
             PlainText { width: parent.width; text: block.modelData.departureAirport }
             PlainText { width: parent.width; text: block.modelData.departure; font.pixelSize: Theme.captionSize; color: Theme.placeHolderColor }

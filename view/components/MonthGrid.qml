@@ -15,7 +15,7 @@ Column {
     bottomPadding: Theme.sectionGap
 
     PlainText {
-        x: 12
+        anchors { left: parent.left; leftMargin: 12 }
         width: parent.width - 24
         text: month.row.title
         font.pixelSize: Theme.sectionSize
@@ -31,7 +31,7 @@ Column {
             DayCell {
                 required property int index
                 readonly property int position: index + month.row.firstColumn
-                x: position % 7 * month.cellWidth
+                x: (Words.rightToLeft ? 6 - position % 7 : position % 7) * month.cellWidth
                 y: Math.floor(position / 7) * month.cellHeight
                 width: month.cellWidth
                 height: month.cellHeight

@@ -33,16 +33,17 @@ Column {
             }
             CardText {
                 id: name
-                x: logo.width + 8
+                anchors { left: logo.right; leftMargin: 8 }
                 y: Math.round((parent.height - height) / 2)
-                width: parent.width - x
+                width: parent.width - logo.width - 8
                 text: item.journey.carrierName
                 font.weight: Font.Medium
             }
         }
         CardText {
             id: cost
-            x: item.narrow ? 0 : parent.width - width
+            anchors.left: item.narrow ? parent.left : undefined
+            anchors.right: item.narrow ? undefined : parent.right
             y: item.narrow ? airline.height + 4 : Math.round((parent.height - height) / 2)
             visible: text !== ""
             width: Math.ceil(implicitWidth)
@@ -73,9 +74,8 @@ Column {
         }
         Column {
             id: flight
-            x: departure.width + 8
+            anchors { left: departure.right; leftMargin: 8; right: arrival.left; rightMargin: 8 }
             y: Math.round((parent.height - height) / 2)
-            width: arrival.x - 8 - x
             CardText {
                 visible: !item.narrow
                 width: parent.width
@@ -93,7 +93,7 @@ Column {
         }
         CardText {
             id: arrival
-            x: parent.width - width
+            anchors.right: parent.right
             y: Math.round((parent.height - height) / 2)
             width: Math.ceil(implicitWidth)
             wrapMode: Text.NoWrap
@@ -119,7 +119,7 @@ Column {
         }
         Column {
             id: destination
-            x: parent.width - width
+            anchors.right: parent.right
             y: Math.round((parent.height - height) / 2)
             width: item.half
             CardText {
@@ -158,7 +158,7 @@ Column {
         Row {
             id: details
             visible: detailsLabel.text !== ""
-            x: parent.width - width
+            anchors.right: parent.right
             y: parent.height - height
             spacing: 2
             CardText {

@@ -7,7 +7,7 @@ Item {
 
     property string title: ""
     property string iconName: "arrowLeftIcon"
-    property string leaveLabel: qsTr("Back")
+    property string leaveLabel: Words.back
     signal leave
 
     implicitHeight: Math.max(56, text.implicitHeight + 16)
@@ -15,8 +15,7 @@ Item {
     IconButton {
         id: button
         objectName: "leave"
-        x: 4
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: 4; verticalCenter: parent.verticalCenter }
         iconName: header.iconName
         label: header.leaveLabel
         onClicked: header.leave()

@@ -29,10 +29,9 @@ Rectangle {
         IconButton {
             id: back
             objectName: "back"
-            x: 4
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; leftMargin: 4; verticalCenter: parent.verticalCenter }
             iconName: "arrowLeftIcon"
-            label: qsTr("Back")
+            label: Words.back
             onClicked: header.screen.back()
         }
         Column {
@@ -59,7 +58,7 @@ Rectangle {
             objectName: "edit"
             anchors { right: parent.right; rightMargin: Theme.gap; verticalCenter: parent.verticalCenter }
             iconName: "editIcon"
-            label: qsTr("Edit the search")
+            label: Words.resultsEditSearch
             onClicked: header.screen.edit()
         }
     }
@@ -85,8 +84,8 @@ Rectangle {
                     Layout.preferredWidth: header.screen.showsReturnDate ? 1 : 1.3
                     iconName: "departureBlackIcon"
                     value: header.screen.departDateText
-                    previousLabel: qsTr("Depart a day earlier")
-                    nextLabel: qsTr("Depart a day later")
+                    previousLabel: Words.resultsEarlierDeparture
+                    nextLabel: Words.resultsLaterDeparture
                     onPrevious: header.screen.previousDeparture()
                     onNext: header.screen.nextDeparture()
                 }
@@ -97,8 +96,8 @@ Rectangle {
                     Layout.preferredWidth: 1
                     iconName: "returnBlackIcon"
                     value: header.screen.returnDateText
-                    previousLabel: qsTr("Return a day earlier")
-                    nextLabel: qsTr("Return a day later")
+                    previousLabel: Words.resultsEarlierReturn
+                    nextLabel: Words.resultsLaterReturn
                     onPrevious: header.screen.previousReturn()
                     onNext: header.screen.nextReturn()
                 }

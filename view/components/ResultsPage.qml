@@ -54,14 +54,14 @@ FocusScope {
                 objectName: "scrollUp"
                 visible: page.results.showsScrollUp
                 iconName: "scrollupIcon"
-                label: qsTr("Back to the top")
+                label: Words.resultsBackToTop
                 onClicked: page.results.scrollUp()
             }
             FloatingButton {
                 objectName: "filter"
                 visible: page.results.showsFloatingBar
                 iconName: "filterIcon"
-                label: page.results.filterIsOn ? qsTr("Filter, on") : qsTr("Filter")
+                label: page.results.filterIsOn ? Words.filterIsOn : Words.filterIsOff
                 marked: page.results.filterIsOn
                 onClicked: page.results.openFilter()
             }

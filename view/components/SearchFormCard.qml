@@ -58,7 +58,7 @@ ColumnLayout {
                 objectName: "swap"
                 anchors.fill: parent
                 iconName: "shuffelIcon"
-                label: qsTr("Swap origin and destination")
+                label: Words.searchSwap
                 tint: Theme.primaryColor
                 onClicked: form.screen.swap()
             }
@@ -103,19 +103,19 @@ ColumnLayout {
         objectName: "travellers"
         Layout.fillWidth: true
         iconName: "travellersIcon"
-        placeholder: qsTr("Travellers and class")
+        placeholder: Words.searchTravellers
         value: form.screen.travellers
         onClicked: form.screen.tapTravellers()
     }
     ProgressLine {
         Layout.fillWidth: true
         visible: form.screen.isFetchingCountries
-        label: qsTr("Fetching the countries")
+        label: Words.fetchingCountries
     }
     MainButton {
         objectName: "search"
         Layout.fillWidth: true
-        text: qsTr("Search")
+        text: Words.searchFlights
         iconName: "paperPlaneIcon"
         onClicked: form.screen.search()
     }

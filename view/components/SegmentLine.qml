@@ -23,8 +23,8 @@ Column {
     }
     CardText {
         visible: item.modelData.operatedBy !== ""
-        x: 28
-        width: parent.width - x
+        anchors { left: parent.left; leftMargin: 28 }
+        width: parent.width - 28
         text: item.modelData.operatedBy
         color: Theme.placeHolderColor
         font.pixelSize: Theme.captionSize
@@ -33,7 +33,7 @@ Column {
         width: parent.width
         height: stops.implicitHeight
         Rectangle {
-            x: 9
+            anchors { left: parent.left; leftMargin: 9 }
             y: from.dotPosition
             width: 2
             height: to.y + to.dotPosition - y
@@ -52,7 +52,7 @@ Column {
         width: parent.width
         height: connection.implicitHeight + 16
         Column {
-            x: 9
+            anchors { left: parent.left; leftMargin: 9 }
             spacing: 4
             clip: true
             height: parent.height
@@ -62,15 +62,15 @@ Column {
             }
         }
         Rectangle {
-            x: 28
-            width: Math.min(parent.width - x, connection.implicitWidth + 20)
+            anchors { left: parent.left; leftMargin: 28 }
+            width: Math.min(parent.width - 28, connection.implicitWidth + 20)
             height: connection.implicitHeight + 8
             anchors.verticalCenter: parent.verticalCenter
             radius: Math.min(height / 2, 12)
             color: Theme.whiteColor
             CardText {
                 id: connection
-                x: 10
+                anchors { left: parent.left; leftMargin: 10 }
                 width: item.width - 48
                 anchors.verticalCenter: parent.verticalCenter
                 text: item.modelData.connection

@@ -12,7 +12,7 @@ Item {
     implicitHeight: texts.implicitHeight
 
     Rectangle {
-        x: 5
+        anchors { left: parent.left; leftMargin: 5 }
         y: stop.dotPosition - height / 2
         width: 10
         height: 10
@@ -23,8 +23,8 @@ Item {
     }
     Column {
         id: texts
-        x: 28
-        width: parent.width - x
+        anchors { left: parent.left; leftMargin: 28 }
+        width: parent.width - 28
         CardText { id: placeText; width: parent.width; font.pixelSize: Theme.captionSize }
         CardText { id: timeText; width: parent.width; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
     }

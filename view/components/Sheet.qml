@@ -28,7 +28,7 @@ FocusScope {
         id: panel
         readonly property real head: Theme.target
         readonly property real shownHeight: sheet.beside ? sheet.height : Math.min(sheet.wantedHeight + head, sheet.height - 40)
-        x: sheet.beside ? 0 : (parent.width - width) / 2
+        x: !sheet.beside ? (parent.width - width) / 2 : Words.rightToLeft ? parent.width - width : 0
         width: sheet.beside ? Theme.besideWidth : Math.min(parent.width, Theme.contentWidth)
         height: shownHeight + (sheet.beside ? 0 : Theme.cardRadius)
         y: parent.height - shownHeight + sheet.shift
@@ -36,7 +36,7 @@ FocusScope {
         color: Theme.whiteColor
 
         Blocker { anchors.fill: parent }
-        Rectangle { visible: sheet.beside; x: parent.width; width: 1; height: parent.height; color: Theme.hairlineColor }
+        Rectangle { visible: sheet.beside; x: Words.rightToLeft ? -1 : parent.width; width: 1; height: parent.height; color: Theme.hairlineColor }
         Item {
             visible: !sheet.beside
             width: parent.width
@@ -59,7 +59,7 @@ FocusScope {
             objectName: "closeSheet"
             anchors { right: parent.right; rightMargin: 4 }
             iconName: "crossIcon"
-            label: qsTr("Close")
+            label: Words.close
             onClicked: sheet.dismissed()
         }
         Item {

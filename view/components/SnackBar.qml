@@ -33,7 +33,7 @@ Item {
         color: Theme.blackColor
         Icon {
             id: icon
-            x: 14
+            anchors { left: parent.left; leftMargin: 14 }
             width: 24
             height: 24
             anchors.verticalCenter: parent.verticalCenter

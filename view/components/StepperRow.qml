@@ -25,7 +25,7 @@ Item {
         objectName: "decrement"
         anchors { right: number.left; verticalCenter: parent.verticalCenter }
         iconName: "decrementIcon"
-        label: qsTr("One %1 less").arg(item.row.category)
+        label: Words.fill(Words.travellersOneLess, {kind: item.row.category})
         tint: item.row.mayDecrement ? Theme.primaryColor : Theme.formBorderColor
         onClicked: item.row.decrement()
     }
@@ -44,7 +44,7 @@ Item {
         objectName: "increment"
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         iconName: "incrementIcon"
-        label: qsTr("One %1 more").arg(item.row.category)
+        label: Words.fill(Words.travellersOneMore, {kind: item.row.category})
         tint: item.row.mayIncrement ? Theme.primaryColor : Theme.formBorderColor
         onClicked: item.row.increment()
     }

@@ -17,7 +17,7 @@ Rectangle {
     border.color: Theme.hairlineColor
 
     Rectangle {
-        x: 4 + bar.screen.tab * bar.cell
+        x: 4 + (Words.rightToLeft ? bar.screen.tabCount - 1 - bar.screen.tab : bar.screen.tab) * bar.cell
         y: 4
         width: bar.cell
         height: parent.height - 8

@@ -25,7 +25,7 @@ T.AbstractButton {
     contentItem: Item {
         Icon {
             id: mark
-            x: 12
+            anchors { left: parent.left; leftMargin: 12 }
             width: 22
             height: 22
             anchors.verticalCenter: parent.verticalCenter

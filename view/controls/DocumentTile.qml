@@ -18,8 +18,8 @@ T.AbstractButton {
     implicitHeight: value.held ? Math.max(120, Math.min(width * value.ratio, 200)) : empty.implicitHeight + 32
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
-    Accessible.name: missing ? qsTr("%1, missing").arg(placeholder) : placeholder
-    Accessible.description: value.held ? qsTr("Picture chosen") : ""
+    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
+    Accessible.description: value.held ? Words.pictureChosen : ""
     Keys.onReturnPressed: tile.clicked()
     Keys.onEnterPressed: tile.clicked()
 

@@ -18,7 +18,7 @@ T.AbstractButton {
     implicitHeight: Math.max(leastHeight, texts.implicitHeight + 12)
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
-    Accessible.name: missing ? qsTr("%1, missing").arg(placeholder) : placeholder
+    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
     Accessible.description: value
 
     background: Rectangle {
@@ -31,7 +31,7 @@ T.AbstractButton {
     contentItem: Item {
         Icon {
             id: icon
-            x: 14
+            anchors { left: parent.left; leftMargin: 14 }
             visible: field.width >= 180 * Theme.textScale
             width: visible ? 22 : 0
             height: 22

@@ -17,9 +17,10 @@ T.TextField {
 
     text: value
     implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 30)
-    leftPadding: 48
-    rightPadding: 44
+    leftPadding: Words.rightToLeft ? 44 : 48
+    rightPadding: Words.rightToLeft ? 48 : 44
     topPadding: raised ? 18 * Theme.textScale : 0
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.blackColor
     selectionColor: Theme.secondaryColor
@@ -28,7 +29,7 @@ T.TextField {
     font.pixelSize: Theme.bodySize
     selectByMouse: true
     Accessible.role: Accessible.EditableText
-    Accessible.name: missing ? qsTr("%1, missing").arg(placeholder) : placeholder
+    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
 
     background: Rectangle {
         radius: Theme.fieldRadius
@@ -37,7 +38,7 @@ T.TextField {
         border.color: field.missing ? Theme.primaryColor
                     : field.activeFocus || field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
         Icon {
-            x: 14
+            anchors { left: parent.left; leftMargin: 14 }
             width: 22
             height: 22
             anchors.verticalCenter: parent.verticalCenter
@@ -45,7 +46,7 @@ T.TextField {
             color: Theme.placeHolderColor
         }
         PlainText {
-            x: 48
+            anchors { left: parent.left; leftMargin: 48 }
             y: field.raised ? 6 : (parent.height - height) / 2
             width: parent.width - 92
             text: field.placeholder

@@ -25,7 +25,8 @@ T.Slider {
         radius: 3
         color: Theme.hairlineColor
         Rectangle {
-            width: slider.visualPosition * (parent.width - 28) + 14
+            anchors.left: parent.left
+            width: slider.position * (parent.width - 28) + 14
             height: parent.height
             radius: 3
             color: Theme.secondaryColor

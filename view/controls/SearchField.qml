@@ -9,8 +9,9 @@ T.TextField {
     required property string placeholder
 
     implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 20)
-    leftPadding: 48
-    rightPadding: 14
+    leftPadding: Words.rightToLeft ? 14 : 48
+    rightPadding: Words.rightToLeft ? 48 : 14
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.blackColor
     selectionColor: Theme.secondaryColor
@@ -27,7 +28,7 @@ T.TextField {
         border.width: field.activeFocus ? 2 : 1
         border.color: field.activeFocus ? Theme.secondaryColor : Theme.formBorderColor
         Icon {
-            x: 14
+            anchors { left: parent.left; leftMargin: 14 }
             width: 22
             height: 22
             anchors.verticalCenter: parent.verticalCenter
@@ -35,7 +36,7 @@ T.TextField {
             color: Theme.placeHolderColor
         }
         PlainText {
-            x: 48
+            anchors { left: parent.left; leftMargin: 48 }
             anchors.verticalCenter: parent.verticalCenter
             visible: field.length === 0 && field.preeditText === ""
             text: field.placeholder

@@ -23,7 +23,7 @@ ListView {
     preferredHighlightEnd: preferredHighlightBegin + entryHeight
     highlightMoveDuration: Theme.stateDuration
     Accessible.role: Accessible.SpinBox
-    Accessible.name: currentItem === null ? label : qsTr("%1, %2").arg(label).arg((currentItem as WheelEntry).text)
+    Accessible.name: currentItem === null ? label : Words.fill(Words.fieldWithValue, {field: label, value: (currentItem as WheelEntry).text})
     Accessible.focusable: true
 
     highlight: Rectangle {

@@ -1,18 +1,26 @@
 #include "items/IconItem.h"
 
+#include "words/Words.h"
+
 #include <QCache>
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
+#include <string_view>
 
 namespace ombrivane::view {
 namespace {
 
 /// The one colour of every icon's drawing, which is exchanged for the wanted one.
 constexpr const char* drawnColour = "#14181F";
+/// The drawings that point the way.
+constexpr std::array<std::string_view, 6> pointing{
+    "arrowLeftIcon", "chevronLeftIcon", "chevronRightIcon", "paperPlaneIcon", "segmentPlane", "toIcon"};
 constexpr const char* folder = ":/com.framework.Ombrivane/images/";
 
 QByteArray contents(const QString& path) {
@@ -28,12 +36,13 @@ struct PictureKey {
     double width;
     double height;
     double scale;
+    bool mirrored;
 
     bool operator==(const PictureKey&) const = default;
 };
 
 std::size_t qHash(const PictureKey& key, std::size_t seed) {
-    return qHashMulti(seed, key.name, key.color, key.dark, key.width, key.height, key.scale);
+    return qHashMulti(seed, key.name, key.color, key.dark, key.width, key.height, key.scale, key.mirrored);
 }
 
 /// Drawn pictures, by thread, since each window may draw in a thread of its own. The same few icons are
@@ -51,6 +60,8 @@ IconItem::IconItem(QQuickItem* parent) : QQuickPaintedItem(parent) { setAntialia
 void IconItem::setName(const QString& name) {
     if (name == name_) return;
     name_ = name;
+    const bool points = std::find(pointing.begin(), pointing.end(), name.toStdString()) != pointing.end();
+    turns_ = points ? Words::shared().observe([this] { update(); }) : Subscription();
     emit nameChanged();
     update();
 }
@@ -78,7 +89,13 @@ QByteArray IconItem::drawing() const {
 
 QImage IconItem::picture(double scale) const {
     const QRectF place = boundingRect();
-    const PictureKey key{name_, color_.rgba(), dark_, place.width(), place.height(), scale};
+    const PictureKey key{name_,
+                         color_.rgba(),
+                         dark_,
+                         place.width(),
+                         place.height(),
+                         scale,
+                         turns_ && Words::shared().isRightToLeft()};
     if (const QImage* kept = pictures().object(key)) return *kept;
     QImage image(static_cast<int>(std::ceil(place.width() * scale)),
                  static_cast<int>(std::ceil(place.height() * scale)),
@@ -90,6 +107,10 @@ QImage IconItem::picture(double scale) const {
     if (renderer.isValid()) {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
+        if (key.mirrored) {
+            painter.translate(place.width(), 0);
+            painter.scale(-1, 1);
+        }
         renderer.render(&painter, place);
     }
     pictures().insert(key, std::make_unique<QImage>(image).release(), image.sizeInBytes());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "keyed/Observable.h"
+
 #include <QColor>
 #include <QImage>
 #include <QQmlEngine>
@@ -7,7 +9,8 @@
 
 namespace ombrivane::view {
 
-/// A drawing of the component's own resources by its name: an icon in one colour, or a picture as it is.
+/// A drawing of the component's own resources by its name: an icon in one colour, or a picture as it is. What
+/// points the way, as an arrow does, points the other way in a language that is written from the right.
 class IconItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(Icon)
@@ -40,6 +43,7 @@ private:
     QString name_;
     QColor color_ = Qt::transparent;
     bool dark_ = false;
+    Subscription turns_; ///< while the drawing points the way
 };
 
 } // namespace ombrivane::view

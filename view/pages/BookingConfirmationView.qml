@@ -28,9 +28,9 @@ Item {
         RowLayout {
             Layout.fillWidth: true
             MainButton { objectName: "download"; Layout.fillWidth: true; iconName: "fileIcon"; text: page.screen.downloadText; onClicked: page.screen.downloadTicket() }
-            IconButton { objectName: "share"; iconName: "shareIcon"; label: qsTr("Share the ticket"); onClicked: page.screen.share() }
+            IconButton { objectName: "share"; iconName: "shareIcon"; label: Words.ticketShare; onClicked: page.screen.share() }
         }
-        ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading; label: qsTr("Loading") }
+        ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading; label: Words.ticketWait }
         Repeater {
             model: page.screen.flightBlocks
             Card {
@@ -41,8 +41,8 @@ Item {
                 LabelledLine { Layout.fillWidth: true; label: flight.modelData.departureCity; value: flight.modelData.departureTime }
                 LabelledLine { Layout.fillWidth: true; label: flight.modelData.arrivalCity; value: flight.modelData.arrivalTime }
                 PlainText { text: flight.modelData.date; color: Theme.placeHolderColor }
-                LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: qsTr("Cabin Baggage"); value: flight.modelData.cabin }
-                LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: qsTr("Check-In Baggage"); value: flight.modelData.checkIn }
+                LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: Words.cabinBaggage; value: flight.modelData.cabin }
+                LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: Words.checkInBaggage; value: flight.modelData.checkIn }
             }
         }
         Card {
@@ -76,7 +76,7 @@ Item {
     ProgressOverlay {
         anchors.fill: parent
         visible: page.screen.showProgressView
-        message: qsTr("Loading")
+        message: Words.ticketWait
     }
     SnackBar {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }

@@ -13,7 +13,7 @@ Item {
         id: header
         width: parent.width
         iconName: "crossIcon"
-        leaveLabel: qsTr("Close")
+        leaveLabel: Words.close
         title: page.screen.title
         onLeave: page.screen.close()
     }
@@ -24,7 +24,7 @@ Item {
             objectName: "name"
             Layout.fillWidth: true
             iconName: "userIcon"
-            placeholder: qsTr("Given Name")
+            placeholder: Words.givenName
             value: page.screen.name
             mark: page.screen.nameColor
             onTextEdited: page.screen.typeName(text)
@@ -33,7 +33,7 @@ Item {
             objectName: "surname"
             Layout.fillWidth: true
             iconName: "userIcon"
-            placeholder: qsTr("Surname")
+            placeholder: Words.surname
             value: page.screen.surname
             mark: page.screen.surnameColor
             onTextEdited: page.screen.typeSurname(text)
@@ -42,7 +42,7 @@ Item {
             objectName: "email"
             Layout.fillWidth: true
             iconName: "emailIcon"
-            placeholder: qsTr("Email")
+            placeholder: Words.email
             value: page.screen.email
             mark: page.screen.emailColor
             inputMethodHints: Qt.ImhEmailCharactersOnly
@@ -52,7 +52,7 @@ Item {
             objectName: "phoneNumber"
             Layout.fillWidth: true
             iconName: "phoneIcon"
-            placeholder: qsTr("Phone Number")
+            placeholder: Words.contactPhone
             value: page.screen.phoneNumber
             mark: page.screen.phoneNumberColor
             inputMethodHints: Qt.ImhDialableCharactersOnly

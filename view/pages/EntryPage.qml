@@ -12,7 +12,7 @@ Item {
         anchors.centerIn: parent
         width: 120
         visible: page.screen.content === null
-        label: qsTr("Starting")
+        label: Words.starting
     }
     // By its address, so that the first frame does not wait for the types of the search.
     Loader {

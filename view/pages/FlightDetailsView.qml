@@ -13,7 +13,7 @@ Item {
         id: header
         width: parent.width
         iconName: "crossIcon"
-        leaveLabel: qsTr("Close")
+        leaveLabel: Words.close
         title: page.screen.title
         onLeave: page.screen.close()
     }

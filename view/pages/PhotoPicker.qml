@@ -9,7 +9,7 @@ Sheet {
 
     required property PhotoPickerAdapter screen
 
-    name: qsTr("Upload Document")
+    name: Words.documentUpload
     wantedHeight: height * 0.85
     onDismissed: page.screen.cancel()
     Component.onCompleted: if (page.screen.asksForFile) dialog.open()
@@ -17,7 +17,7 @@ Sheet {
 
     FileDialog {
         id: dialog
-        title: qsTr("Upload Document")
+        title: Words.documentUpload
         nameFilters: ["*.png *.jpg *.jpeg"]
         onAccepted: preview.source = selectedFile
         onRejected: page.screen.cancel()
@@ -25,7 +25,7 @@ Sheet {
     PlainText {
         id: hint
         anchors { top: parent.top; left: parent.left; right: parent.right; leftMargin: Theme.margin; rightMargin: Theme.margin }
-        text: preview.status === Image.Error ? qsTr("This picture cannot be shown.") : qsTr("Drag the corners to what has to be seen.")
+        text: preview.status === Image.Error ? Words.pictureCannotBeShown : Words.pictureDragCorners
         color: Theme.placeHolderColor
     }
     Item {
@@ -59,7 +59,7 @@ Sheet {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             quiet: true
-            text: qsTr("Another picture")
+            text: Words.pictureAnother
             onClicked: dialog.open()
         }
         MainButton {
@@ -67,7 +67,7 @@ Sheet {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             enabled: preview.status === Image.Ready
-            text: qsTr("Use this picture")
+            text: Words.pictureUse
             onClicked: page.screen.choose(dialog.selectedFile, crop.kept)
         }
     }

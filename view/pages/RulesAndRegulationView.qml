@@ -42,7 +42,7 @@ Item {
         ProgressLine {
             width: parent.width
             visible: page.screen.showProgressView
-            label: qsTr("Fetching the fare rules")
+            label: Words.rulesFetching
         }
     }
     GridLayout {

@@ -12,7 +12,7 @@ Item {
         id: header
         width: parent.width
         iconName: "crossIcon"
-        leaveLabel: qsTr("Close")
+        leaveLabel: Words.close
         title: page.screen.placeholder
         onLeave: page.screen.close()
     }

@@ -18,7 +18,7 @@ FocusScope {
         id: header
         width: parent.width
         iconName: "crossIcon"
-        leaveLabel: qsTr("Close")
+        leaveLabel: Words.close
         title: page.screen.title
         onLeave: page.screen.close()
     }
@@ -70,7 +70,7 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         iconName: "departureIcon"
         value: page.screen.chosenText
-        action: qsTr("Done")
+        action: Words.done
         onClicked: page.screen.done()
     }
     Keys.onEscapePressed: page.screen.close()

@@ -14,7 +14,7 @@ Item {
         enabled: !picker.shown
         width: parent.width
         iconName: "crossIcon"
-        leaveLabel: qsTr("Close")
+        leaveLabel: Words.close
         title: page.screen.title
         onLeave: page.screen.close()
     }
@@ -26,7 +26,7 @@ Item {
             objectName: "name"
             Layout.fillWidth: true
             iconName: "userIcon"
-            placeholder: qsTr("Given Name")
+            placeholder: Words.givenName
             value: page.screen.name
             mark: page.screen.nameColor
             onTextEdited: page.screen.typeName(text)
@@ -35,7 +35,7 @@ Item {
             objectName: "surname"
             Layout.fillWidth: true
             iconName: "userIcon"
-            placeholder: qsTr("Surname")
+            placeholder: Words.surname
             value: page.screen.surname
             mark: page.screen.surnameColor
             onTextEdited: page.screen.typeSurname(text)
@@ -44,7 +44,7 @@ Item {
             objectName: "email"
             Layout.fillWidth: true
             iconName: "emailIcon"
-            placeholder: qsTr("Email")
+            placeholder: Words.email
             value: page.screen.email
             mark: page.screen.emailColor
             inputMethodHints: Qt.ImhEmailCharactersOnly
@@ -52,14 +52,14 @@ Item {
         }
         RowLayout {
             Layout.fillWidth: true
-            Choice { objectName: "male"; Layout.fillWidth: true; text: "Male"; marked: page.screen.gender === text; onClicked: page.screen.chooseGender(text) }
-            Choice { objectName: "female"; Layout.fillWidth: true; text: "Female"; marked: page.screen.gender === text; onClicked: page.screen.chooseGender(text) }
+            Choice { objectName: "male"; Layout.fillWidth: true; text: Words.genderMale; marked: page.screen.gender === "Male"; onClicked: page.screen.chooseGender("Male") }
+            Choice { objectName: "female"; Layout.fillWidth: true; text: Words.genderFemale; marked: page.screen.gender === "Female"; onClicked: page.screen.chooseGender("Female") }
         }
         DateField {
             id: dateOfBirth
             objectName: "dateOfBirth"
             Layout.fillWidth: true
-            placeholder: qsTr("Date of Birth")
+            placeholder: Words.travellerDateOfBirth
             value: page.screen.dateOfBirth
             mark: page.screen.dateOfBirthColor
             earliest: page.screen.earliestDateOfBirth
@@ -68,14 +68,14 @@ Item {
             onClicked: picker.open(dateOfBirth)
             onPicked: day => page.screen.pickDateOfBirth(day)
         }
-        LabelledLine { Layout.fillWidth: true; iconName: "globeIcon"; label: qsTr("Nationality"); value: page.screen.nationality }
+        LabelledLine { Layout.fillWidth: true; iconName: "globeIcon"; label: Words.nationality; value: page.screen.nationality }
         DateField {
             id: expiryDate
             objectName: "expiryDate"
             visible: page.screen.showsExpiryDate
             Layout.fillWidth: true
             iconName: "numberIcon"
-            placeholder: qsTr("Document Expiry Date")
+            placeholder: Words.documentExpiry
             value: page.screen.expiryDate
             mark: page.screen.expiryDateColor
             earliest: page.screen.earliestExpiryDate
@@ -88,7 +88,7 @@ Item {
             visible: page.screen.showsDocuments
             Layout.fillWidth: true
             iconName: "numberIcon"
-            placeholder: qsTr("Document Number")
+            placeholder: Words.documentNumber
             value: page.screen.documentNumber
             mark: page.screen.documentNumberColor
             onTextEdited: page.screen.typeDocumentNumber(text)
@@ -111,7 +111,7 @@ Item {
             objectName: "upload"
             visible: page.screen.showsDocuments
             Layout.fillWidth: true
-            placeholder: qsTr("Upload Document")
+            placeholder: Words.documentUpload
             value: page.screen.document
             mark: page.screen.documentImageColor
             onClicked: page.screen.openPhotoPicker()
