@@ -24,6 +24,9 @@ template <class Value, class T> ValueEntry entryOf(const ShownField<Value, T>& f
 template <class Value> ValueEntry entryOf(const ShownField<Value, std::string>& field) {
     return {field.key, ValueEntry::Kind::text, ""};
 }
+template <class Value> ValueEntry entryOf(const ShownField<Value, std::vector<std::string>>& field) {
+    return {field.key, ValueEntry::Kind::texts, ""};
+}
 ValueEntry entryOf(const ShownField<JourneyCard, std::vector<LegLines>>& field) {
     return {field.key, ValueEntry::Kind::list, "LegValue"};
 }
@@ -107,7 +110,7 @@ const std::vector<ValueRow>& valueRows() {
         value<SegmentLines>("SegmentAdapter", "SegmentLines", "offers/OfferLines.h"),
         value<JourneyLines>("JourneyAdapter", "JourneyLines", "offers/OfferLines.h", "JourneyProperties"),
         value<LegLines>("LegValue", "LegLines", "booking/JourneyCard.h"),
-        value<JourneyCard>("JourneyValue", "JourneyCard", "booking/JourneyCard.h", "JourneyCardProperties"),
+        value<JourneyCard>("JourneyValue", "JourneyCard", "booking/JourneyCard.h"),
         value<BaggageBlock>("BaggageValue", "BaggageBlock", "booking/BaggageInformationView.h"),
         value<TicketFlightBlock>("TicketFlightValue", "TicketFlightBlock", "booking/TicketTravellerInfo.h"),
         value<TicketTravellerInfo>("TicketLineValue", "TicketTravellerInfo", "booking/TicketTravellerInfo.h"),

@@ -23,7 +23,7 @@ struct AdapterRow {
 
 /// One entry of a shown value's table.
 struct ValueEntry {
-    enum class Kind { text, list, other };
+    enum class Kind { text, texts, list, other };
 
     std::string_view key;
     Kind kind;

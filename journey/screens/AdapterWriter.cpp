@@ -226,6 +226,9 @@ AdapterWriter::Header AdapterWriter::value(const ValueRow& row) const {
         case ValueEntry::Kind::text:
             header.lines += line("LINE(" + key);
             break;
+        case ValueEntry::Kind::texts:
+            header.lines += line("TEXTS(" + key);
+            break;
         case ValueEntry::Kind::list:
             header.includes.insert(headerOf(entry.listed, ""));
             header.lines += line("LINES(" + std::string(entry.listed) + ", " + key);

@@ -39,7 +39,7 @@ void expectWholeWords(const QQuickItem& item) {
     const QFontMetricsF metrics(item.property("font").value<QFont>());
     for (const QString& word : item.property("text").toString().split(' ', Qt::SkipEmptyParts)) {
         if (!isPlainWord(word)) continue;
-        EXPECT_LE(metrics.horizontalAdvance(word), item.width() + 1)
+        EXPECT_LE(metrics.horizontalAdvance(word), item.width() + 0.1)
             << word.toStdString() << " of " << describe(item);
     }
 }
@@ -51,6 +51,22 @@ void expectControl(QQuickItem& item) {
     EXPECT_GE(item.width(), 44) << describe(item);
     EXPECT_GE(item.height(), 44) << describe(item);
     EXPECT_TRUE(item.activeFocusOnTab() || !item.isEnabled()) << describe(item);
+}
+
+/// What a field or a message says stands inside of its border, a message in two lines at most.
+void expectTextsInside(const QQuickItem& frame, const QQuickItem& item) {
+    for (const QQuickItem* child : item.childItems()) {
+        if (!child->isVisible()) continue;
+        if (child->inherits("QQuickText") && !child->property("text").toString().isEmpty()) {
+            const double height = child->property("contentHeight").toDouble();
+            const QRectF place = child->mapRectToItem(&frame, QRectF(QPointF(), child->size()));
+            EXPECT_GE(place.center().y() - height / 2, -half) << describe(*child);
+            EXPECT_LE(place.center().y() + height / 2, frame.height() + half) << describe(*child);
+            const int most = frame.objectName() == "snackPanel" ? 2 : 100;
+            EXPECT_LE(child->property("lineCount").toInt(), most) << describe(*child);
+        }
+        expectTextsInside(frame, *child);
+    }
 }
 
 /// A strip that is scrolled sideways may reach beyond the window; all else stays inside.
@@ -101,10 +117,12 @@ void expectSound(Window& window) {
         }
         if (item->objectName() == "snackPanel") {
             EXPECT_LE(item->width(), 560) << "a message wider than the content";
+            expectTextsInside(*item, *item);
         }
         if (!item->inherits("QQuickAbstractButton") && !item->inherits("QQuickTextInput")) continue;
         ++controls;
         expectControl(*item);
+        if (item->inherits("QQuickTextInput")) expectTextsInside(*item, *item);
         expectInside(window, *item);
     }
     expectApart(texts);

@@ -133,7 +133,9 @@ void expectKeyboardAt(Window& window, const char* name) {
     EXPECT_EQ(focused->objectName(), name);
     const double top = focused->mapToScene(QPointF()).y();
     EXPECT_GT(top, 0);
-    EXPECT_LT(top + focused->height(), window.window().height());
+    const QQuickItem* message = window.item("snackPanel");
+    const double end = message != nullptr ? message->mapToScene(QPointF()).y() : window.window().height();
+    EXPECT_LT(top + focused->height(), end) << "under the message, or out of the window";
 }
 
 /// The name by which assistive technology calls the item.
@@ -167,25 +169,28 @@ TEST(PagesTest, WhatHappensIsSaidAloudAndTheFirstMissingFieldHasTheFocus) {
         {"undocumented", "Please fill the marked fields."},
         {"documented", ""},
         {"last-minute", "Less than a minute left for confirmation"}};
-    std::size_t looks = 0;
-    WalkPorts ports;
-    Window window(320, 568);
-    walk(ports, window, "tests/view/gallery/said.script", [&](const std::string& name) {
-        window.settle();
-        const auto said = announced(window);
-        EXPECT_NE(std::count(said.begin(), said.end(), expected.at(name)), 0) << name;
-        if (name == "marked") expectKeyboardAt(window, "documentNumber");
-        if (name == "undocumented") {
-            expectKeyboardAt(window, "upload");
-            EXPECT_EQ(spoken(window, "upload"), "Upload Document, missing");
-        }
-        if (name == "documented") {
-            EXPECT_EQ(spoken(window, "upload"), "Upload Document");
-            expectPicture(window, "picture", "journeys/data/passport.png");
-        }
-        ++looks;
-    });
-    EXPECT_EQ(looks, expected.size());
+    for (const double textScale : {1.0, 2.0}) {
+        std::size_t looks = 0;
+        WalkPorts ports;
+        Window window(320, 568);
+        window.setLook(false, textScale);
+        walk(ports, window, "tests/view/gallery/said.script", [&](const std::string& name) {
+            window.settle();
+            const auto said = announced(window);
+            EXPECT_NE(std::count(said.begin(), said.end(), expected.at(name)), 0) << name;
+            if (name == "marked") expectKeyboardAt(window, "documentNumber");
+            if (name == "undocumented") {
+                expectKeyboardAt(window, "upload");
+                EXPECT_EQ(spoken(window, "upload"), "Upload Document, missing");
+            }
+            if (name == "documented") {
+                EXPECT_EQ(spoken(window, "upload"), "Upload Document");
+                expectPicture(window, "picture", "journeys/data/passport.png");
+            }
+            ++looks;
+        });
+        EXPECT_EQ(looks, expected.size());
+    }
 }
 
 QRectF placeOf(const QQuickItem& item) { return item.mapRectToScene(QRectF(QPointF(), item.size())); }
@@ -201,6 +206,12 @@ std::vector<const QQuickItem*> offersOf(Window& window) {
         return placeOf(*one).top() < placeOf(*other).top();
     });
     return offers;
+}
+
+int countOf(Window& window, const char* name) {
+    const auto items = window.visibleItems();
+    return static_cast<int>(std::count_if(
+        items.begin(), items.end(), [&](const auto* item) { return item->objectName() == name; }));
 }
 
 /// All that assistive technology finds below `place`, on the page in front.
@@ -265,6 +276,9 @@ TEST(PagesTest, WhatIsAwaitedIsShownAsShapesAndEachLegHasItsLine) {
         window.settle();
         expectSound(window);
         if (name == "rules-awaited") expectNoSample(window, "Rules & Regulations");
+        if (name == "details") {
+            EXPECT_EQ(countOf(window, "carrierLogo"), 2) << "one for each leg, on the session below";
+        }
         if (name == "session-awaited") expectNoSample(window, "Baggage Information");
         if (name == "payment-awaited") expectNoSample(window, "Enter OTP");
         if (name == "ticket-awaited") expectNoSample(window, "Booking Confirmed");
@@ -418,6 +432,53 @@ TEST(PagesTest, AFingerStopsTheMovementOfTheListWhichElseEndsAtItsItem) {
         QTest::mouseRelease(&window.window(), Qt::LeftButton, {}, QPoint(195, 600));
     });
     EXPECT_EQ(looks, 2);
+}
+
+/// With little height or large letters offers stay in sight, also below the total of what is chosen.
+TEST(PagesTest, AShortPageKeepsOffersInSight) {
+    struct Case {
+        int width;
+        int height;
+        double textScale;
+        bool startsInSight;
+    };
+    for (const Case& look : {Case{844, 390, 1, true}, Case{320, 568, 2, false}, Case{390, 844, 1, true}}) {
+        SCOPED_TRACE(look.width);
+        int looks = 0;
+        WalkPorts ports;
+        Window window(look.width, look.height);
+        window.setLook(false, look.textScale);
+        walk(ports, window, "tests/view/gallery/short.script", [&](const std::string& name) {
+            ++looks;
+            window.settle();
+            expectSound(window);
+            QQuickItem* list = window.item("offers");
+            ASSERT_NE(list, nullptr);
+            for (const QQuickItem* item : window.visibleItems()) {
+                if (item->objectName() != "date" || look.width != 390) continue;
+                EXPECT_EQ(item->property("lineCount").toInt(), 1);
+            }
+            constexpr double enough = 90;
+            if (name == "list") {
+                EXPECT_NE(window.item("dateIcon"), nullptr);
+                const auto offers = offersOf(window);
+                ASSERT_EQ(offers.empty(), !look.startsInSight);
+                if (offers.empty()) return;
+                EXPECT_LE(placeOf(*offers.front()).top() + enough, look.height);
+            } else {
+                list->setProperty("pinned", false);
+                list->setProperty("contentY", 300);
+                window.settle();
+                const QQuickItem* header = window.item("resultsHeader");
+                const double top = header != nullptr ? placeOf(*header).bottom() : 0;
+                EXPECT_GE(placeOf(*window.item("total")).top() - top, look.height / 3.0);
+            }
+            if (const char* folder = std::getenv("OMBRIVANE_PICTURES"); folder != nullptr)
+                window.window().grabWindow().save(
+                    QString("%1/short-%2-%3.png").arg(folder).arg(look.width).arg(name.c_str()));
+        });
+        EXPECT_EQ(looks, 2);
+    }
 }
 
 TEST(PagesTest, theBackControlClosesWithoutAWordToTheHost) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontMetricsF>
 #include <QTcpServer>
 #include <QTemporaryFile>
 
@@ -75,6 +76,37 @@ TEST(RulesPageTest, NothingIsFetchedNoFileIsOpenedAndEachTextIsMeasured) {
     EXPECT_FALSE(watch.wasOpened());
     EXPECT_TRUE(QFile(file.fileName()).open(QIODevice::ReadOnly));
     EXPECT_TRUE(watch.wasOpened()) << "the watch is blind";
+}
+
+TEST(RulesPageTest, AnUnderlinedWordIsUnderlinedAndAListItemHasItsBullet) {
+    WalkPorts ports;
+    Window window;
+    walk(ports, window, "tests/view/gallery/rules.script", [&](const std::string&) {
+        const auto rules = std::dynamic_pointer_cast<RulesAndRegulationView>(
+            window.session().navigator()->find("RulesAndRegulationView"));
+        ASSERT_NE(rules, nullptr);
+        const auto drawn = [&](const char* html) {
+            rules->htmlText = html;
+            window.settle();
+            return window.window().grabWindow();
+        };
+        const QImage plain = drawn("<p>One two three</p>");
+        EXPECT_EQ(window.item("bullet"), nullptr);
+        const QImage marked = drawn("<p>One <u>two</u> three</p>");
+        QRect differences;
+        for (int y = 0; y < plain.height(); ++y) {
+            for (int x = 0; x < plain.width(); ++x) {
+                if (plain.pixel(x, y) != marked.pixel(x, y)) differences |= QRect(x, y, 1, 1);
+            }
+        }
+        QFont font("Fira Sans");
+        font.setPixelSize(16);
+        EXPECT_NEAR(differences.width(), QFontMetricsF(font).horizontalAdvance("two"), 2);
+        EXPECT_NEAR(differences.left(), 16 + QFontMetricsF(font).horizontalAdvance("One "), 2);
+        EXPECT_LE(differences.height(), 3);
+        drawn("<ul><li>One</li></ul>");
+        EXPECT_NE(window.item("bullet"), nullptr);
+    });
 }
 
 } // namespace

@@ -7,13 +7,13 @@
 namespace ombrivane::view {
 namespace {
 
-enum Role { content = Qt::UserRole + 1, listItem, underlined };
+enum Role { content = Qt::UserRole + 1, listItem, underlined, underlines };
 
 QString textOf(const RuleParagraph& paragraph) {
-    std::string text;
+    QString text;
     for (const auto& run : paragraph.runs)
-        text += run.text;
-    return shown(text);
+        text += shown(run.text);
+    return text;
 }
 
 /// A heading of the rules is underlined as a whole.
@@ -21,6 +21,20 @@ bool isHeading(const RuleParagraph& paragraph) {
     return !paragraph.runs.empty() && std::all_of(paragraph.runs.begin(),
                                                   paragraph.runs.end(),
                                                   [](const auto& run) { return run.underlined; });
+}
+
+/// Where in the text of a paragraph that is no heading underlined stretches begin, and their lengths, in
+/// turn.
+QList<int> stretchesOf(const RuleParagraph& paragraph) {
+    QList<int> stretches;
+    if (isHeading(paragraph)) return stretches;
+    qsizetype position = 0;
+    for (const auto& run : paragraph.runs) {
+        const qsizetype length = shown(run.text).size();
+        if (run.underlined) stretches << static_cast<int>(position) << static_cast<int>(length);
+        position += length;
+    }
+    return stretches;
 }
 
 } // namespace
@@ -39,13 +53,16 @@ QVariant ParagraphsModel::data(const QModelIndex& index, int role) const {
         return paragraph.kind == RuleParagraph::Kind::listItem;
     case underlined:
         return isHeading(paragraph);
+    case underlines:
+        return QVariant::fromValue(stretchesOf(paragraph));
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> ParagraphsModel::roleNames() const {
-    return {{content, "content"}, {listItem, "listItem"}, {underlined, "underlined"}};
+    return {
+        {content, "content"}, {listItem, "listItem"}, {underlined, "underlined"}, {underlines, "underlines"}};
 }
 
 void ParagraphsModel::show(std::vector<RuleParagraph> paragraphs) {

@@ -59,6 +59,14 @@ public:                                                                         
                                                                                                              \
 private:
 
+/// A list of texts of a value, which never changes.
+#define OMBRIVANE_TEXTS(name)                                                                                \
+    Q_PROPERTY(QStringList name READ name CONSTANT FINAL)                                                    \
+public:                                                                                                      \
+    QStringList name() const { return ombrivane::view::shown(lines_.name); }                                 \
+                                                                                                             \
+private:
+
 /// Values inside of a value. They change when whoever changes `lines_` says so.
 #define OMBRIVANE_LINES(Value, name)                                                                         \
     Q_PROPERTY(QQmlListProperty<ombrivane::view::Value> name READ name NOTIFY name##Changed FINAL)           \

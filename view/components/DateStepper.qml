@@ -12,7 +12,11 @@ Rectangle {
     signal previous
     signal next
 
-    implicitHeight: Math.max(Theme.target, text.implicitHeight + 8)
+    // Where the icon has no room beside the date, it stands above.
+    readonly property bool stacked: width < 240 * Theme.textScale
+    readonly property real sides: stacked ? 32 : 44
+
+    implicitHeight: Math.max(Theme.target, date.implicitHeight + 6)
     radius: Math.min(height / 2, 24)
     color: Theme.whiteColor
     border.width: 1
@@ -27,22 +31,27 @@ Rectangle {
         label: stepper.previousLabel
         onClicked: stepper.previous()
     }
+    TextMetrics { id: natural; font: text.font; text: stepper.value }
     Item {
-        anchors { left: before.right; right: after.left; top: parent.top; bottom: parent.bottom }
-        Row {
+        anchors { fill: parent; leftMargin: stepper.sides; rightMargin: stepper.sides }
+        Grid {
+            id: date
             anchors.centerIn: parent
-            spacing: 4
+            columns: stepper.stacked ? 1 : 2
+            columnSpacing: 4
+            horizontalItemAlignment: Grid.AlignHCenter
+            verticalItemAlignment: Grid.AlignVCenter
             Icon {
-                visible: stepper.width >= 240 * Theme.textScale
-                width: visible ? 18 : 0
+                objectName: "dateIcon"
+                width: 18
                 height: 18
-                anchors.verticalCenter: parent.verticalCenter
                 name: stepper.iconName
                 color: Theme.secondaryColor
             }
             PlainText {
                 id: text
-                width: Math.min(implicitWidth, before.parent.width - 88 - (stepper.width >= 240 * Theme.textScale ? 22 : 0))
+                objectName: "date"
+                width: Math.min(Math.ceil(natural.advanceWidth) + 1, stepper.width - 2 * stepper.sides - (stepper.stacked ? 0 : 22))
                 text: stepper.value
                 horizontalAlignment: Text.AlignHCenter
                 font.pixelSize: Theme.captionSize

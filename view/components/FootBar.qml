@@ -12,6 +12,8 @@ Rectangle {
     property bool emphasised: false
     required property string action
     property string actionIcon: ""
+    // Without its label, where there is little height.
+    property bool terse: false
     readonly property bool narrow: width < 340 * Theme.textScale
     signal clicked
 
@@ -41,7 +43,7 @@ Rectangle {
                 Layout.fillWidth: true
                 PlainText {
                     width: parent.width
-                    visible: bar.label !== ""
+                    visible: bar.label !== "" && !(bar.terse && bar.narrow)
                     text: bar.label
                     color: Theme.placeHolderColor
                     font.pixelSize: Theme.captionSize
@@ -50,6 +52,7 @@ Rectangle {
                     objectName: "chosen"
                     width: parent.width
                     text: bar.value
+                    Accessible.name: bar.label !== "" && bar.terse ? bar.label + " " + text : text
                     spread: 1.2
                     color: bar.emphasised ? Theme.primaryColor : Theme.blackColor
                     font.pixelSize: bar.emphasised ? Theme.priceSize : Theme.bodySize

@@ -13,7 +13,19 @@ ColumnLayout {
     RowLayout {
         Layout.fillWidth: true
         spacing: 10
-        Logo { url: block.modelData.carrierLogo }
+        Row {
+            spacing: 4
+            Repeater {
+                model: block.modelData.carrierLogos
+                Logo {
+                    required property string modelData
+                    objectName: "carrierLogo"
+                    width: implicitWidth
+                    height: implicitHeight
+                    url: modelData
+                }
+            }
+        }
         PlainText { Layout.fillWidth: true; awaited: block.awaited; text: block.modelData.route; font.weight: Font.Medium }
     }
     Flow {

@@ -8,10 +8,18 @@ Flickable {
 
     default property alias content: column.data
 
+    // A header that lies over the column and scrolls away with it where it is a tall one.
+    property PageHeader above: null
+    readonly property real inset: above === null ? 0 : above.height
+    readonly property real covered: above === null || above.goesAway ? 0 : inset
+
+    // What lies over its lower end for a while.
+    property real footCover: 0
+
     function reveal(item: Item) {
         const place = item.mapToItem(column, 0, 0).y + column.y
-        if (place < contentY) contentY = Math.max(0, place - Theme.gap)
-        else if (place + item.height > contentY + height) contentY = place + item.height - height + Theme.gap
+        if (place < contentY + covered + Math.max(0, inset - covered - contentY)) contentY = Math.max(0, place - covered - Theme.gap)
+        else if (place + item.height > contentY + height - footCover) contentY = place + item.height - height + footCover + Theme.gap
     }
     function isMissing(item: Item): bool {
         const field = item as FormField
@@ -28,22 +36,25 @@ Flickable {
         }
     }
 
-    contentHeight: column.implicitHeight + 2 * Theme.margin
+    contentHeight: inset + column.implicitHeight + 2 * Theme.margin + footCover
     clip: true
 
+    Binding { target: area.above; when: area.above !== null; property: "scrolled"; value: area.contentY }
+    function revealFocus() {
+        const focused = area.Window.activeFocusItem
+        for (let item = focused; item !== null; item = item.parent) {
+            if (item === column) return area.reveal(focused)
+        }
+    }
+    onContentHeightChanged: if (!moving) Qt.callLater(revealFocus)
     Connections {
         target: area.Window.window
-        function onActiveFocusItemChanged() {
-            const focused = area.Window.activeFocusItem
-            for (let item = focused; item !== null; item = item.parent) {
-                if (item === column) return area.reveal(focused)
-            }
-        }
+        function onActiveFocusItemChanged() { area.revealFocus() }
     }
     ColumnLayout {
         id: column
         x: (area.width - width) / 2
-        y: Theme.margin / 2
+        y: area.inset + Theme.margin / 2
         width: Math.max(0, Math.min(area.width - 2 * Theme.margin, Theme.contentWidth))
         spacing: Theme.gap
     }

@@ -1,15 +1,20 @@
 import QtQuick
 import Ombrivane
 
-// A control that leaves, and the title.
-Item {
+// A control that leaves, and the title. One that takes much of its page goes away as the page is `scrolled`.
+Rectangle {
     id: header
 
     property string title: ""
     property string iconName: "arrowLeftIcon"
     property string leaveLabel: Words.back
+    // Of the content that passes under it, in points.
+    property real scrolled: 0
+    readonly property bool goesAway: height > 72
     signal leave
 
+    color: "transparent"
+    y: goesAway ? -Math.max(0, Math.min(height, scrolled)) : 0
     implicitHeight: Math.max(56, text.implicitHeight + 16)
 
     IconButton {

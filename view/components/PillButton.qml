@@ -40,7 +40,7 @@ T.AbstractButton {
             }
             PlainText {
                 id: label
-                width: Math.min(Math.ceil(natural.advanceWidth) + 1, button.width - button.spared + 8)
+                width: Math.min(Math.ceil(natural.advanceWidth) + 1, button.width - button.spared + 16)
                 anchors.verticalCenter: parent.verticalCenter
                 text: button.text
                 color: button.chosen ? Theme.secondaryTextColor : Theme.blackColor

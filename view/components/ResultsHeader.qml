@@ -6,13 +6,18 @@ import Ombrivane
 Rectangle {
     id: header
 
+    objectName: "resultsHeader"
+
     required property ResultsAdapter screen
     default property alias tabs: column.data
+    // On a page with little height the dates go with the route, and everything below the route is one row if it can.
+    property bool cramped: false
+    readonly property bool inOneRow: cramped && width >= 700 * Theme.textScale
     readonly property real fullHeight: route.height + dates.height
-    readonly property real collapsedHeight: dates.height
+    readonly property real collapsedHeight: cramped ? 0 : dates.height
     property real collapse: screen.showActionBar ? 0 : 1
 
-    height: fullHeight - collapse * route.height
+    height: fullHeight - collapse * (fullHeight - collapsedHeight)
     color: Theme.canvasColor
     clip: true
 
@@ -67,14 +72,18 @@ Rectangle {
         anchors.top: route.bottom
         width: parent.width
         height: column.implicitHeight + 12
-        ColumnLayout {
+        enabled: header.height > header.collapsedHeight || !header.cramped
+        GridLayout {
             id: column
             y: 4
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
-            spacing: 8
+            width: header.inOneRow ? parent.width - 2 * Theme.margin : Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+            columns: header.inOneRow ? 2 : 1
+            columnSpacing: 8
+            rowSpacing: 8
             GridLayout {
                 Layout.fillWidth: true
+                Layout.preferredWidth: 1
                 columns: header.width < 380 * Theme.textScale ? 1 : 2
                 columnSpacing: 8
                 rowSpacing: 8

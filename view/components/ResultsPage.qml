@@ -11,6 +11,8 @@ FocusScope {
     // A wide window moves the list aside for its filter.
     readonly property bool besideFilter: width >= Theme.wideWidth && results.showFilterBottomSheet
 
+    readonly property bool cramped: height < 560 * Math.min(1.5, Theme.textScale)
+
     function showContent() { content.setSource(results.contentPage, {"screen": results.content, "results": results}) }
 
     Component.onCompleted: showContent()
@@ -41,6 +43,7 @@ FocusScope {
             id: header
             width: parent.width
             screen: page.results
+            cramped: page.cramped
         }
         Column {
             anchors {
@@ -69,6 +72,7 @@ FocusScope {
         FootBar {
             id: foot
             objectName: "total"
+            terse: page.cramped
             property real arrival: page.results.showContinueButton ? 1 : 0
             y: parent.height - page.footShown
             width: parent.width

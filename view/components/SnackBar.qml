@@ -28,7 +28,7 @@ Item {
         x: (parent.width - width) / 2
         y: Theme.reducedMotion ? 0 : (1 - bar.arrival) * (height + Theme.margin)
         width: Math.min(parent.width, Theme.contentWidth)
-        height: Math.max(Theme.fieldHeight, text.implicitHeight + 24)
+        height: Math.max(Theme.fieldHeight, text.contentHeight + 24)
         radius: Theme.fieldRadius
         color: Theme.blackColor
         Icon {
@@ -42,7 +42,15 @@ Item {
         }
         PlainText {
             id: text
+            // Two lines at most, in smaller letters where they are large: a message is not to take the page.
             anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
+            height: Math.ceil(2 * spread * 1.2 * Theme.bodySize)
+            verticalAlignment: Text.AlignVCenter
+            spread: 1.2
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            fontSizeMode: Text.Fit
+            minimumPixelSize: 13
             text: bar.message
             color: Theme.whiteColor
             Accessible.ignored: true

@@ -16,10 +16,10 @@ T.TextField {
     readonly property bool raised: length > 0 || preeditText !== ""
 
     text: value
-    implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 30)
+    implicitHeight: Math.max(Theme.fieldHeight, raised ? topPadding + contentHeight + 10 : label.implicitHeight + 16)
     leftPadding: Words.rightToLeft ? 44 : 48
     rightPadding: Words.rightToLeft ? 48 : 44
-    topPadding: raised ? 18 * Theme.textScale : 0
+    topPadding: raised ? Math.max(18 * Theme.textScale, label.implicitHeight + 2) : 0
     horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.blackColor
@@ -46,6 +46,7 @@ T.TextField {
             color: Theme.placeHolderColor
         }
         PlainText {
+            id: label
             anchors { left: parent.left; leftMargin: 48 }
             y: field.raised ? 6 : (parent.height - height) / 2
             width: parent.width - 92

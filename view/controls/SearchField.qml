@@ -8,7 +8,7 @@ T.TextField {
 
     required property string placeholder
 
-    implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 20)
+    implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 20, hint.visible ? hint.implicitHeight + 16 : 0)
     leftPadding: Words.rightToLeft ? 14 : 48
     rightPadding: Words.rightToLeft ? 48 : 14
     horizontalAlignment: TextInput.AlignLeft
@@ -36,7 +36,9 @@ T.TextField {
             color: Theme.placeHolderColor
         }
         PlainText {
+            id: hint
             anchors { left: parent.left; leftMargin: 48 }
+            width: parent.width - 62
             anchors.verticalCenter: parent.verticalCenter
             visible: field.length === 0 && field.preeditText === ""
             text: field.placeholder

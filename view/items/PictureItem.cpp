@@ -8,7 +8,7 @@
 namespace ombrivane::view {
 
 void PictureItem::setUrl(const QString& url) {
-    if (url == url_) return;
+    if (url == url_) return loadMissing();
     url_ = url;
     emit urlChanged();
     loader_ = std::make_shared<ImageLoader>(url.toStdString(), ImageCacheKey::defaultValue());
@@ -19,6 +19,15 @@ void PictureItem::setUrl(const QString& url) {
     loader_->load();
     emit loadedChanged();
     update();
+}
+
+void PictureItem::loadMissing() {
+    if (loader_ && !loaded()) loader_->load();
+}
+
+void PictureItem::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemVisibleHasChanged && data.boolValue) loadMissing();
+    QQuickPaintedItem::itemChange(change, data);
 }
 
 bool PictureItem::loaded() const { return loader_ && loader_->image->has_value(); }

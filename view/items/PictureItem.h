@@ -27,10 +27,15 @@ public:
 
     void paint(QPainter* painter) override;
 
+    /// A picture that could not be fetched is fetched again when the item appears.
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
     Q_SIGNAL void urlChanged();
     Q_SIGNAL void loadedChanged();
 
 private:
+    void loadMissing();
+
     QString url_;
     std::shared_ptr<ImageLoader> loader_;
     Subscription watch_;

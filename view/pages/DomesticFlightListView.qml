@@ -12,6 +12,7 @@ ResultsPage {
 
     RowLayout {
         Layout.fillWidth: true
+        Layout.preferredWidth: 1
         visible: page.screen.showsTabs
         spacing: 8
         PillButton {

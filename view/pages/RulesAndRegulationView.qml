@@ -24,14 +24,36 @@ Item {
         model: page.screen.paragraphs
         onContentHeightChanged: page.screen.measured(contentHeight)
         delegate: PlainText {
+            id: paragraph
             required property string content
             required property bool listItem
             required property bool underlined
+            required property list<int> underlines
             width: list.width
             leftPadding: listItem ? 16 : 0
             text: content
             font.underline: underlined
             font.pixelSize: Theme.sectionSize
+            Rectangle {
+                objectName: "bullet"
+                visible: paragraph.listItem
+                anchors { left: parent.left; leftMargin: 4 }
+                y: paragraph.topPadding + 0.6 * Theme.sectionSize - height / 2
+                width: 6
+                height: 6
+                radius: 3
+                color: Theme.blackColor
+            }
+            Underlines {
+                anchors.fill: parent
+                visible: stretches.length > 0
+                stretches: paragraph.underlines
+                text: paragraph.content
+                font: paragraph.font
+                color: paragraph.color
+                origin: Qt.point(paragraph.leftPadding, paragraph.topPadding)
+                lineHeight: paragraph.lineHeight
+            }
         }
         AwaitedText {
             y: Theme.margin

@@ -11,6 +11,8 @@ Item {
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     PageHeader {
         id: header
+        z: 1
+        color: Theme.canvasColor
         enabled: !picker.shown
         width: parent.width
         iconName: "crossIcon"
@@ -21,7 +23,9 @@ Item {
     PageColumn {
         id: fields
         enabled: !picker.shown
-        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
+        above: header
+        footCover: page.screen.showSnackBar ? snack.implicitHeight + 8 : 0
+        anchors { top: parent.top; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
         FormField {
             objectName: "name"
             Layout.fillWidth: true
@@ -128,9 +132,10 @@ Item {
     }
     Connections {
         target: page.screen
-        function onShowSnackBarChanged() { if (page.screen.showSnackBar) fields.showFirstMissing() }
+        function onShowSnackBarChanged() { if (page.screen.showSnackBar) Qt.callLater(fields.showFirstMissing) }
     }
     SnackBar {
+        id: snack
         anchors { left: parent.left; right: parent.right; bottom: save.top; margins: Theme.margin }
         message: page.screen.message
         shown: page.screen.showSnackBar

@@ -1,7 +1,7 @@
 // Written by scripts/adapters: the keys that pages read.
 #pragma once
 
-#include "adapters/JourneyValue.h"
+#include "adapters/screens/JourneyValue.h"
 #include "adapters/ScreenAdapter.h"
 #include "booking/FlightDetailsView.h"
 

@@ -8,10 +8,14 @@
 namespace ombrivane::view {
 
 /// What pages read of `JourneyCard`.
-class JourneyCardProperties : public QObject {
+class JourneyValue : public QObject {
     Q_OBJECT
-    QML_ANONYMOUS
-    OMBRIVANE_VALUE(JourneyCardProperties, JourneyCard)
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the component")
+    OMBRIVANE_VALUE(JourneyValue, JourneyCard)
+    OMBRIVANE_TEXTS(carrierLogos)
+    OMBRIVANE_LINE(originCity)
+    OMBRIVANE_LINE(destinationCity)
     OMBRIVANE_LINE(sectionTitle)
     OMBRIVANE_LINE(dateIcon)
     OMBRIVANE_LINE(route)
