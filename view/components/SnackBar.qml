@@ -22,13 +22,14 @@ Item {
     }
     Behavior on arrival { NumberAnimation { duration: Theme.reducedMotion ? 0 : 250; easing.type: Easing.OutCubic } }
 
+    TextMetrics { id: natural; font.family: Theme.fontFamily; font.pixelSize: Theme.bodySize; text: bar.message }
     Rectangle {
         id: panel
         objectName: "snackPanel"
         x: (parent.width - width) / 2
         y: Theme.reducedMotion ? 0 : (1 - bar.arrival) * (height + Theme.margin)
         width: Math.min(parent.width, Theme.contentWidth)
-        height: Math.max(Theme.fieldHeight, text.contentHeight + 24)
+        height: Math.max(Theme.fieldHeight, text.implicitHeight + 24)
         radius: Theme.fieldRadius
         color: Theme.blackColor
         Icon {
@@ -44,13 +45,10 @@ Item {
             id: text
             // Two lines at most, in smaller letters where they are large: a message is not to take the page.
             anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
-            height: Math.ceil(2 * spread * 1.2 * Theme.bodySize)
-            verticalAlignment: Text.AlignVCenter
-            spread: 1.2
+            readonly property real fitting: Math.floor(Theme.bodySize * 1.75 * width / Math.max(1, natural.advanceWidth))
+            font.pixelSize: Math.max(15, Math.min(Theme.bodySize, fitting))
             maximumLineCount: 2
             elide: Text.ElideRight
-            fontSizeMode: Text.Fit
-            minimumPixelSize: 13
             text: bar.message
             color: Theme.whiteColor
             Accessible.ignored: true
