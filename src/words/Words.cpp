@@ -5,6 +5,7 @@
 #include "words/Lexicon.h"
 
 #include <unicode/localebuilder.h>
+#include <fmt/core.h>
 #include <unicode/locid.h>
 
 namespace ombrivane {
@@ -52,7 +53,7 @@ void Words::choose(LanguageChoice choice) {
     for (const auto& [key, pattern] : choice.texts) {
         const auto text = textOf(key);
         const std::string refused = text ? lexicon->replace(*text, pattern) : "no text has this key";
-        if (!refused.empty()) platform().diagnostics->print("Text \"" + key + "\": " + refused);
+        if (!refused.empty()) platform().diagnostics->print(fmt::format("Text \"{}\": {}", key, refused));
     }
     {
         const std::lock_guard lock(mutex_);

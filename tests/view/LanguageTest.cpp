@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ombrivane::view {
 namespace {
@@ -22,6 +23,29 @@ Window {
         language: "ne"; region: "NP"; texts: ({ searchFlights: "Nepal by air" })
     }
 })";
+
+/// One whose own pages are mirrored.
+constexpr const char* mirroredWallet = R"(
+import QtQuick
+import Ombrivane
+Window {
+    visible: true
+    Item {
+        anchors.fill: parent
+        LayoutMirroring.enabled: true
+        LayoutMirroring.childrenInherit: true
+        OmbrivaneView {
+            objectName: "component"
+            anchors.fill: parent
+            clientId: "wallet"; clientSecret: "wallet-secret"; reducedMotion: true
+        }
+    }
+})";
+
+double middleOf(Window& window, const QString& name) {
+    const QQuickItem* item = window.item(name);
+    return item != nullptr ? item->mapToScene(QPointF(item->width() / 2, 0)).x() : -1;
+}
 
 bool shows(Window& window, const QString& text) {
     const auto items = window.visibleItems();
@@ -56,6 +80,26 @@ TEST(LanguageTest, AWalletInQmlSaysItsLanguageAndChangesItWhileThePagesAreShown)
     EXPECT_FALSE(shows(window, "Nepal by air"));
     EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
     chooseLanguage({});
+}
+
+TEST(LanguageTest, TheLanguageAloneMirrorsThePages) {
+    for (const char* host : {wallet, mirroredWallet}) {
+        const WalkPorts ports;
+        Window window(host);
+        window.session().setTexts({});
+        window.session().setLanguage("en");
+        window.open();
+        ASSERT_TRUE(window.waitForScreen("MainView"));
+        EXPECT_TRUE(Window::waitFor([&] { return middleOf(window, "tab0") > 0; }));
+        EXPECT_LT(middleOf(window, "tab0"), middleOf(window, "tab2"));
+        EXPECT_NEAR(middleOf(window, "chosenTab"), middleOf(window, "tab0"), 1);
+        window.session().setLanguage("ar");
+        EXPECT_TRUE(Window::waitFor([&] { return middleOf(window, "tab0") > middleOf(window, "tab2"); }));
+        EXPECT_TRUE(Window::waitFor(
+            [&] { return std::abs(middleOf(window, "chosenTab") - middleOf(window, "tab0")) <= 1; }));
+        EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
+        chooseLanguage({});
+    }
 }
 
 } // namespace

@@ -17,6 +17,7 @@ Rectangle {
     border.color: Theme.hairlineColor
 
     Rectangle {
+        objectName: "chosenTab"
         x: 4 + (Words.rightToLeft ? bar.screen.tabCount - 1 - bar.screen.tab : bar.screen.tab) * bar.cell
         y: 4
         width: bar.cell
