@@ -1,7 +1,9 @@
 #include "Inspection.h"
 #include "Walk.h"
 
+#include "images/ImageCacheKey.h"
 #include "items/Announcement.h"
+#include "items/PictureItem.h"
 #include "keyed/Navigator.h"
 
 #include <gtest/gtest.h>
@@ -479,6 +481,22 @@ TEST(PagesTest, AShortPageKeepsOffersInSight) {
         });
         EXPECT_EQ(looks, 2);
     }
+}
+
+TEST(PagesTest, APictureThatFailedIsFetchedAgainWhenItAppears) {
+    const WalkPorts ports;
+    Window window;
+    service().setFaults({"/logos/H0.png drop times=1"});
+    const std::string logo = service().address() + "/logos/H0.png";
+    ImageCacheKey::defaultValue()->setImage(logo, std::nullopt); // of whoever has shown it
+    PictureItem picture(window.window().contentItem());
+    picture.setUrl(QString::fromStdString(logo));
+    QTest::qWait(300);
+    EXPECT_FALSE(picture.loaded());
+    picture.setVisible(false);
+    picture.setVisible(true);
+    EXPECT_TRUE(Window::waitFor([&] { return picture.loaded(); }));
+    service().setFaults({});
 }
 
 TEST(PagesTest, theBackControlClosesWithoutAWordToTheHost) {

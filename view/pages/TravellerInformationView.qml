@@ -142,6 +142,7 @@ Item {
     }
     DatePicker {
         id: picker
+        z: 2
         anchors.fill: parent
     }
 }
