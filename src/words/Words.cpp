@@ -4,8 +4,8 @@
 #include "platform/Platform.h"
 #include "words/Lexicon.h"
 
-#include <unicode/localebuilder.h>
 #include <fmt/core.h>
+#include <unicode/localebuilder.h>
 #include <unicode/locid.h>
 
 namespace ombrivane {

@@ -1,8 +1,8 @@
 // Written by scripts/adapters: the keys that pages read.
 #pragma once
 
-#include "adapters/screens/JourneyValue.h"
 #include "adapters/ScreenAdapter.h"
+#include "adapters/screens/JourneyValue.h"
 #include "booking/FlightInformationView.h"
 
 namespace ombrivane::view {

@@ -13,16 +13,16 @@ class JourneyValue : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     OMBRIVANE_VALUE(JourneyValue, JourneyCard)
-    OMBRIVANE_TEXTS(carrierLogos)
-    OMBRIVANE_LINE(originCity)
-    OMBRIVANE_LINE(destinationCity)
     OMBRIVANE_LINE(sectionTitle)
     OMBRIVANE_LINE(dateIcon)
+    OMBRIVANE_LINE(originCity)
+    OMBRIVANE_LINE(destinationCity)
     OMBRIVANE_LINE(route)
     OMBRIVANE_LINE(date)
     OMBRIVANE_LINE(time)
     OMBRIVANE_LINE(duration)
     OMBRIVANE_LINE(stops)
+    OMBRIVANE_TEXTS(carrierLogos)
     OMBRIVANE_LINES(LegValue, legs)
 };
 
