@@ -122,7 +122,7 @@ void expectSound(Window& window) {
         if (!item->inherits("QQuickAbstractButton") && !item->inherits("QQuickTextInput")) continue;
         ++controls;
         expectControl(*item);
-        if (item->inherits("QQuickTextInput")) expectTextsInside(*item, *item);
+        expectTextsInside(*item, *item);
         expectInside(window, *item);
     }
     expectApart(texts);

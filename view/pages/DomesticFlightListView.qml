@@ -18,6 +18,7 @@ ResultsPage {
         PillButton {
             objectName: "departingFlights"
             Layout.fillWidth: true
+            Layout.fillHeight: true
             Layout.preferredWidth: 1
             Accessible.role: Accessible.PageTab
             Accessible.checked: chosen
@@ -28,6 +29,7 @@ ResultsPage {
         PillButton {
             objectName: "returningFlights"
             Layout.fillWidth: true
+            Layout.fillHeight: true
             Layout.preferredWidth: 1
             Accessible.role: Accessible.PageTab
             Accessible.checked: chosen

@@ -30,6 +30,7 @@ Item {
         PlainText {
             id: heading
             anchors { top: field.bottom; topMargin: Theme.margin }
+            width: parent.width
             text: page.screen.heading
             font.pixelSize: Theme.sectionSize
             font.weight: Font.Medium
