@@ -43,6 +43,8 @@ QtObject {
     readonly property real fieldRadius: 12
     readonly property real fieldHeight: 52
     readonly property real target: 48
+    // A header beyond this takes too much of its page to stay.
+    readonly property real tallHeader: 72
     readonly property real contentWidth: 560
     // From here on a window has room for a filter beside its list.
     readonly property real wideWidth: 840

@@ -101,6 +101,8 @@ void expectApart(const std::vector<const QQuickItem*>& texts) {
 
 } // namespace
 
+QRectF placeOf(const QQuickItem& item) { return item.mapRectToScene(QRectF(QPointF(), item.size())); }
+
 void expectSound(Window& window) {
     for (const auto& warning : window.takeWarnings())
         ADD_FAILURE() << warning;

@@ -8,10 +8,9 @@ Flickable {
 
     default property alias content: column.data
 
-    // A header that lies over the column and scrolls away with it where it is a tall one.
-    property PageHeader above: null
-    readonly property real inset: above === null ? 0 : above.height
-    readonly property real covered: above === null || above.goesAway ? 0 : inset
+    // The height of a header that lies over the column and, where it is a tall one, scrolls away with it.
+    property real inset: 0
+    readonly property real covered: inset > Theme.tallHeader ? 0 : inset
 
     // What lies over its lower end for a while.
     property real footCover: 0
@@ -39,14 +38,19 @@ Flickable {
     contentHeight: inset + column.implicitHeight + 2 * Theme.margin + footCover
     clip: true
 
-    Binding { target: area.above; when: area.above !== null; property: "scrolled"; value: area.contentY }
     function revealFocus() {
         const focused = area.Window.activeFocusItem
         for (let item = focused; item !== null; item = item.parent) {
             if (item === column) return area.reveal(focused)
         }
     }
-    onContentHeightChanged: if (!moving) Qt.callLater(revealFocus)
+    // A field that grows, or a message that comes, may cover it.
+    onContentHeightChanged: if (!moving) reveals.restart()
+    Timer {
+        id: reveals
+        interval: 0
+        onTriggered: area.revealFocus()
+    }
     Connections {
         target: area.Window.window
         function onActiveFocusItemChanged() { area.revealFocus() }

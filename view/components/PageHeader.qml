@@ -10,7 +10,7 @@ Rectangle {
     property string leaveLabel: Words.back
     // Of the content that passes under it, in points.
     property real scrolled: 0
-    readonly property bool goesAway: height > 72
+    readonly property bool goesAway: height > Theme.tallHeader
     signal leave
 
     color: "transparent"

@@ -13,6 +13,7 @@ Item {
         id: header
         z: 1
         color: Theme.canvasColor
+        scrolled: fields.contentY
         enabled: !picker.shown
         width: parent.width
         iconName: "crossIcon"
@@ -23,7 +24,7 @@ Item {
     PageColumn {
         id: fields
         enabled: !picker.shown
-        above: header
+        inset: header.height
         footCover: page.screen.showSnackBar ? snack.implicitHeight + 8 : 0
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
         FormField {
@@ -132,7 +133,7 @@ Item {
     }
     Connections {
         target: page.screen
-        function onShowSnackBarChanged() { if (page.screen.showSnackBar) Qt.callLater(fields.showFirstMissing) }
+        function onShowSnackBarChanged() { if (page.screen.showSnackBar) fields.showFirstMissing() }
     }
     SnackBar {
         id: snack

@@ -1,0 +1,220 @@
+#include "Inspection.h"
+#include "Walk.h"
+
+#include <gtest/gtest.h>
+
+#include <QQmlProperty>
+#include <QTest>
+
+#include <algorithm>
+#include <sstream>
+
+namespace ombrivane::view {
+namespace {
+
+/// The offers in the window from the top down.
+std::vector<const QQuickItem*> offersOf(Window& window) {
+    std::vector<const QQuickItem*> offers;
+    for (const QQuickItem* item : window.visibleItems()) {
+        const bool inside = placeOf(*item).intersects(QRectF(QPointF(), window.window().size()));
+        if (item->objectName() == "offer" && inside) offers.push_back(item);
+    }
+    std::sort(offers.begin(), offers.end(), [](const auto* one, const auto* other) {
+        return placeOf(*one).top() < placeOf(*other).top();
+    });
+    return offers;
+}
+
+TEST(ResultPagesTest, AWideWindowShowsTheFilterBesideTheListAndANarrowOneOverIt) {
+    struct Case {
+        int width;
+        bool covered;
+    };
+    for (const Case& look : {Case{1024, false}, Case{840, false}, Case{839, true}}) {
+        SCOPED_TRACE(look.width);
+        int looks = 0;
+        WalkPorts ports;
+        Window window(look.width, 768);
+        walk(ports, window, "tests/view/gallery/wide.script", [&](const std::string& name) {
+            window.settle();
+            if (name != "filter") return;
+            ++looks;
+            expectSound(window);
+            const QQuickItem* apply = window.item("apply");
+            ASSERT_NE(apply, nullptr);
+            const auto offers = offersOf(window);
+            ASSERT_FALSE(offers.empty());
+            for (const QQuickItem* offer : offers) {
+                const bool beside = placeOf(*apply).right() <= placeOf(*offer).left();
+                EXPECT_EQ(beside, !look.covered);
+                EXPECT_LE(placeOf(*offer).right(), look.width);
+            }
+        });
+        EXPECT_EQ(looks, 1);
+    }
+}
+
+/// Cards are used again as the list is scrolled: each shows the offer of its place, there and back again.
+TEST(ResultPagesTest, EveryRowShowsItsOwnOfferWhileTheListIsScrolled) {
+    WalkPorts ports;
+    Window window;
+    walk(ports, window, "tests/view/gallery/wide.script", [&](const std::string& name) {
+        if (name != "list") return;
+        window.settle();
+        QQuickItem* list = window.item("offers");
+        ASSERT_NE(list, nullptr);
+        const auto shownPrices = [&] {
+            std::vector<std::string> prices;
+            for (const QQuickItem* offer : offersOf(window))
+                prices.push_back(QQmlProperty::read(offer, "row.price").toString().toStdString());
+            return prices;
+        };
+        const auto before = shownPrices();
+        ASSERT_GE(before.size(), 3U);
+        EXPECT_TRUE(
+            std::none_of(before.begin(), before.end(), [](const auto& price) { return price.empty(); }));
+        list->setProperty("pinned", false);
+        QMetaObject::invokeMethod(list, "positionViewAtEnd");
+        window.settle();
+        EXPECT_NE(shownPrices(), before);
+        QMetaObject::invokeMethod(list, "positionViewAtBeginning");
+        window.settle();
+        auto after = shownPrices();
+        ASSERT_GE(after.size(), before.size());
+        after.resize(before.size()); // the header may be out of view now, and make room for one more
+        EXPECT_EQ(after, before);
+    });
+}
+
+/// The page of the list, and the offer to which its strip has led.
+QQuickItem* listPage(Window& window) {
+    QQuickItem* list = window.item("offers");
+    return list != nullptr ? list->parentItem() : nullptr;
+}
+
+/// How far the wanted offer, or the head of the list, is from the place where it belongs.
+double distance(Window& window, bool offer) {
+    const QQuickItem* page = listPage(window);
+    const QQuickItem* list = window.item("offers");
+    const double at = list->property("contentY").toDouble();
+    if (!offer) return at - list->property("originY").toDouble() + list->property("topMargin").toDouble();
+    const auto* rows = QQmlProperty::read(page, "screen.rows").value<QObject*>();
+    int position = -1;
+    QMetaObject::invokeMethod(const_cast<QObject*>(rows),
+                              "positionOf",
+                              Q_RETURN_ARG(int, position),
+                              Q_ARG(QString, QQmlProperty::read(page, "screen.scrollToId").toString()));
+    QQuickItem* row = nullptr;
+    QMetaObject::invokeMethod(
+        const_cast<QQuickItem*>(list), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row), Q_ARG(int, position));
+    constexpr double gap = 12;
+    return row != nullptr ? row->y() - at - page->property("collapsedInset").toDouble() - gap : 10000;
+}
+
+TEST(ResultPagesTest, AMovementOfTheListEndsAtItsItemAndOtherOffersStartAtTheirHead) {
+    int looks = 0;
+    WalkPorts ports;
+    Window window;
+    walk(ports, window, "tests/view/gallery/strip.script", [&](const std::string& name) {
+        window.settle();
+        ++looks;
+        if (name == "near") return;
+        SCOPED_TRACE(looks);
+        EXPECT_NEAR(distance(window, name == "offer"), 0, 1);
+    });
+    EXPECT_EQ(looks, 11);
+}
+
+/// With motion.
+constexpr const char* lively = R"(
+import QtQuick
+import Ombrivane
+Window {
+    visible: true
+    OmbrivaneView {
+        objectName: "component"
+        anchors.fill: parent
+        clientId: "wallet"
+        clientSecret: "wallet-secret"
+    }
+})";
+
+TEST(ResultPagesTest, AFingerStopsTheMovementOfTheListWhichElseEndsAtItsItem) {
+    std::istringstream lines("play journeys/steps/home.steps\nplay journeys/steps/one-way.steps\n"
+                             "tap DomesticFlightListView.strip[30].tap\nlook moving\n"
+                             "expect model.showContinueButton false\n"
+                             "tap DomesticFlightListView.rows[14].tap\n"
+                             "tap DomesticFlightListView.strip[24].tap\nlook arrived\n");
+    int looks = 0;
+    WalkPorts ports;
+    Window window(lively, 390, 844);
+    walk(ports, window, lines, [&](const std::string& name) {
+        ++looks;
+        const QQuickItem* list = window.item("offers");
+        if (name == "arrived") {
+            EXPECT_TRUE(Window::waitFor([&] { return std::abs(distance(window, true)) < 1; }));
+            QTest::qWait(150);
+            EXPECT_NEAR(distance(window, true), 0, 1);
+            return;
+        }
+        const auto place = [&] { return list->property("contentY").toDouble(); };
+        const double start = place();
+        EXPECT_TRUE(Window::waitFor([&] { return place() > start + 40; })) << "it moves";
+        QTest::mousePress(&window.window(), Qt::LeftButton, {}, QPoint(195, 600));
+        const double stopped = place();
+        QTest::qWait(150);
+        EXPECT_EQ(place(), stopped);
+        QTest::mouseRelease(&window.window(), Qt::LeftButton, {}, QPoint(195, 600));
+    });
+    EXPECT_EQ(looks, 2);
+}
+
+/// With little height or large letters offers stay in sight, also below the total of what is chosen.
+TEST(ResultPagesTest, AShortPageKeepsOffersInSight) {
+    struct Case {
+        int width;
+        int height;
+        double textScale;
+        bool startsInSight;
+    };
+    for (const Case& look : {Case{844, 390, 1, true}, Case{320, 568, 2, false}, Case{390, 844, 1, true}}) {
+        SCOPED_TRACE(look.width);
+        int looks = 0;
+        WalkPorts ports;
+        Window window(look.width, look.height);
+        window.setLook(false, look.textScale);
+        walk(ports, window, "tests/view/gallery/short.script", [&](const std::string& name) {
+            ++looks;
+            window.settle();
+            expectSound(window);
+            QQuickItem* list = window.item("offers");
+            ASSERT_NE(list, nullptr);
+            for (const QQuickItem* item : window.visibleItems()) {
+                if (item->objectName() != "date" || look.width != 390) continue;
+                EXPECT_EQ(item->property("lineCount").toInt(), 1);
+            }
+            constexpr double enough = 90;
+            if (name == "list") {
+                EXPECT_NE(window.item("dateIcon"), nullptr);
+                const auto offers = offersOf(window);
+                ASSERT_EQ(offers.empty(), !look.startsInSight);
+                if (offers.empty()) return;
+                EXPECT_LE(placeOf(*offers.front()).top() + enough, look.height);
+            } else {
+                list->setProperty("pinned", false);
+                list->setProperty("contentY", 300);
+                window.settle();
+                const QQuickItem* header = window.item("resultsHeader");
+                const double top = header != nullptr ? placeOf(*header).bottom() : 0;
+                EXPECT_GE(placeOf(*window.item("total")).top() - top, look.height / 3.0);
+            }
+            if (const char* folder = std::getenv("OMBRIVANE_PICTURES"); folder != nullptr)
+                window.window().grabWindow().save(
+                    QString("%1/short-%2-%3.png").arg(folder).arg(look.width).arg(name.c_str()));
+        });
+        EXPECT_EQ(looks, 2);
+    }
+}
+
+} // namespace
+} // namespace ombrivane::view
