@@ -150,7 +150,9 @@ TEST(ResultPagesTest, AFingerStopsTheMovementOfTheListWhichElseEndsAtItsItem) {
     Window window(lively, 390, 844);
     walk(ports, window, lines, [&](const std::string& name) {
         ++looks;
+        QTest::qWait(300); // the page slides in
         const QQuickItem* list = window.item("offers");
+        ASSERT_NE(list, nullptr);
         if (name == "arrived") {
             EXPECT_TRUE(Window::waitFor([&] { return std::abs(distance(window, true)) < 1; }));
             QTest::qWait(150);
