@@ -27,7 +27,7 @@ QtObject {
     readonly property color hairlineColor: dark ? "#2C3542" : "#D5DBE5"
     readonly property color dimColor: "#80000000"
 
-    readonly property string fontFamily: "Fira Sans"
+    readonly property string fontFamily: Words.fontFamily !== "" ? Words.fontFamily : "Fira Sans"
     readonly property real titleSize: 20 * textScale
     readonly property real sectionSize: 16 * textScale
     readonly property real timeSize: 20 * textScale

@@ -93,6 +93,8 @@ std::uint64_t Words::revision() const {
     return revision_;
 }
 
+std::string Words::language() const { return lexicon()->language(); }
+
 bool Words::isRightToLeft() const { return lexicon()->isRightToLeft(); }
 
 std::string said(Text text, const std::vector<Place>& places) { return Words::shared().text(text, places); }

@@ -43,6 +43,8 @@ public:
     /// Another number for each choice; what was made of words is good while it stays. A computation that is
     /// being tracked follows it.
     std::uint64_t revision() const;
+    /// The language that is spoken, as its translation is called: "en", "ne".
+    std::string language() const;
     /// Whether the language is written from the right to the left.
     bool isRightToLeft() const;
 

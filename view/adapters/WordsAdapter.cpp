@@ -2,7 +2,31 @@
 
 #include "words/Words.h"
 
+#include <QFontDatabase>
+#include <QLocale>
+
 namespace ombrivane::view {
+namespace {
+
+/// The scripts of languages that the component's own family has no letters of.
+QFontDatabase::WritingSystem foreignScript(const QString& language) {
+    switch (QLocale(language).script()) {
+    case QLocale::ArabicScript:
+        return QFontDatabase::Arabic;
+    case QLocale::BengaliScript:
+        return QFontDatabase::Bengali;
+    case QLocale::DevanagariScript:
+        return QFontDatabase::Devanagari;
+    case QLocale::HebrewScript:
+        return QFontDatabase::Hebrew;
+    case QLocale::ThaiScript:
+        return QFontDatabase::Thai;
+    default:
+        return QFontDatabase::Any;
+    }
+}
+
+} // namespace
 
 WordsAdapter::WordsAdapter() :
     changed_(ombrivane::Words::shared().observe(settled([this] { emit changed(); }))) {}
@@ -11,6 +35,16 @@ WordsAdapter::WordsAdapter() :
     QString WordsAdapter::key() { return QString::fromStdString(said(Text::key)); }
 #include "words/Texts.def"
 #undef OMBRIVANE_WORDING
+
+/// Of the families of the device the one without serifs, where names tell.
+QString WordsAdapter::fontFamily() {
+    const auto script = foreignScript(QString::fromStdString(ombrivane::Words::shared().language()));
+    if (script == QFontDatabase::Any) return {};
+    const QStringList families = QFontDatabase::families(script);
+    const QStringList plain =
+        families.filter("Noto Sans").isEmpty() ? families.filter("Sans") : families.filter("Noto Sans");
+    return plain.isEmpty() ? families.value(0) : plain.constFirst();
+}
 
 bool WordsAdapter::rightToLeft() { return ombrivane::Words::shared().isRightToLeft(); }
 

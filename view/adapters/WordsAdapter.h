@@ -20,6 +20,8 @@ class WordsAdapter : public QObject {
 #undef OMBRIVANE_WORDING
     /// Whether the language is written from the right to the left.
     Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY changed FINAL)
+    /// A family of the device for the letters of the language; empty where the component's own has them.
+    Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed FINAL)
 
 public:
     WordsAdapter();
@@ -29,6 +31,7 @@ public:
 #undef OMBRIVANE_WORDING
 
     static bool rightToLeft();
+    static QString fontFamily();
 
     /// A text with named places, each filled in: `Words.fill(Words.fieldIsMissing, {field: name})`.
     Q_INVOKABLE static QString fill(const QString& pattern, const QVariantMap& places);
