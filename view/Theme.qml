@@ -1,5 +1,6 @@
 pragma Singleton
 import QtQuick
+import Ombrivane
 
 // Colours, type and measures of every page. `dark`, `textScale` and `reducedMotion` follow the host.
 QtObject {

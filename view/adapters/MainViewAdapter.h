@@ -14,6 +14,7 @@ class MainViewAdapter : public ombrivane::view::MainViewProperties {
     QML_UNCREATABLE("made by the component")
     Q_PROPERTY(int tabCount READ tabCount CONSTANT FINAL)
     Q_PROPERTY(int tab READ tab NOTIFY tabChanged FINAL)
+    OMBRIVANE_FIELD(QStringList, tabLabels, core().tabBar->labels)
     OMBRIVANE_PART(SearchFormAdapter, oneWay, core().oneWay)
     OMBRIVANE_PART(SearchFormAdapter, roundTrip, core().roundTrip)
     OMBRIVANE_PART(FooterAdapter, footer, core().footer)
@@ -22,7 +23,6 @@ public:
     using MainViewProperties::MainViewProperties;
 
     int tabCount() const { return static_cast<int>(core().tabBar->tabs->size()); }
-    Q_INVOKABLE QString tabLabel(int index) const;
     int tab() const { return static_cast<int>(core().tabBar->localSelection.get()); }
     Q_INVOKABLE void tapTab(int index) { core().tabBar->tap(static_cast<TabBarItem>(index)); }
     Q_SIGNAL void tabChanged();

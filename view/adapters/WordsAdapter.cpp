@@ -29,12 +29,19 @@ QFontDatabase::WritingSystem foreignScript(const QString& language) {
 } // namespace
 
 WordsAdapter::WordsAdapter() :
+    fontFamilyChanged_(ombrivane::Words::shared().observe([this] { tellFontFamily(); })),
     changed_(ombrivane::Words::shared().observe(settled([this] { emit changed(); }))) {}
 
 #define OMBRIVANE_WORDING(key, english)                                                                      \
     QString WordsAdapter::key() { return QString::fromStdString(said(Text::key)); }
 #include "words/Texts.def"
 #undef OMBRIVANE_WORDING
+
+void WordsAdapter::tellFontFamily() {
+    if (!fontFamily().isEmpty()) return emit fontFamilyChanged();
+    QMetaObject::invokeMethod(
+        this, [this] { emit fontFamilyChanged(); }, Qt::QueuedConnection);
+}
 
 /// Of the families of the device the one without serifs, where names tell.
 QString WordsAdapter::fontFamily() {

@@ -21,7 +21,7 @@ class WordsAdapter : public QObject {
     /// Whether the language is written from the right to the left.
     Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY changed FINAL)
     /// A family of the device for the letters of the language; empty where the component's own has them.
-    Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed FINAL)
+    Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY fontFamilyChanged FINAL)
 
 public:
     WordsAdapter();
@@ -36,9 +36,15 @@ public:
     /// A text with named places, each filled in: `Words.fill(Words.fieldIsMissing, {field: name})`.
     Q_INVOKABLE static QString fill(const QString& pattern, const QVariantMap& places);
 
+    /// Told ahead of the texts that want the family, and behind those that wanted the one before: no text is
+    /// laid out in a family that lacks its letters.
+    Q_SIGNAL void fontFamilyChanged();
     Q_SIGNAL void changed();
 
 private:
+    void tellFontFamily();
+
+    Subscription fontFamilyChanged_;
     Subscription changed_;
 };
 

@@ -72,11 +72,11 @@ Rectangle {
         }
         PlainText {
             id: words
-            height: left.height
+            width: Math.min(implicitWidth, row.width)
+            height: Math.max(left.height, implicitHeight)
             text: pill.label
             color: Theme.placeHolderColor
             font.pixelSize: Theme.captionSize
-            wrapMode: Text.NoWrap
             verticalAlignment: Text.AlignVCenter
             spread: 1.1
             Accessible.ignored: true

@@ -29,7 +29,7 @@ T.AbstractButton {
             id: icon
             width: 24
             height: 24
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             name: "userIcon"
             color: Theme.placeHolderColor
         }

@@ -25,7 +25,7 @@ Item {
         visible: line.iconName !== ""
         width: visible ? 22 : 0
         height: 22
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         name: line.iconName
         color: Theme.placeHolderColor
     }

@@ -21,6 +21,7 @@ Column {
         height: Math.max(logo.height, carrier.height)
         Logo {
             id: logo
+            anchors.left: parent.left
             y: (parent.height - height) / 2
             width: implicitWidth
             height: implicitHeight
@@ -39,6 +40,7 @@ Column {
         height: Math.max(line.height, stops.height)
         Icon {
             id: line
+            anchors.left: parent.left
             objectName: "legLine"
             y: (parent.height - height) / 2
             width: 24

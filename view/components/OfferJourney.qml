@@ -21,11 +21,13 @@ Column {
         height: Math.ceil(item.narrow ? airline.height + (cost.visible ? 4 + cost.height : 0) : Math.max(airline.height, cost.visible ? cost.height : 0))
         Item {
             id: airline
+            anchors.left: parent.left
             y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
             width: parent.width - (item.narrow || !cost.visible ? 0 : cost.width + 8)
             height: Math.max(logo.height, name.height)
             Logo {
                 id: logo
+                anchors.left: parent.left
                 y: Math.round((parent.height - height) / 2)
                 width: implicitWidth
                 height: implicitHeight
@@ -65,6 +67,7 @@ Column {
         height: Math.ceil(Math.max(departure.height, flight.height, arrival.height))
         CardText {
             id: departure
+            anchors.left: parent.left
             y: Math.round((parent.height - height) / 2)
             width: Math.ceil(implicitWidth)
             wrapMode: Text.NoWrap
@@ -107,6 +110,7 @@ Column {
         height: Math.ceil(Math.max(origin.height, destination.height))
         Column {
             id: origin
+            anchors.left: parent.left
             y: Math.round((parent.height - height) / 2)
             width: item.half
             CardText { width: item.half; text: item.journey.departureLocation; font.weight: Font.Medium }
@@ -147,6 +151,7 @@ Column {
         height: Math.ceil(item.narrow ? included.height + (details.visible ? 4 + details.height : 0) : Math.max(included.height, details.visible ? details.height : 0))
         Flow {
             id: included
+            anchors.left: parent.left
             y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
             width: parent.width - (item.narrow || !details.visible ? 0 : details.width + 8)
             spacing: 12

@@ -27,7 +27,7 @@ T.AbstractButton {
             id: mark
             width: 24
             height: 24
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             name: item.row.isMarked ? "largecircle.fill.circle" : "circle"
             color: item.row.isMarked ? Theme.secondaryColor : Theme.formBorderColor
         }

@@ -31,7 +31,7 @@ FocusScope {
         value: page.footShown + (page.results.showsFloatingBar ? 56 + Theme.gap : 0)
     }
     Item {
-        anchors { fill: parent; leftMargin: page.besideFilter ? Theme.besideWidth : 0 }
+        anchors { left: parent.left; leftMargin: page.besideFilter ? Theme.besideWidth : 0; right: parent.right; top: parent.top; bottom: parent.bottom }
 
         Loader {
             id: content

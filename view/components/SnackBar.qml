@@ -43,11 +43,12 @@ Item {
         }
         PlainText {
             id: text
-            // Two lines at most, in smaller letters where they are large: a message is not to take the page.
+            // Two lines, in smaller letters where they are large: a message is not to take the page. A third one only
+            // where the smallest letters need it.
             anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
             readonly property real fitting: Math.floor(Theme.bodySize * 1.75 * width / Math.max(1, natural.advanceWidth))
             font.pixelSize: Math.max(15, Math.min(Theme.bodySize, fitting))
-            maximumLineCount: 2
+            maximumLineCount: fitting < 15 ? 3 : 2
             elide: Text.ElideRight
             text: bar.message
             color: Theme.whiteColor

@@ -10,7 +10,16 @@ Rectangle {
 
     readonly property real cell: (width - 8) / Math.max(1, screen.tabCount)
 
-    implicitHeight: 52 * Math.max(1, Theme.textScale * 0.75)
+    // Of the highest label, in points.
+    property real labelHeight: 0
+
+    function measure() {
+        let highest = 0
+        for (let index = 0; index < tabs.count; ++index) highest = Math.max(highest, tabs.itemAt(index)?.contentItem.implicitHeight ?? 0)
+        labelHeight = highest
+    }
+
+    implicitHeight: Math.max(52 * Math.max(1, Theme.textScale * 0.75), labelHeight + 20)
     radius: height / 2
     color: Theme.whiteColor
     border.width: 1
@@ -30,6 +39,7 @@ Rectangle {
         x: 4
         y: 4
         Repeater {
+            id: tabs
             model: bar.screen.tabCount
             T.AbstractButton {
                 id: tab
@@ -37,7 +47,7 @@ Rectangle {
                 objectName: "tab" + index
                 width: bar.cell
                 height: bar.height - 8
-                text: bar.screen.tabLabel(index)
+                text: bar.screen.tabLabels[index]
                 focusPolicy: Qt.StrongFocus
                 Accessible.role: Accessible.PageTab
                 Accessible.name: text
@@ -52,6 +62,7 @@ Rectangle {
                 }
                 contentItem: PlainText {
                     text: tab.text
+                    onImplicitHeightChanged: Qt.callLater(bar.measure)
                     font.weight: Font.Medium
                     font.pixelSize: Theme.captionSize
                     horizontalAlignment: Text.AlignHCenter

@@ -26,7 +26,7 @@ T.AbstractButton {
             id: box
             width: 24
             height: 24
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             name: button.marked ? "checkmark.square" : "square"
             color: button.marked ? Theme.secondaryColor : Theme.formBorderColor
         }

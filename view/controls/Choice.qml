@@ -34,7 +34,7 @@ T.AbstractButton {
         }
         PlainText {
             id: label
-            anchors { left: mark.right; leftMargin: 10; verticalCenter: parent.verticalCenter }
+            anchors { left: mark.right; leftMargin: 10; right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
             text: button.text
             Accessible.ignored: true
         }

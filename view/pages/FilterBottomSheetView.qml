@@ -17,7 +17,7 @@ Sheet {
     Item {
         id: head
         anchors { left: parent.left; right: parent.right; leftMargin: Theme.margin; rightMargin: Theme.margin }
-        height: Math.max(Theme.target, title.implicitHeight + 8)
+        height: Math.max(Theme.target, title.implicitHeight + 8, reset.implicitHeight)
         PlainText {
             id: title
             anchors { left: parent.left; right: reset.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
@@ -31,6 +31,7 @@ Sheet {
             id: reset
             objectName: "resetAll"
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            width: Math.min(implicitWidth, parent.width * 0.45)
             text: page.screen.resetText
             onClicked: page.screen.resetAll()
         }

@@ -89,7 +89,7 @@ ResultsContent {
                 objectName: "strip"
                 visible: page.screen.strip.count > 0
                 width: parent.width
-                height: Math.max(Theme.target, 36 * Theme.textScale + 28)
+                height: Math.max(Theme.target, 36 * Theme.textScale + 28, currentItem?.implicitHeight ?? 0)
                 leftMargin: page.contentMargin
                 rightMargin: page.contentMargin
                 orientation: ListView.Horizontal
