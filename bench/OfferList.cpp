@@ -18,7 +18,7 @@ OfferList::OfferList(const OneWayOffers& offers) {
     list_ = std::make_shared<OneWayFlightListView>(
         model_.filteredOnewayFlights,
         OfferListBindings{model_.isLoading, model_.scrollToTop, selection},
-        "Departing Flights",
+        Text::resultsDeparting,
         true);
     constexpr std::size_t visible = 12;
     for (std::size_t i = 0; i < std::min(visible, offers.size()); ++i) {

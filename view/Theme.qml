@@ -29,6 +29,8 @@ QtObject {
     readonly property color dimColor: "#80000000"
 
     readonly property string fontFamily: Words.fontFamily !== "" ? Words.fontFamily : "Fira Sans"
+    // What letters may reach beyond the advance of their text, in points: joined and stacked ones do.
+    readonly property real overhang: Words.fontFamily !== "" ? 8 : 1
     readonly property real titleSize: 20 * textScale
     readonly property real sectionSize: 16 * textScale
     readonly property real timeSize: 20 * textScale

@@ -31,7 +31,8 @@ template <class Offers> void sortOffers(Offers& offers) {
 }
 
 std::string counted(const std::string& before, const std::string& count, Text text, const char* what) {
-    return countFrom(count, what) >= 1 ? before + said(text, {{"count", count}}) : "";
+    const std::int64_t number = countFrom(count, what);
+    return number >= 1 ? before + said(text, {{"count", number}}) : "";
 }
 
 } // namespace

@@ -3,15 +3,19 @@
 #include "offers/CabinClass.h"
 #include "words/Words.h"
 
+#include <charconv>
+
 namespace ombrivane {
 
 std::string shownTravellers(const std::string& text) {
     constexpr std::string_view between = ", ";
     const auto comma = text.find(between);
     if (comma == std::string::npos) return text;
-    return said(
-        Text::travellersAndCabin,
-        {{"count", text.substr(0, comma)}, {"cabin", cabinLabel(text.substr(comma + between.size()))}});
+    std::int64_t count = 0;
+    const char* const end = text.data() + comma;
+    if (std::from_chars(text.data(), end, count).ptr != end) return text;
+    return said(Text::travellersAndCabin,
+                {{"count", count}, {"cabin", cabinLabel(text.substr(comma + between.size()))}});
 }
 
 } // namespace ombrivane

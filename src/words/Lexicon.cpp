@@ -56,7 +56,7 @@ icu::MessagePattern parsed(std::string_view text, UErrorCode& status) {
 
 } // namespace
 
-Lexicon::Lexicon(const std::string& tag) {
+Lexicon::Lexicon(const std::string& tag, std::string locale) : locale_(std::move(locale)) {
     const Catalogue* catalogue = serving(tag);
     if (catalogue != nullptr) {
         language_ = catalogue->language;
@@ -85,7 +85,7 @@ std::string Lexicon::replace(Text text, const std::string& pattern) {
 std::unique_ptr<icu::MessageFormat> Lexicon::read(const std::string& pattern) const {
     UErrorCode status = U_ZERO_ERROR;
     return std::make_unique<icu::MessageFormat>(
-        icu::UnicodeString::fromUTF8(pattern), icu::Locale(language_.c_str()), status);
+        icu::UnicodeString::fromUTF8(pattern), icu::Locale(locale_.c_str()), status);
 }
 
 std::string Lexicon::filled(const icu::MessageFormat& format, const std::vector<Place>& places) const {

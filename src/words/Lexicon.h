@@ -19,7 +19,8 @@ class Lexicon {
 public:
     /// Of the translation that serves `tag`, a BCP 47 tag: its own or that of its language; English where
     /// none does.
-    explicit Lexicon(const std::string& tag);
+    /// @param locale the ICU locale by which numbers in its sentences are written
+    explicit Lexicon(const std::string& tag, std::string locale = "en");
 
     /// Puts `pattern` in the place of a text.
     /// @return why it cannot be read, or which of its places the text does not have; empty when it was taken
@@ -38,6 +39,7 @@ private:
     std::string filled(const icu::MessageFormat& format, const std::vector<Place>& places) const;
 
     std::string language_ = "en";
+    const std::string locale_;
     bool rightToLeft_ = false;
     std::array<std::string, wordings.size()> patterns_;
     mutable std::mutex mutex_; ///< guards the formats, also while one is used

@@ -22,10 +22,22 @@ icu::Locale localeOf(const std::optional<std::string>& tag) {
     return icu::Locale::forLanguageTag(*tag, status);
 }
 
+/// By which numbers and dates are shown.
+std::string shownLocale(const std::optional<std::string>& language,
+                        const std::optional<std::string>& region) {
+    if (!language && !region) return platform().localization->locale();
+    const icu::Locale locale = localeOf(language);
+    if (!region) return locale.getName();
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Locale there = icu::LocaleBuilder().setLocale(locale).setRegion(*region).build(status);
+    return U_FAILURE(status) ? locale.getName() : there.getName();
+}
+
 std::shared_ptr<Lexicon> lexiconOf(const LanguageChoice& choice) {
     if (!choice.language) return std::make_shared<Lexicon>("en");
     return std::make_shared<Lexicon>(*choice.language == ofDevice ? platform().localization->locale()
-                                                                  : *choice.language);
+                                                                  : *choice.language,
+                                     shownLocale(choice.language, choice.region));
 }
 
 } // namespace
@@ -73,12 +85,7 @@ std::string Words::locale() const {
         language = choice_.language;
         region = choice_.region;
     }
-    if (!language && !region) return platform().localization->locale();
-    const icu::Locale locale = localeOf(language);
-    if (!region) return locale.getName();
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::Locale there = icu::LocaleBuilder().setLocale(locale).setRegion(*region).build(status);
-    return U_FAILURE(status) ? locale.getName() : there.getName();
+    return shownLocale(language, region);
 }
 
 bool Words::isChosen() const {

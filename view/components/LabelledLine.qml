@@ -42,7 +42,7 @@ Item {
         id: given
         anchors.right: parent.right
         y: line.stacked ? line.height - height : (line.height - height) / 2
-        width: Math.min(Math.ceil(naturalValue.advanceWidth) + 1, line.width - line.indent)
+        width: Math.min(Math.ceil(naturalValue.advanceWidth) + Theme.overhang, line.width - line.indent)
         text: line.value
         awaited: line.awaited
         horizontalAlignment: Text.AlignRight

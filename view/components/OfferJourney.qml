@@ -49,6 +49,7 @@ Column {
             y: item.narrow ? airline.height + 4 : Math.round((parent.height - height) / 2)
             visible: text !== ""
             width: Math.ceil(implicitWidth)
+            horizontalAlignment: item.narrow ? Text.AlignLeft : Text.AlignRight
             wrapMode: Text.NoWrap
             color: Theme.primaryColor
             font.pixelSize: Theme.priceSize

@@ -12,7 +12,7 @@ T.AbstractButton {
     readonly property real spared: iconName !== "" ? 58 : 32
 
     implicitHeight: Math.max(Theme.target, label.implicitHeight + 12)
-    implicitWidth: Math.ceil(natural.advanceWidth) + 1 + spared
+    implicitWidth: Math.ceil(natural.advanceWidth) + Theme.overhang + spared
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: text
@@ -40,7 +40,7 @@ T.AbstractButton {
             }
             PlainText {
                 id: label
-                width: Math.min(Math.ceil(natural.advanceWidth) + 1, button.width - button.spared + 16)
+                width: Math.min(Math.ceil(natural.advanceWidth) + Theme.overhang, button.width - button.spared + 16)
                 anchors.verticalCenter: parent.verticalCenter
                 text: button.text
                 color: button.chosen ? Theme.secondaryTextColor : Theme.blackColor

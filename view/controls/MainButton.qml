@@ -13,7 +13,7 @@ T.AbstractButton {
     readonly property color content: quiet ? Theme.primaryColor : Theme.primaryTextColor
 
     implicitHeight: Math.max(Theme.fieldHeight, label.implicitHeight + 16)
-    implicitWidth: Math.ceil(natural.advanceWidth) + 1 + spared
+    implicitWidth: Math.ceil(natural.advanceWidth) + Theme.overhang + spared
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: text
@@ -40,7 +40,7 @@ T.AbstractButton {
             }
             PlainText {
                 id: label
-                width: Math.min(Math.ceil(natural.advanceWidth) + 1, button.width - button.spared + 24)
+                width: Math.min(Math.ceil(natural.advanceWidth) + Theme.overhang, button.width - button.spared + 24)
                 horizontalAlignment: Text.AlignHCenter
                 anchors.verticalCenter: parent.verticalCenter
                 text: button.text

@@ -5,6 +5,8 @@ import Ombrivane
 Text {
     // The distance of lines. The toolkit puts what it adds below each line; the paddings share it out evenly.
     property real spread: 1.35
+    // Families of the device have taller lines of their own.
+    readonly property real distance: Words.fontFamily !== "" ? Math.min(spread, 1.05) : spread
 
     // Its words are samples of what is not there yet: they give a shape its size and are told to nobody.
     property bool awaited: false
@@ -13,8 +15,8 @@ Text {
     color: Theme.blackColor
     font.family: Theme.fontFamily
     font.pixelSize: Theme.bodySize
-    lineHeight: spread
-    topPadding: (spread - 1) * 0.6 * font.pixelSize
+    lineHeight: distance
+    topPadding: (distance - 1) * 0.6 * font.pixelSize
     bottomPadding: -topPadding
     wrapMode: Text.Wrap
     // Of the page, not of the letters: what is said mirrors with everything else.
