@@ -1,6 +1,7 @@
 #include "platform/CurlNetwork.h"
 
 #include "platform/CurlTransfer.h"
+#include "platform/StandingConnections.h"
 
 #include <limits>
 #include <map>
@@ -17,6 +18,8 @@ public:
         // Connections that are kept for the next picture; without a word, libcurl keeps more of them the more
         // transfers there were.
         curl_multi_setopt(multi_.get(), CURLMOPT_MAXCONNECTS, static_cast<long>(limits::pictureTransfers));
+        // A connection that follows another takes up its TLS session: half of a request's processor time.
+        curl_share_setopt(sessions_.get(), CURLSHOPT_SHARE, CURL_LOCK_DATA_SSL_SESSION);
         thread_ = std::thread([this] { run(); });
     }
 
@@ -37,6 +40,14 @@ public:
         curl_multi_wakeup(multi_.get());
     }
 
+    void expect(const std::string& url) {
+        {
+            const std::lock_guard lock(mutex_);
+            expected_ = url;
+        }
+        curl_multi_wakeup(multi_.get());
+    }
+
 private:
     using Transfers = std::vector<std::unique_ptr<CurlTransfer>>;
 
@@ -50,35 +61,58 @@ private:
         return stopping_;
     }
 
-    void startArrived() {
-        for (auto& transfer : takeArrived()) {
-            CURL* handle = transfer->handle();
-            if (curl_multi_add_handle(multi_.get(), handle) == CURLM_OK)
-                running_.emplace(handle, std::move(transfer));
-            else
-                transfer->complete(CURLE_FAILED_INIT);
+    void start(std::unique_ptr<CurlTransfer> transfer) {
+        CURL* handle = transfer->handle();
+        curl_easy_setopt(handle, CURLOPT_SHARE, sessions_.get());
+        if (curl_multi_add_handle(multi_.get(), handle) == CURLM_OK)
+            running_.emplace(handle, std::move(transfer));
+        else
+            transfer->complete(CURLE_FAILED_INIT);
+    }
+
+    void startAll(Transfers arrived) {
+        for (auto& transfer : arrived) {
+            if (transfer->isIsolated()) transfer->useConnection(standing_.take(transfer->url()));
+            start(std::move(transfer));
         }
     }
 
-    void finishDone() {
+    void openExpected() {
+        std::string url;
+        {
+            const std::lock_guard lock(mutex_);
+            url = std::exchange(expected_, {});
+        }
+        if (!url.empty()) standing_.open(url);
+        standing_.closeOld();
+    }
+
+    void advance() {
         int left = 0;
+        curl_multi_perform(multi_.get(), &left);
         while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
             if (message->msg != CURLMSG_DONE) continue;
             const CURLcode result = message->data.result;
+            if (standing_.opened(message->easy_handle, result)) continue;
             auto finished = running_.extract(message->easy_handle);
             curl_multi_remove_handle(multi_.get(), finished.key());
-            finished.mapped()->complete(result);
+            if (finished.mapped()->canStartAfresh(result))
+                start(std::move(finished.mapped()));
+            else
+                finished.mapped()->complete(result);
         }
     }
 
     void run() {
         while (!isStopping()) {
-            startArrived();
-            int active = 0;
-            curl_multi_perform(multi_.get(), &active);
-            finishDone();
-            // libcurl wakes up for what it waits for itself; whether an answer is silent is looked at here.
-            const int pause = running_.empty() ? std::numeric_limits<int>::max() : 1000;
+            auto arrived = takeArrived();
+            openExpected();
+            advance(); // what has connected before a transfer arrived can be taken by it
+            startAll(std::move(arrived));
+            advance();
+            // libcurl wakes up for what it waits for itself; whether an answer is silent, and whether a
+            // connection has stood too long, is looked at here.
+            const int pause = running_.empty() && standing_.empty() ? std::numeric_limits<int>::max() : 1000;
             curl_multi_poll(multi_.get(), nullptr, 0, pause, nullptr);
         }
         for (auto& [handle, transfer] : running_) {
@@ -96,9 +130,17 @@ private:
         void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
     };
 
+    struct FreeShare {
+        void operator()(CURLSH* share) const { curl_share_cleanup(share); }
+    };
+
+    /// Without locks: transfers join and leave it on the network's thread.
+    std::unique_ptr<CURLSH, FreeShare> sessions_{curl_share_init()};
     std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
+    StandingConnections standing_{multi_.get()};
     std::mutex mutex_;
     Transfers arrived_;
+    std::string expected_; ///< the address of a request that is likely soon; empty for none
     std::map<CURL*, std::unique_ptr<CurlTransfer>> running_;
     bool stopping_ = false;
     std::thread thread_;
@@ -113,6 +155,10 @@ void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
     auto transfer = std::make_unique<CurlTransfer>(std::move(request), std::move(completion), settings_);
     transfer->isolate();
     worker_->add(std::move(transfer));
+}
+
+void CurlNetwork::expect(const std::string& url) {
+    if (settings_.proxy.empty()) worker_->expect(url); // a proxy's connections are the proxy's to open
 }
 
 void CurlNetwork::fetchPicture(const std::string& url, HttpCompletion completion) {

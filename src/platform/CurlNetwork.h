@@ -12,8 +12,9 @@ namespace ombrivane {
 /// The network by libcurl: one thread, one handle per request.
 ///
 /// A request of the service gets a connection of its own that is closed after it, so nothing is ever sent
-/// twice. The platform's trust store decides over certificates, or the file that a developer names. The
-/// environment has no say: no proxy, no key log and no older TLS comes from there.
+/// twice. The connection of an expected one is opened ahead, and takes up the TLS session of one before it.
+/// The platform's trust store decides over certificates, or the file that a developer names. The environment
+/// has no say: no proxy, no key log and no older TLS comes from there.
 class OMBRIVANE_API CurlNetwork final : public Network {
 public:
     /// Starts the network's thread.
@@ -21,6 +22,7 @@ public:
     ~CurlNetwork() override;
 
     void send(HttpRequest request, HttpCompletion completion) override;
+    void expect(const std::string& url) override;
     void fetchPicture(const std::string& url, HttpCompletion completion) override;
 
 private:

@@ -4,6 +4,11 @@
 #include "base/ErrorDomains.h"
 #include "platform/TlsRules.h"
 
+#include <utility>
+
+#include <sys/socket.h>
+#include <unistd.h>
+
 namespace ombrivane {
 namespace {
 
@@ -83,6 +88,10 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const
     set(curl, CURLOPT_HEADERDATA, this);
 }
 
+CurlTransfer::~CurlTransfer() {
+    if (connected_ >= 0) ::close(connected_);
+}
+
 void CurlTransfer::carryBody() {
     if (request_.body) request_.pieces.push_back(std::move(*request_.body));
     curl_off_t size = 0;
@@ -112,11 +121,42 @@ std::size_t CurlTransfer::give(char* room, std::size_t size, std::size_t count, 
 }
 
 void CurlTransfer::isolate() {
+    isolated_ = true;
     // A stream of HTTP/2 that the server refuses is sent again by libcurl itself, read or not.
     set(handle(), CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     set(handle(), CURLOPT_FRESH_CONNECT, 1L);
     set(handle(), CURLOPT_FORBID_REUSE, 1L);
     set(handle(), CURLOPT_FOLLOWLOCATION, 0L);
+}
+
+void CurlTransfer::useConnection(int socket) {
+    if (socket < 0) return;
+    connected_ = socket;
+    set(handle(), CURLOPT_OPENSOCKETFUNCTION, &CurlTransfer::openSocket);
+    set(handle(), CURLOPT_OPENSOCKETDATA, this);
+    set(handle(), CURLOPT_SOCKOPTFUNCTION, &CurlTransfer::adoptSocket);
+    set(handle(), CURLOPT_SOCKOPTDATA, this);
+}
+
+bool CurlTransfer::canStartAfresh(CURLcode result) {
+    if (std::exchange(adopted_, -1) < 0) return false;
+    if (result != CURLE_SSL_CONNECT_ERROR && result != CURLE_RECV_ERROR && result != CURLE_SEND_ERROR)
+        return false;
+    curl_off_t secured = 0;
+    curl_easy_getinfo(handle(), CURLINFO_APPCONNECT_TIME_T, &secured);
+    return secured == 0;
+}
+
+curl_socket_t CurlTransfer::openSocket(void* self, curlsocktype /*purpose*/, curl_sockaddr* address) {
+    auto& transfer = *static_cast<CurlTransfer*>(self);
+    if (transfer.connected_ < 0) return ::socket(address->family, address->socktype, address->protocol);
+    transfer.adopted_ = transfer.connected_;
+    return std::exchange(transfer.connected_, -1);
+}
+
+int CurlTransfer::adoptSocket(void* self, curl_socket_t socket, curlsocktype /*purpose*/) {
+    return socket == static_cast<CurlTransfer*>(self)->adopted_ ? CURL_SOCKOPT_ALREADY_CONNECTED
+                                                                : CURL_SOCKOPT_OK;
 }
 
 void CurlTransfer::shareConnections() {

@@ -17,11 +17,22 @@ public:
     CurlTransfer(HttpRequest request, HttpCompletion completion, const CurlSettings& settings);
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
+    ~CurlTransfer();
 
     CURL* handle() const { return handle_.get(); }
 
+    /// Where it goes.
+    const std::string& url() const { return request_.url; }
+
     /// A connection of its own, closed afterwards, over HTTP/1.1; no redirect.
     void isolate();
+    /// Whether its connection is to be its own.
+    bool isIsolated() const { return isolated_; }
+    /// Goes out over a connected `socket`, which becomes its own; without a socket (-1) it connects.
+    void useConnection(int socket);
+    /// Whether a connection that was opened ahead turned out to be dead before TLS stood on it: nothing has
+    /// been said to the server, and the transfer can be started once more over a new one.
+    bool canStartAfresh(CURLcode result);
     /// Connections are shared; a redirect is followed a few times, over HTTPS only.
     void shareConnections();
 
@@ -46,6 +57,9 @@ private:
     /// burst for a sign of life and a very slow answer for silence.
     static int watch(void* self, curl_off_t toReceive, curl_off_t received, curl_off_t toSend,
                      curl_off_t sent);
+    /// Hands libcurl the connected socket in place of the first one that it wants to open.
+    static curl_socket_t openSocket(void* self, curlsocktype purpose, curl_sockaddr* address);
+    static int adoptSocket(void* self, curl_socket_t socket, curlsocktype purpose);
     void fail(int code, const std::string& text, const std::string& developerText = "");
 
     HttpRequest request_;
@@ -54,6 +68,9 @@ private:
     std::unique_ptr<curl_slist, Free> headers_;
     std::size_t piece_ = 0;  ///< that is being sent
     std::size_t offset_ = 0; ///< within it
+    bool isolated_ = false;
+    int connected_ = -1; ///< a socket that libcurl has not asked for yet
+    int adopted_ = -1;   ///< the same afterwards; libcurl's own
     std::string received_;
     std::size_t headerBytes_ = 0;
     std::string tooLarge_; ///< what is larger than its limit

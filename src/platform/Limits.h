@@ -40,6 +40,11 @@ inline constexpr std::size_t htmlBytes = mebibyte;
 inline constexpr std::size_t shownBytes = 4000;
 /// Pictures that are fetched at a time.
 inline constexpr std::size_t pictureTransfers = 6;
+/// Connections that stand ready for a request that is likely soon.
+inline constexpr std::size_t standingConnections = 2;
+/// How long one stands that nobody takes: customers take seconds from a screen to its button, and what is
+/// older may be gone in some middle box without a word.
+inline constexpr std::chrono::seconds standing{20};
 /// The longest silence of a connection; what is no part of a body is silence.
 inline constexpr std::chrono::seconds idle{60};
 /// A request in all.

@@ -14,9 +14,13 @@ public:
     Network& operator=(const Network&) = delete;
     virtual ~Network() = default;
 
-    /// Sends `request` once, on a fresh connection that is not used again. No redirect is followed; the
+    /// Sends `request` once, on a connection of its own that is not used again. No redirect is followed; the
     /// server's certificate must be trusted and name the host. Any thread.
     virtual void send(HttpRequest request, HttpCompletion completion) = 0;
+
+    /// A request to the host of `url` is likely within seconds: a network may open a connection for it, on
+    /// which it sends nothing. Any thread.
+    virtual void expect(const std::string& /*url*/) {}
 
     /// Fetches a picture at `url` over the shared session: neither token nor cookie goes out. An answer
     /// larger than the limit for pictures is an error. Any thread.

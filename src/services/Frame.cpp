@@ -51,6 +51,12 @@ void reportFailedCall(std::string_view endpoint, const std::optional<Error>& err
     platform().diagnostics->callFailed({endpoint, told.domain, told.code, told.developerDescription});
 }
 
+void expectCall() {
+    if (!platform().network) return;
+    const std::string url = Endpoints::shared().address("");
+    if (isUrl(url)) platform().network->expect(url);
+}
+
 void detail::perform(const ServiceCall& call, HttpCompletion answered) {
     // A host that ends its network is as good as offline.
     if (!platform().network || !Reachability::isConnectedToNetwork()) {
@@ -62,6 +68,7 @@ void detail::perform(const ServiceCall& call, HttpCompletion answered) {
     auto failure = attempted([&] { request = requestFor(call, std::move(url)); });
     if (failure) return answered(failed(*std::move(failure)));
     platform().network->send(std::move(request), std::move(answered));
+    expectCall(); // a key typed follows another, an upload its reservation
 }
 
 std::optional<Error> detail::readAnswer(HttpAnswer answer, const std::string& failureDomain,

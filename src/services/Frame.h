@@ -37,6 +37,10 @@ struct ServiceCall {
 /// @param error absent where the network had neither an answer nor an error
 void reportFailedCall(std::string_view endpoint, const std::optional<Error>& error);
 
+/// A screen has come up whose control may send a call: the connection for it is opened while the customer is
+/// still at it. Each call that is sent expects the one after it by itself. Main thread.
+void expectCall();
+
 namespace detail {
 
 /// Goes through the frame: the online check, the address, the request. `answered` hears of the answer on a

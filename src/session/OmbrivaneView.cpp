@@ -1,6 +1,7 @@
 #include "session/OmbrivaneView.h"
 
 #include "keyed/Navigator.h"
+#include "services/Frame.h"
 #include "session/EntryView.h"
 #include "state/AppState.h"
 
@@ -18,6 +19,7 @@ struct OmbrivaneView::Parts {
         const auto leaving = std::exchange(entry, nullptr);
         if (!leaving) return;
         const bool ownsFlags = leaving->drop();
+        screens = {};
         navigator.reset();
         if (ownsFlags) AppState::shared().resetNavigation();
     }
@@ -27,6 +29,7 @@ struct OmbrivaneView::Parts {
     Dismissal dismissal;
     std::shared_ptr<EntryView> entry; ///< while it is shown
     std::unique_ptr<Navigator> navigator;
+    Subscription screens; ///< to what comes into view
 };
 
 OmbrivaneView::OmbrivaneView(std::string clientId, std::string clientSecret,
@@ -55,6 +58,7 @@ void OmbrivaneView::show() {
     parts_->entry = std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal);
     parts_->navigator = std::make_unique<Navigator>(parts_->entry);
     parts_->navigator->start();
+    parts_->screens = parts_->navigator->observe(expectCall);
 }
 
 Navigator* OmbrivaneView::navigator() const { return parts_->navigator.get(); }

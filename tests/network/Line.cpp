@@ -54,4 +54,10 @@ bool Line::serverHasRead(std::size_t count) const {
     return server_.requests().size() == count;
 }
 
+bool Line::serverHasAccepted(std::size_t count) const {
+    for (int i = 0; i < 1000 && server_.counters().connections < count; ++i)
+        std::this_thread::sleep_for(milliseconds(10));
+    return server_.counters().connections == count;
+}
+
 } // namespace ombrivane::network

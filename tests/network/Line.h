@@ -62,6 +62,8 @@ public:
     HttpAnswer fetchPicture(const std::string& path);
     /// Waits until the server has read `count` requests; tells whether it has.
     bool serverHasRead(std::size_t count) const;
+    /// Waits until the server has accepted `count` connections; tells whether it has.
+    bool serverHasAccepted(std::size_t count) const;
 
 private:
     sandbox::Sandbox server_;
