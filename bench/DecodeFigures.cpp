@@ -10,6 +10,8 @@
 
 #include <array>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace ombrivane::bench {
 namespace {
@@ -40,7 +42,7 @@ Timed decoding(const std::string& answer, OneWayOffers& offers) {
     return {[&answer, &offers] { offers = pipeline(answer); }, [] {}, [&offers] { offers.clear(); }};
 }
 
-void addComparisons(std::vector<Figure>& figures, const std::string& answer) {
+void addComparisons(std::vector<Figure>& figures, const std::string& name, const std::string& answer) {
     simdjson::dom::parser parser;
     const simdjson::padded_string padded(answer);
     OneWayOffers offers;
@@ -48,23 +50,23 @@ void addComparisons(std::vector<Figure>& figures, const std::string& answer) {
     const Timed baseline{[&] { others = doublePass(answer); }, [] {}, [&others] { others.clear(); }};
     const auto medians =
         interleavedMedians({bareParse(parser, padded), decoding(answer, offers), baseline}, rounds);
-    figures.push_back({"decode.parse_ms", medians[0] * 1e3});
-    figures.push_back({"decode.pipeline_ms", medians[1] * 1e3});
-    figures.push_back({"decode.double_pass_ms", medians[2] * 1e3});
-    figures.push_back({"decode.vs_parse", medians[1] / medians[0]});
-    figures.push_back({"decode.vs_double_pass", medians[2] / medians[1]});
+    figures.push_back({name + ".parse_ms", medians[0] * 1e3});
+    figures.push_back({name + ".pipeline_ms", medians[1] * 1e3});
+    figures.push_back({name + ".double_pass_ms", medians[2] * 1e3});
+    figures.push_back({name + ".vs_parse", medians[1] / medians[0]});
+    figures.push_back({name + ".vs_double_pass", medians[2] / medians[1]});
 }
 
-void addMemory(std::vector<Figure>& figures, const std::string& answer) {
+void addMemory(std::vector<Figure>& figures, const std::string& name, const std::string& answer) {
     const HeapMeter meter;
     const OneWayOffers offers = pipeline(answer);
     const auto held = static_cast<double>(meter.held());
-    figures.push_back({"decode.bytes_per_json_byte", held / static_cast<double>(answer.size())});
+    figures.push_back({name + ".bytes_per_json_byte", held / static_cast<double>(answer.size())});
 }
 
 /// The cost per offer by the length of the list. Every sample decodes as many offers, so that none pays for
 /// another's memory.
-void addGrowth(std::vector<Figure>& figures) {
+void addGrowth(std::vector<Figure>& figures, const std::string& name) {
     constexpr std::array<std::size_t, 4> lengths{10, 100, 1'000, 10'000};
     constexpr std::size_t sample = lengths.back();
     std::array<std::string, lengths.size()> answers;
@@ -79,20 +81,33 @@ void addGrowth(std::vector<Figure>& figures) {
     const auto medians = interleavedMedians(works, growthRounds);
     for (std::size_t i = 0; i < lengths.size(); ++i) {
         const double cost = medians[i] * 1e6 / static_cast<double>(sample);
-        figures.push_back({fmt::format("decode.us_per_offer_{}", lengths[i]), cost});
+        figures.push_back({fmt::format("{}.us_per_offer_{}", name, lengths[i]), cost});
     }
-    figures.push_back({"decode.growth", medians.back() / medians.front()});
+    figures.push_back({name + ".growth", medians.back() / medians.front()});
 }
 
 } // namespace
 
 std::vector<Figure> decodeFigures() {
-    const std::string answer = searchAnswer(1'000);
-    requireSameRecords(pipeline(answer), doublePass(answer));
-    std::vector<Figure> figures{{"decode.json_mb", static_cast<double>(answer.size()) / 1e6}};
-    addComparisons(figures, answer);
-    addMemory(figures, answer);
-    addGrowth(figures);
+    // The instructions that simdjson has chosen or was told to use.
+    const std::string instructions = "decode." + simdjson::get_active_implementation()->name();
+    const std::string full = searchAnswer(1'000);
+    const double begin = processorSeconds();
+    pipeline(full);
+    const double first = processorSeconds() - begin;
+
+    std::vector<Figure> figures;
+    for (const auto& [shape, answer] : {std::pair{"full", full}, std::pair{"sparse", sparseAnswer(1'000)}}) {
+        requireSameRecords(pipeline(answer), doublePass(answer));
+        const std::string name = instructions + "." + shape;
+        figures.push_back({name + ".json_mb", static_cast<double>(answer.size()) / 1e6});
+        addComparisons(figures, name, answer);
+        addMemory(figures, name, answer);
+    }
+    OneWayOffers offers;
+    const double warm = interleavedMedians({decoding(full, offers)}, rounds).front();
+    figures.push_back({instructions + ".first_over_warm", first / warm});
+    addGrowth(figures, instructions);
     return figures;
 }
 

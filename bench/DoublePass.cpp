@@ -22,9 +22,14 @@ template <TaggedScalar Value> void read(const Tree& json, Value& value) {
 }
 
 template <WireRecord Record> void read(const Tree& json, Record& record);
+template <class Value> void read(const Tree& json, Boxed<Value>& value);
 template <class Value> void read(const Tree& json, std::vector<Value>& values);
 
 template <class Value> void read(const Tree& json, std::optional<Value>& value) {
+    if (!json.is_null()) read(json, value.emplace());
+}
+
+template <class Value> void read(const Tree& json, Boxed<Value>& value) {
     if (!json.is_null()) read(json, value.emplace());
 }
 
@@ -36,6 +41,7 @@ template <class Value> void read(const Tree& json, std::vector<Value>& values) {
 
 template <class Value> constexpr bool isOptional = false;
 template <class Value> constexpr bool isOptional<std::optional<Value>> = true;
+template <class Value> constexpr bool isOptional<Boxed<Value>> = true;
 
 template <WireRecord Record> void read(const Tree& json, Record& record) {
     forEachField(record, [&json](std::string_view key, auto& value) {

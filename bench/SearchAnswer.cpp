@@ -6,7 +6,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <random>
+#include <set>
 #include <string_view>
 
 namespace ombrivane::bench {
@@ -244,16 +246,61 @@ private:
     const Carrier* carrier_ = nullptr;
 };
 
-} // namespace
+/// Takes the keys that a record may lack out of a tree, at every depth.
+void thinOut(Json& tree) {
+    static const std::set<std::string, std::less<>> optional{"FlightId",
+                                                             "FreeBaggage",
+                                                             "FlightNo",
+                                                             "airAirAvailInfo",
+                                                             "airCodeshareInfo",
+                                                             "airFlightDetailsRef",
+                                                             "booking_class",
+                                                             "carrierCodeMarketing",
+                                                             "carrierCodeMarketingName",
+                                                             "departure_terminal",
+                                                             "destination_terminal",
+                                                             "equipmentType",
+                                                             "fareKey",
+                                                             "fares",
+                                                             "journeyKey",
+                                                             "meal_code",
+                                                             "rph",
+                                                             "segment_details",
+                                                             "timeOfArrivalSystem",
+                                                             "timeOfDepartureSystem"};
+    for (auto member = tree.begin(); member != tree.end();) {
+        if (tree.is_object() && optional.contains(member.key())) {
+            member = tree.erase(member);
+            continue;
+        }
+        if (member->is_structured()) thinOut(*member);
+        if (member->is_string() && member->get_ref<const std::string&>().ends_with("Airport"))
+            *member = member->get<std::string>() + " \u2013 Aéroport";
+        ++member;
+    }
+}
 
-std::string searchAnswer(std::size_t offers) {
+template <class Write> std::string answerOf(std::size_t offers, const Write& write) {
     OfferWriter writer;
     std::string answer = R"({"success":true,"data":[)";
     for (std::size_t i = 0; i < offers; ++i) {
         if (i > 0) answer += ',';
-        answer += writer.offer(i).dump();
+        answer += write(writer.offer(i));
     }
     return answer + "]}";
+}
+
+} // namespace
+
+std::string searchAnswer(std::size_t offers) {
+    return answerOf(offers, [](const Json& offer) { return offer.dump(); });
+}
+
+std::string sparseAnswer(std::size_t offers) {
+    return answerOf(offers, [](Json offer) {
+        thinOut(offer);
+        return offer.dump(2, ' ', true);
+    });
 }
 
 } // namespace ombrivane::bench

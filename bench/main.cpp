@@ -62,11 +62,9 @@ BENCHMARK(decode)->RangeMultiplier(10)->Range(10, 10'000)->Unit(benchmark::kMicr
 BENCHMARK(doublePass)->RangeMultiplier(10)->Range(10, 1'000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(sort)->RangeMultiplier(10)->Range(10, 10'000)->Unit(benchmark::kMicrosecond);
 
-int printSummary() {
-    for (const auto& figures : {bench::decodeFigures(), bench::searchFigures()}) {
-        for (const bench::Figure& figure : figures)
-            fmt::print("{} {:.4g}\n", figure.name, figure.value);
-    }
+int print(const std::vector<bench::Figure>& figures) {
+    for (const bench::Figure& figure : figures)
+        fmt::print("{} {:.4g}\n", figure.name, figure.value);
     return 0;
 }
 
@@ -78,7 +76,9 @@ int main(int count, char** arguments) {
         ports.clock = std::make_shared<AdjustableClock>();
         ports.localization = std::make_shared<SystemLocalization>();
         Platform::install(std::move(ports));
-        if (count == 2 && std::string_view(arguments[1]) == "--summary") return printSummary();
+        const std::string_view asked = count == 2 ? arguments[1] : "";
+        if (asked == "--decode") return print(bench::decodeFigures());
+        if (asked == "--lists") return print(bench::searchFigures());
         benchmark::Initialize(&count, arguments);
         if (benchmark::ReportUnrecognizedArguments(count, arguments)) return 2;
         benchmark::RunSpecifiedBenchmarks();

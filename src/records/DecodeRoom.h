@@ -22,6 +22,8 @@ public:
         checkCount(count);
         take(count * size);
     }
+    /// A record of `size` bytes that takes memory of its own.
+    void takeRecord(std::size_t size) { take(size + overhead); }
     /// A text, which takes memory of its own when it is long.
     void takeText(std::size_t length) {
         if (length >= shortText) take(length + overhead);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Boxed.h"
 #include "base/Uuid.h"
 #include "records/DecodeError.h"
 #include "records/DecodeRoom.h"
@@ -7,6 +8,7 @@
 
 #include <simdjson.h>
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -104,6 +106,14 @@ template <class T> struct Decoder<std::optional<T>> {
     }
 };
 
+template <class T> struct Decoder<Boxed<T>> {
+    static void decode(const JsonElement& json, Boxed<T>& value, DecodeRoom& room) {
+        if (json.is_null()) return value.reset();
+        room.takeRecord(sizeof(T));
+        Decoder<T>::decode(json, value.emplace(), room);
+    }
+};
+
 template <class T> struct Decoder<std::vector<T>> {
     static void decode(const JsonElement& json, std::vector<T>& values, DecodeRoom& room) {
         simdjson::dom::array array;
@@ -124,48 +134,58 @@ template <class T> struct Decoder<std::vector<T>> {
 
 template <class T> constexpr bool isOptional = false;
 template <class T> constexpr bool isOptional<std::optional<T>> = true;
+template <class T> constexpr bool isOptional<Boxed<T>> = true;
 
 template <WireRecord T> struct Decoder<T> {
     static void decode(const JsonElement& json, T& record, DecodeRoom& room) {
         simdjson::dom::object object;
         if (json.get(object) != simdjson::SUCCESS) wants("an object");
-        takeAll(object, record, room, std::make_index_sequence<std::tuple_size_v<decltype(T::wire)>>());
+        Walk walk{object, object.begin(), std::nullopt};
+        takeAll(walk, record, room, std::make_index_sequence<rows>());
     }
 
 private:
     using Iterator = simdjson::dom::object::iterator;
+    static constexpr std::size_t rows = std::tuple_size_v<decltype(T::wire)>;
+    /// Where the member of each row stands; the object's end for a key that is missing.
+    using Places = std::array<Iterator, rows>;
+
+    struct Walk {
+        simdjson::dom::object object;
+        Iterator next;                ///< the member after the one that was taken last
+        std::optional<Places> places; ///< once the keys are not those of the table, one after the other
+    };
 
     template <std::size_t... Row>
-    static void takeAll(const simdjson::dom::object& object, T& record, DecodeRoom& room,
-                        std::index_sequence<Row...> /*all*/) {
-        auto next = object.begin();
-        (take<Row>(object, next, record, room), ...);
+    static void takeAll(Walk& walk, T& record, DecodeRoom& room, std::index_sequence<Row...> /*all*/) {
+        (take<Row>(walk, record, room), ...);
     }
 
     /// Keys usually arrive in the order of the table, so the one that follows is looked at first. One
     /// function for each row: comparing with a key that is known beforehand takes no call.
-    template <std::size_t Row>
-    static void take(const simdjson::dom::object& object, Iterator& next, T& record, DecodeRoom& room) {
+    template <std::size_t Row> static void take(Walk& walk, T& record, DecodeRoom& room) {
         constexpr auto row = std::get<Row>(T::wire);
         auto& value = record.*(row.member);
         using Value = std::decay_t<decltype(value)>;
-        if (!(next != object.end() && isAt(next, row.key))) {
-            const Iterator found = find(object, row.key);
-            if (!(found != object.end())) {
+        const Iterator end = walk.object.end();
+        if (walk.places || !(walk.next != end && isAt(walk.next, row.key))) {
+            if (!walk.places) walk.places = placesIn(walk.object);
+            const Iterator found = (*walk.places)[Row];
+            if (!(found != end)) {
                 if constexpr (isOptional<Value>) return;
                 DecodeError error(notUnderstood, "is missing");
                 error.within(row.key);
                 throw error;
             }
-            next = found;
+            walk.next = found;
         }
         try {
-            Decoder<Value>::decode(next.value(), value, room);
+            Decoder<Value>::decode(walk.next.value(), value, room);
         } catch (DecodeError& error) {
             error.within(row.key);
             throw;
         }
-        ++next;
+        ++walk.next;
     }
 
     static bool isAt(const Iterator& member, std::string_view key) {
@@ -173,11 +193,24 @@ private:
                std::memcmp(member.key_c_str(), key.data(), key.size()) == 0;
     }
 
-    static Iterator find(const simdjson::dom::object& object, std::string_view key) {
-        auto at = object.begin();
-        while (at != object.end() && !isAt(at, key))
-            ++at;
-        return at;
+    /// One pass over the object finds all rows. Each member is looked for from the row on that follows the
+    /// one found last; of two members with one key it is the first.
+    static Places placesIn(const simdjson::dom::object& object) {
+        constexpr auto keys = std::apply(
+            [](const auto&... row) { return std::array<std::string_view, rows>{row.key...}; }, T::wire);
+        Places places;
+        places.fill(object.end());
+        std::size_t expected = 0;
+        for (auto member = object.begin(); member != object.end(); ++member) {
+            for (std::size_t tried = 0; tried < rows; ++tried) {
+                const std::size_t row = (expected + tried) % rows;
+                if (!isAt(member, keys[row])) continue;
+                if (!(places[row] != object.end())) places[row] = member;
+                expected = row + 1;
+                break;
+            }
+        }
+        return places;
     }
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Boxed.h"
 #include "base/Json.h"
 #include "base/Uuid.h"
 #include "records/Wire.h"
@@ -60,6 +61,9 @@ private:
     }
     template <class Value>
     static void add(Json& object, std::string_view key, const std::optional<Value>& value) {
+        if (value) add(object, key, *value);
+    }
+    template <class Value> static void add(Json& object, std::string_view key, const Boxed<Value>& value) {
         if (value) add(object, key, *value);
     }
 };

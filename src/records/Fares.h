@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Boxed.h"
 #include "records/Attributed.h"
 #include "records/Wire.h"
 
@@ -95,9 +96,9 @@ struct ADT {
 
 /// The fares by passenger class, infants before children.
 template <class Fare> struct FaresOf {
-    std::optional<Fare> adt;
-    std::optional<Fare> inf;
-    std::optional<Fare> cnn;
+    Boxed<Fare> adt;
+    Boxed<Fare> inf;
+    Boxed<Fare> cnn;
 
     bool operator==(const FaresOf&) const = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Boxed.h"
 #include "records/Airport.h"
 #include "records/Fares.h"
 #include "records/Segment.h"
@@ -34,7 +35,7 @@ template <class FaresType> struct FlightSummaryOf {
     std::optional<std::string> carrierCodeMarketingName;
     std::vector<Segment> segments;
     std::string totalFlyingHours; ///< as shown
-    std::optional<FaresType> fares;
+    Boxed<FaresType> fares;
 
     bool operator==(const FlightSummaryOf&) const = default;
 

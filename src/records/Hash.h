@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Boxed.h"
 #include "records/Wire.h"
 
 #include <cstddef>
@@ -17,6 +18,7 @@ inline void mix(std::size_t& seed, std::size_t value) {
 // Declared ahead, since an optional holds an array and an array holds optionals.
 template <class T> std::size_t hashOf(const T& value);
 template <class T> std::size_t hashOf(const std::optional<T>& value);
+template <class T> std::size_t hashOf(const Boxed<T>& value);
 template <class T> std::size_t hashOf(const std::vector<T>& values);
 
 template <class T> std::size_t hashOf(const T& value) { return std::hash<T>{}(value); }
@@ -24,6 +26,8 @@ template <class T> std::size_t hashOf(const T& value) { return std::hash<T>{}(va
 template <class T> std::size_t hashOf(const std::optional<T>& value) {
     return value ? hashOf(*value) + 1 : 0;
 }
+
+template <class T> std::size_t hashOf(const Boxed<T>& value) { return value ? hashOf(*value) + 1 : 0; }
 
 template <class T> std::size_t hashOf(const std::vector<T>& values) {
     std::size_t seed = values.size();

@@ -6,7 +6,6 @@
 
 #include <simdjson.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace ombrivane {
@@ -43,18 +42,16 @@ struct JsonAnswer::Parts {
     };
 
     Parts(std::string text, std::string_view list, std::size_t limit) :
-        bytes(std::make_shared<std::string>(std::move(text))), room(limit), listKey(list) {}
+        bytes(std::make_shared<const std::string>(std::move(text))), room(limit), listKey(list) {}
 
     /// Shared with the raw data of elements.
-    std::shared_ptr<std::string> bytes;
+    std::shared_ptr<const std::string> bytes;
     DecodeRoom room;
     JsonParser parser{room};
     std::vector<Member> members;
     std::string listKey;
     std::optional<Elements> elements;
     bool elementsAreRead = false;
-    /// Room for one element, the longest so far.
-    std::string minified;
 
     simdjson::dom::element parse(std::string_view json) {
         const char* const end = bytes->data() + bytes->size();
@@ -137,20 +134,7 @@ JsonAnswer::Elements JsonAnswer::elementsOf(std::string_view element) const {
 
 simdjson::dom::element JsonAnswer::parsed(std::string_view element) const { return parts_->parse(element); }
 
-RawData JsonAnswer::rawData(std::string_view element) const {
-    std::string& minified = parts_->minified;
-    minified.resize(std::max(minified.size(), element.size() + simdjson::SIMDJSON_PADDING));
-    std::size_t length = 0;
-    if (simdjson::minify(element.data(), element.size(), minified.data(), length) != simdjson::SUCCESS) {
-        throw DecodeError(notUnderstood, "is no JSON");
-    }
-    if (length < element.size()) {
-        // What is left over becomes white space, so that it is still the same JSON.
-        char* const start = parts_->bytes->data() + (element.data() - parts_->bytes->data());
-        std::fill(std::copy_n(minified.data(), length, start), start + element.size(), ' ');
-    }
-    return {parts_->bytes, element.substr(0, length)};
-}
+RawData JsonAnswer::rawData(std::string_view element) const { return {parts_->bytes, element}; }
 
 DecodeRoom& JsonAnswer::room() const { return parts_->room; }
 

@@ -46,8 +46,7 @@ public:
     /// The element, good until the next value or element is asked for. @throws DecodeError when it is no JSON
     simdjson::dom::element parsed(std::string_view element) const;
 
-    /// The element without the white space between its tokens, which is taken out where it stands: the
-    /// answer's own bytes are what the offers of a list share.
+    /// The element as it stands in the answer, whose bytes the offers of a list share.
     RawData rawData(std::string_view element) const;
 
     /// Checks the elements of the list when nobody asked for them. @throws DecodeError

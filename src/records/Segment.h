@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Boxed.h"
 #include "records/Airport.h"
 #include "records/Scalars.h"
 #include "records/SegmentDetails.h"
@@ -34,7 +35,7 @@ struct Segment {
     std::optional<std::string> equipmentType;
     std::optional<std::string> rph;
     ConnectionTime connectionTime;
-    std::optional<SegmentDetails> segmentDetails;
+    Boxed<SegmentDetails> segmentDetails;
 
     bool operator==(const Segment&) const = default;
 

@@ -20,7 +20,7 @@ void addRawItinerary(Body& body, const std::optional<RawData>& rawData) {
         body.add("itinerary", nullptr);
         return;
     }
-    const std::string bytes(rawData->bytes());
+    const std::string bytes = rawData->minified();
     try {
         const JsonDocument checked(bytes);
     } catch (const DecodeError& error) {

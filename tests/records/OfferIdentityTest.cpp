@@ -1,4 +1,5 @@
 #include "fakes/TestData.h"
+#include "records/Airport.h"
 #include "records/Decode.h"
 #include "records/FlightSearchOneWay.h"
 #include "records/Hash.h"
@@ -25,6 +26,26 @@ TEST(OfferIdentityTest, RawDataTakesPartInEqualityAndHash) {
     offer.rawData = RawData(others, *others);
     EXPECT_EQ(offer, stored);
     EXPECT_EQ(std::hash<FlightSearchOneWay>{}(offer), std::hash<FlightSearchOneWay>{}(stored));
+}
+
+TEST(KeyOrderTest, KeysInAnyOrderMeanTheSameAndTheFirstOfTwoCounts) {
+    const auto decoded = [](const char* json) {
+        const auto airport = decodeText<Airport>(json);
+        return airport.name + "|" + airport.city + "|" + airport.code + "|" +
+               airport.country.value_or("none");
+    };
+    const struct {
+        const char* json;
+        const char* expected;
+    } rows[] = {
+        {R"({"name":"n","city":"c","code":"k","country":"l"})", "n|c|k|l"},
+        {R"({"country":"l","code":"k","city":"c","name":"n"})", "n|c|k|l"},
+        {R"({"x":{"name":"other"},"code":"k","name":"n","y":[],"city":"c"})", "n|c|k|none"},
+        {R"({"name":"n","name":"again","city":"c","code":"k","city":"again"})", "n|c|k|none"},
+        {R"({"code":"k","name":"n","city":"c","code":"again","country":"l","country":"again"})", "n|c|k|l"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(decoded(row.json), row.expected) << row.json;
 }
 
 TEST(UniquePassangerTest, SlotsRunOverAdultsChildrenAndInfants) {

@@ -46,7 +46,7 @@ TEST_F(ItineraryTest, RawDataThatIsNoObjectGoesOutAsNull) {
         {"null", "null", {failed}},
         {"{\"a\":", "null", {wrong}},
         {"", "null", {wrong}},
-        {R"({"a":1.50})", R"({"a":1.50})", {R"(Converted back to JSON: {"a":1.50})"}},
+        {R"( { "a" : 1.50 } )", R"({"a":1.50})", {R"(Converted back to JSON: {"a":1.50})"}},
     };
     for (const auto& row : rows) {
         world.diagnostics->lines.clear();
