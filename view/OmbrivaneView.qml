@@ -14,6 +14,10 @@ FocusScope {
     property alias language: session.language
     property alias region: session.region
     property alias texts: session.texts
+    property alias supportMobile: session.supportMobile
+    property alias supportViber: session.supportViber
+    property alias supportWhatsapp: session.supportWhatsapp
+    property alias supportLandLine: session.supportLandLine
     property alias session: session
     property bool dark: false
     property real textScale: 1

@@ -12,6 +12,12 @@ constexpr int tapsForVersion = 5;
 /// Taps that lie further apart are no gesture.
 constexpr std::chrono::milliseconds gestureGap{1000};
 
+/// A number as links carry it: without blanks, brackets and dashes.
+std::string digitsOf(std::string number) {
+    std::erase_if(number, [](char character) { return character < '0' || character > '9'; });
+    return number;
+}
+
 } // namespace
 
 void FooterView::countTap() {
@@ -22,11 +28,27 @@ void FooterView::countTap() {
     forget_ = mainQueue().after(gestureGap, [this] { taps_ = 0; });
 }
 
-std::string FooterView::dialled(const Constant& number) {
-    std::string text = number.get();
-    std::erase(text, ' ');
-    return text;
+std::string FooterView::viberNumber() {
+    const auto& contacts = SupportContacts::current();
+    return contacts.viber.value_or(contacts.mobile);
 }
+
+std::string FooterView::whatsappNumber() {
+    const auto& contacts = SupportContacts::current();
+    return contacts.whatsapp.value_or(contacts.mobile);
+}
+
+void FooterView::call(const std::string& number) {
+    open((number.starts_with('+') ? "tel:+" : "tel:") + digitsOf(number));
+}
+
+void FooterView::writeByViber() {
+    const std::string number = viberNumber();
+    open((number.starts_with('+') ? "viber://contact?number=%2B" : "viber://contact?number=") +
+         digitsOf(number));
+}
+
+void FooterView::writeByWhatsapp() { open("whatsapp://send?phone=" + digitsOf(whatsappNumber())); }
 
 void FooterView::open(const std::string& url) {
     if (isUrl(url)) platform().urls->openUrl(url);

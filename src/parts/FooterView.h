@@ -1,10 +1,11 @@
 #pragma once
 
 #include "keyed/Action.h"
-#include "keyed/Constant.h"
+#include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
+#include "parts/SupportContacts.h"
 #include "platform/Platform.h"
 #include "words/Caption.h"
 
@@ -20,22 +21,26 @@ public:
 
     Published<bool> showAlert{fields, "showAlert"};
     Caption poweredBy{fields, "poweredBy", Text::poweredBy};
-    /// The support numbers, as shown. They are of a range that is not given out to anybody, until a wallet
-    /// has its own.
-    Constant mobile{fields, "mobile", "+977 980 0000 000"};
-    Constant landLine{fields, "landLine", "+977 1 5550 100"};
+    /// The numbers of `SupportContacts`, as they are shown.
+    Derived<std::string> mobile{fields, "mobile", [] { return SupportContacts::current().mobile; }};
+    Derived<std::string> landLine{fields, "landLine", [] { return SupportContacts::current().landLine; }};
     Action<> tapMark{*this, "tapMark", [this] { countTap(); }};
-    Action<> callMobile{*this, "callMobile", [this] { open("tel:" + dialled(mobile)); }};
-    Action<> openViber{
-        *this, "openViber", [this] { open("viber://contact?number=%2B" + dialled(mobile).substr(1)); }};
+    /// A number that the wallet does not have is not offered.
+    Action<> callMobile{
+        *this, "callMobile", [this] { call(mobile.get()); }, [this] { return !mobile.get().empty(); }};
+    Action<> openViber{*this, "openViber", [] { writeByViber(); }, [] { return !viberNumber().empty(); }};
     Action<> openWhatsapp{
-        *this, "openWhatsapp", [this] { open("whatsapp://send?phone=" + dialled(mobile).substr(1)); }};
-    Action<> callLandLine{*this, "callLandLine", [this] { open("tel:" + dialled(landLine)); }};
+        *this, "openWhatsapp", [] { writeByWhatsapp(); }, [] { return !whatsappNumber().empty(); }};
+    Action<> callLandLine{
+        *this, "callLandLine", [this] { call(landLine.get()); }, [this] { return !landLine.get().empty(); }};
 
 private:
     void countTap();
-    /// A number as links carry it: without blanks.
-    static std::string dialled(const Constant& number);
+    static std::string viberNumber();
+    static std::string whatsappNumber();
+    static void call(const std::string& number);
+    static void writeByViber();
+    static void writeByWhatsapp();
     static void open(const std::string& url);
     static std::shared_ptr<Screen> makeVersionAlert();
 

@@ -1,6 +1,7 @@
 #include "fakes/World.h"
 #include "keyed/Navigator.h"
 #include "parts/AlertView.h"
+#include "parts/SupportContacts.h"
 #include "results/DomesticFlightListView.h"
 #include "results/FlightListView.h"
 #include "results/Offers.h"
@@ -215,23 +216,37 @@ TEST_F(SearchFormTest, FiveTapsInOneGestureTellTheBuildVersion) {
 }
 
 TEST_F(SearchFormTest, TheSupportLinksCarryTheNumbersShown) {
-    main->footer->callMobile();
-    main->footer->openViber();
-    main->footer->openWhatsapp();
-    main->footer->callLandLine();
-    const auto digits = [](const std::string& text) {
-        std::string kept;
-        std::copy_if(text.begin(), text.end(), std::back_inserter(kept), [](char character) {
-            return character >= '0' && character <= '9';
-        });
-        return kept;
+    const auto tapAll = [this] {
+        world.urls->opened.clear();
+        main->footer->callMobile();
+        main->footer->openViber();
+        main->footer->openWhatsapp();
+        main->footer->callLandLine();
+        return world.urls->opened;
     };
-    const std::string mobile = digits(main->footer->mobile.get());
-    const std::vector<std::string> expected{"tel:+" + mobile,
-                                            "viber://contact?number=%2B" + mobile,
-                                            "whatsapp://send?phone=" + mobile,
-                                            "tel:+" + digits(main->footer->landLine.get())};
-    EXPECT_EQ(world.urls->opened, expected);
+    using Links = std::vector<std::string>;
+    EXPECT_EQ(main->footer->mobile.get(), "+977 980 0000 000");
+    EXPECT_EQ(tapAll(),
+              (Links{"tel:+9779800000000",
+                     "viber://contact?number=%2B9779800000000",
+                     "whatsapp://send?phone=9779800000000",
+                     "tel:+97715550100"}));
+    // A wallet's own, while the form stands there.
+    int told = 0;
+    const auto watch = main->footer->mobile.observe([&told] { ++told; });
+    SupportContacts::use(
+        {.mobile = "+974 (5550) 0123", .viber = "+974 5550 0199", .landLine = "01-5550 123"});
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(main->footer->mobile.get(), "+974 (5550) 0123");
+    EXPECT_EQ(tapAll(),
+              (Links{"tel:+97455500123",
+                     "viber://contact?number=%2B97455500199",
+                     "whatsapp://send?phone=97455500123",
+                     "tel:015550123"}));
+    // What it does not have is not offered.
+    SupportContacts::use({.mobile = "", .whatsapp = "+974 5550 0177", .landLine = ""});
+    EXPECT_FALSE(main->footer->callMobile.isEnabled() || main->footer->openViber.isEnabled());
+    EXPECT_EQ(tapAll(), Links{"whatsapp://send?phone=97455500177"});
 }
 
 class NationalityTest : public SearchFormTest {

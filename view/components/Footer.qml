@@ -31,15 +31,36 @@ ColumnLayout {
     RowLayout {
         Layout.alignment: Qt.AlignHCenter
         spacing: 4
-        IconButton { iconName: "phoneIcon"; label: footer.screen.mobile; onClicked: footer.screen.callMobile() }
-        IconButton { iconName: "viberIcon"; label: Words.supportViber; onClicked: footer.screen.openViber() }
-        IconButton { iconName: "whatsappIcon"; label: Words.supportWhatsapp; onClicked: footer.screen.openWhatsapp() }
-        IconButton { iconName: "rotarPhoneIcon"; label: footer.screen.landLine; onClicked: footer.screen.callLandLine() }
+        IconButton {
+            visible: footer.screen.callMobileEnabled
+            iconName: "phoneIcon"
+            label: footer.screen.mobile
+            onClicked: footer.screen.callMobile()
+        }
+        IconButton {
+            visible: footer.screen.openViberEnabled
+            iconName: "viberIcon"
+            label: Words.supportViber
+            onClicked: footer.screen.openViber()
+        }
+        IconButton {
+            visible: footer.screen.openWhatsappEnabled
+            iconName: "whatsappIcon"
+            label: Words.supportWhatsapp
+            onClicked: footer.screen.openWhatsapp()
+        }
+        IconButton {
+            visible: footer.screen.callLandLineEnabled
+            iconName: "rotarPhoneIcon"
+            label: footer.screen.landLine
+            onClicked: footer.screen.callLandLine()
+        }
     }
     PlainText {
         Layout.fillWidth: true
         horizontalAlignment: Text.AlignHCenter
-        text: footer.screen.mobile + "  ·  " + footer.screen.landLine
+        visible: text !== ""
+        text: footer.screen.mobile + (footer.screen.callMobileEnabled && footer.screen.callLandLineEnabled ? "  ·  " : "") + footer.screen.landLine
         color: Theme.placeHolderColor
         font.pixelSize: Theme.smallSize
     }

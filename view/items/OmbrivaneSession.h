@@ -1,6 +1,7 @@
 #pragma once
 
 #include "items/StageModel.h"
+#include "parts/SupportContacts.h"
 #include "session/OmbrivaneView.h"
 
 #include <QObject>
@@ -29,6 +30,15 @@ class OmbrivaneSession : public QObject {
     Q_PROPERTY(QString language READ givenLanguage WRITE setLanguage RESET resetLanguage FINAL)
     Q_PROPERTY(QString region READ givenRegion WRITE setRegion RESET resetRegion FINAL)
     Q_PROPERTY(QVariantMap texts READ givenTexts WRITE setTexts FINAL)
+    // Of the support, as `SupportContacts` says; a change takes effect at once while the component is open.
+    Q_PROPERTY(
+        QString supportMobile READ givenSupportMobile WRITE setSupportMobile RESET resetSupportMobile FINAL)
+    Q_PROPERTY(
+        QString supportViber READ givenSupportViber WRITE setSupportViber RESET resetSupportViber FINAL)
+    Q_PROPERTY(QString supportWhatsapp READ givenSupportWhatsapp WRITE setSupportWhatsapp RESET
+                   resetSupportWhatsapp FINAL)
+    Q_PROPERTY(QString supportLandLine READ givenSupportLandLine WRITE setSupportLandLine RESET
+                   resetSupportLandLine FINAL)
     Q_PROPERTY(ombrivane::view::StageModel* stage READ stage CONSTANT FINAL)
 
 public:
@@ -59,6 +69,8 @@ public:
     std::optional<QString> language;    ///< a BCP 47 tag or "device"; absent: English
     std::optional<QString> region;      ///< by which numbers and dates are written; absent: of the language
     QVariantMap texts;                  ///< the wallet's own texts by key
+    /// Of the process when it is opened; absent: those that the process has.
+    std::optional<SupportContacts> supportContacts;
 
     /// The hand-over, or progress where "exit" in it is false; JSON. On the main thread.
     Q_SIGNAL void finished(const QString& dictionary);
@@ -80,6 +92,14 @@ public:
     QString givenRegion() const { return region.value_or(QString()); }
     /// For QML.
     QVariantMap givenTexts() const { return texts; }
+    /// For QML: as it is shown.
+    QString givenSupportMobile() const;
+    /// For QML: empty where absent.
+    QString givenSupportViber() const;
+    /// For QML: empty where absent.
+    QString givenSupportWhatsapp() const;
+    /// For QML: as it is shown.
+    QString givenSupportLandLine() const;
     /// For QML: NaN where absent.
     double givenWalletBalance() const;
     /// Given from here on, also when it is empty.
@@ -94,6 +114,14 @@ public:
     void setRegion(const QString& given);
     /// Texts by key, from here on, in the place of those given before.
     void setTexts(const QVariantMap& given);
+    /// The number that is called, from here on.
+    void setSupportMobile(const QString& number);
+    /// The number that is written to, from here on.
+    void setSupportViber(const QString& number);
+    /// The number that is written to, from here on.
+    void setSupportWhatsapp(const QString& number);
+    /// The number that is called, from here on.
+    void setSupportLandLine(const QString& number);
     /// NaN is absent, as it is what an absent balance reads as.
     void setWalletBalance(double given);
     /// Absent from here on.
@@ -106,6 +134,14 @@ public:
     void resetLanguage();
     /// Absent from here on.
     void resetRegion();
+    /// The component's own from here on.
+    void resetSupportMobile();
+    /// `supportMobile` from here on.
+    void resetSupportViber();
+    /// `supportMobile` from here on.
+    void resetSupportWhatsapp();
+    /// The component's own from here on.
+    void resetSupportLandLine();
     /// Absent from here on.
     void resetWalletBalance() { walletBalance.reset(); }
 
@@ -113,6 +149,8 @@ private:
     CompletionCallback callback();
     void speak() const;
     void speakAgain() const;
+    void giveContacts(const SupportContacts& contacts);
+    SupportContacts givenContacts() const { return supportContacts.value_or(SupportContacts()); }
 
     struct Opened {};
 

@@ -17,9 +17,13 @@ class FooterAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_TEXT(landLine, core().landLine)
     OMBRIVANE_INTENT(tapMark, core().tapMark)
     OMBRIVANE_INTENT(callMobile, core().callMobile)
+    OMBRIVANE_ENABLED(callMobile, core().callMobile)
     OMBRIVANE_INTENT(openViber, core().openViber)
+    OMBRIVANE_ENABLED(openViber, core().openViber)
     OMBRIVANE_INTENT(openWhatsapp, core().openWhatsapp)
+    OMBRIVANE_ENABLED(openWhatsapp, core().openWhatsapp)
     OMBRIVANE_INTENT(callLandLine, core().callLandLine)
+    OMBRIVANE_ENABLED(callLandLine, core().callLandLine)
 };
 
 } // namespace ombrivane::view
