@@ -22,11 +22,11 @@ struct DemoOptions {
     std::optional<std::string> language; ///< what the wallet chooses: a tag, or "device"
     std::optional<std::string> region;   ///< such as "NP"
     std::string timeZone;                ///< such as "Asia/Kathmandu"; empty for the system's
-    bool dark = false;
-    double textScale = 1;
+    bool dark = false;                   ///< dark whatever the device says
+    std::optional<double> textScale;     ///< absent: as the device says
     int width = 390;
     int height = 844;
-    bool stillMotion = false;
+    bool stillMotion = false; ///< without motion whatever the device says
     bool help = false;
 
     /// @throws std::invalid_argument that says what is wrong

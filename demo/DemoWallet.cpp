@@ -1,5 +1,6 @@
 #include "DemoWallet.h"
 
+#include "appearance/ThemedScope.h"
 #include "base/Fault.h"
 #include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
@@ -94,15 +95,15 @@ void DemoWallet::makeWindow() {
     engine_ = std::make_unique<QQmlApplicationEngine>();
     engine_->addImportPath("qrc:/com.framework.Ombrivane/qml");
     engine_->addImportPath("qrc:/com.framework.Ombrivane/demo");
-    engine_->setInitialProperties({{"balance", options_.walletBalance},
-                                   {"width", options_.width},
-                                   {"height", options_.height},
-                                   {"dark", options_.dark},
-                                   {"textScale", options_.textScale},
-                                   {"reducedMotion", options_.stillMotion}});
+    engine_->setInitialProperties(
+        {{"balance", options_.walletBalance}, {"width", options_.width}, {"height", options_.height}});
     engine_->load(QUrl("qrc:/com.framework.Ombrivane/demo/OmbrivaneDemo/Wallet.qml"));
     if (engine_->rootObjects().isEmpty()) return;
     window_ = qobject_cast<QQuickWindow*>(engine_->rootObjects().constFirst());
+    auto* component = window_->findChild<view::ThemedScope*>("component");
+    if (options_.dark) component->setDark(true);
+    if (options_.textScale) component->setTextScale(*options_.textScale);
+    if (options_.stillMotion) component->setMotionReduced(true);
     session_ = window_->findChild<view::OmbrivaneSession*>();
     session_->clientId = QString::fromStdString(options_.clientId);
     session_->clientSecret = QString::fromStdString(options_.clientSecret);

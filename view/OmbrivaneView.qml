@@ -2,7 +2,7 @@ import QtQuick
 import Ombrivane
 
 // The component as one item: give it its arguments, and `open` shows it.
-FocusScope {
+ThemedScope {
     id: view
 
     property alias clientId: session.clientId
@@ -19,9 +19,6 @@ FocusScope {
     property alias supportWhatsapp: session.supportWhatsapp
     property alias supportLandLine: session.supportLandLine
     property alias session: session
-    property bool dark: false
-    property real textScale: 1
-    property bool reducedMotion: false
     signal finished(dictionary: string)
     signal failed(message: string, domain: string, code: int)
     signal closed
@@ -29,9 +26,6 @@ FocusScope {
     function open() { session.open() }
     function drop() { session.drop() }
 
-    Binding { target: Theme; property: "dark"; value: view.dark }
-    Binding { target: Theme; property: "textScale"; value: view.textScale }
-    Binding { target: Theme; property: "reducedMotion"; value: view.reducedMotion }
     OmbrivaneSession {
         id: session
         onFinished: dictionary => view.finished(dictionary)

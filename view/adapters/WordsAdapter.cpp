@@ -53,6 +53,11 @@ QString WordsAdapter::fontFamily() {
     return plain.isEmpty() ? families.value(0) : plain.constFirst();
 }
 
+bool WordsAdapter::hasLetters(const QString& family) {
+    const auto script = foreignScript(QString::fromStdString(ombrivane::Words::shared().language()));
+    return !family.isEmpty() && QFontDatabase::writingSystems(family).contains(script);
+}
+
 bool WordsAdapter::rightToLeft() { return ombrivane::Words::shared().isRightToLeft(); }
 
 QString WordsAdapter::fill(const QString& pattern, const QVariantMap& places) {

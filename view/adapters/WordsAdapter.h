@@ -32,6 +32,8 @@ public:
 
     static bool rightToLeft();
     static QString fontFamily();
+    /// Whether `family`, which may be none, has the letters of a language that the component's own lacks.
+    static bool hasLetters(const QString& family);
 
     /// A text with named places, each filled in: `Words.fill(Words.fieldIsMissing, {field: name})`.
     Q_INVOKABLE static QString fill(const QString& pattern, const QVariantMap& places);

@@ -17,15 +17,26 @@ ColumnLayout {
         spacing: 8
         TapHandler { onTapped: footer.screen.tapMark() }
         PlainText {
-            text: footer.screen.poweredBy
+            visible: !Theme.hidesPoweredBy
+            text: Theme.poweredBy !== "" ? Theme.poweredBy : footer.screen.poweredBy
             color: Theme.placeHolderColor
             font.pixelSize: Theme.captionSize
         }
         Icon {
+            visible: !mark.visible
             implicitWidth: 28
             implicitHeight: 28
             name: "logo"
             dark: Theme.dark
+        }
+        Image {
+            id: mark
+            visible: status === Image.Ready
+            Layout.preferredHeight: 28
+            Layout.preferredWidth: Math.min(112, Math.ceil(28 * implicitWidth / Math.max(1, implicitHeight)))
+            source: Theme.logo
+            fillMode: Image.PreserveAspectFit
+            mipmap: true
         }
     }
     RowLayout {

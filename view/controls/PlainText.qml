@@ -15,6 +15,7 @@ Text {
     color: Theme.blackColor
     font.family: Theme.fontFamily
     font.pixelSize: Theme.bodySize
+    font.weight: Theme.textWeight
     lineHeight: distance
     topPadding: (distance - 1) * 0.6 * font.pixelSize
     bottomPadding: -topPadding

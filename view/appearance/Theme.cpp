@@ -1,0 +1,101 @@
+#include "appearance/Theme.h"
+
+#include "appearance/FontFaces.h"
+#include "appearance/ReadableColours.h"
+#include "appearance/ThemedScope.h"
+#include "platform/Platform.h"
+
+#include <QQmlContext>
+
+#include <algorithm>
+
+namespace ombrivane::view {
+namespace {
+
+/// That of everything outside of a view.
+Theme* themeOfEngine(QQmlEngine& engine) {
+    const QString name = QStringLiteral("com.framework.Ombrivane.theme");
+    auto* theme = engine.findChild<Theme*>(name, Qt::FindDirectChildrenOnly);
+    if (theme == nullptr) {
+        theme = new Theme(engine); // owned by the engine
+        theme->setObjectName(name);
+        const auto follow = [theme] { theme->setLook(DeviceLook::shared().look()); };
+        follow();
+        QObject::connect(&DeviceLook::shared(), &DeviceLook::changed, theme, follow);
+    }
+    return theme;
+}
+
+} // namespace
+
+Theme::Theme(QQmlEngine& engine) : QObject(&engine) {
+    connect(&words_, &WordsAdapter::fontFamilyChanged, this, &Theme::chooseFont);
+    chooseFont();
+}
+
+/// Objects hang in contexts from their creation on, long before they have a place in a window; delegates,
+/// pages of loaders and popups all have contexts that end in that of the view.
+Theme* Theme::qmlAttachedProperties(QObject* object) {
+    if (auto* scope = qobject_cast<ThemedScope*>(object)) return scope->theme();
+    QQmlEngine* engine = qmlEngine(object);
+    if (engine == nullptr) return nullptr;
+    for (const QQmlContext* context = qmlContext(object); context != nullptr;
+         context = context->parentContext()) {
+        if (auto* scope = qobject_cast<ThemedScope*>(context->contextObject())) return scope->theme();
+    }
+    return themeOfEngine(*engine);
+}
+
+void Theme::setAppearance(const Appearance& appearance) {
+    if (appearance == appearance_) return;
+    appearance_ = appearance;
+    complaints_.clear();
+    for (const bool dark : {false, true}) {
+        auto [shown, complaints] = readable(dark ? appearance.dark : appearance.light, dark);
+        colours_[dark ? 1 : 0] = shown;
+        complaints_ += complaints;
+    }
+    if (!complaints_.isEmpty() && !std::exchange(complains_, true))
+        QMetaObject::invokeMethod(this, &Theme::complain, Qt::QueuedConnection);
+    chooseFont();
+    emit changed();
+}
+
+void Theme::setLook(const Look& look) {
+    if (std::exchange(look_, look) != look) emit changed();
+}
+
+/// Colours that a wallet sets one after the other are judged when it is through with them.
+void Theme::complain() {
+    complains_ = false;
+    for (const auto& line : complaints_) {
+        if (told_.contains(line)) continue;
+        told_.insert(line);
+        platform().diagnostics->print(line.toStdString());
+    }
+}
+
+void Theme::chooseFont() {
+    const QString ofFaces = addFontFaces(appearance_.fontFaces);
+    const QString own = appearance_.fontFamily.isEmpty() ? ofFaces : appearance_.fontFamily;
+    const QString ofDevice = WordsAdapter::fontFamily();
+    QString family = own.isEmpty() ? QStringLiteral("Fira Sans") : own;
+    if (!ofDevice.isEmpty() && !WordsAdapter::hasLetters(own)) family = ofDevice;
+    const double overhang = ofDevice.isEmpty() ? 1 : 8;
+    if (family == fontFamily_ && overhang == overhang_) return;
+    fontFamily_ = family;
+    overhang_ = overhang;
+    emit fontFamilyChanged();
+}
+
+int Theme::textWeight() const { return look_.boldText ? QFont::DemiBold : QFont::Normal; }
+
+double Theme::cardRadius() const { return std::max(0.0, appearance_.cornerRadius.value_or(14)); }
+
+double Theme::fieldRadius() const { return std::max(0.0, cardRadius() - 2); }
+
+/// What the view has made goes with it, or with a deferred deletion that is posted meanwhile. The deletion
+/// that a queued call posts stands behind all of these.
+void Theme::retire() { QMetaObject::invokeMethod(this, &QObject::deleteLater, Qt::QueuedConnection); }
+
+} // namespace ombrivane::view
