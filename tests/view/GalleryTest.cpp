@@ -1,14 +1,19 @@
 #include "Inspection.h"
 #include "Pseudo.h"
 #include "Walk.h"
+#include "appearance/ThemedScope.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
+#include <QPainter>
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
+#include <vector>
 
 namespace ombrivane::view {
 namespace {
@@ -52,11 +57,20 @@ double difference(const QImage& one, const QImage& other) {
 }
 
 /// Compares with the picture that is kept. The digits of a running clock may differ, no more.
-void expectPicture(const QImage& shown, const QString& name) {
+void expectPicture(const QImage& shown, const QString& file) {
     constexpr double tolerance = 0.01;
-    const QImage kept(QStringLiteral("tests/view/pictures/%1.png").arg(name));
-    const double share = difference(shown.convertToFormat(QImage::Format_RGB32), kept);
-    EXPECT_LE(share, tolerance) << name.toStdString() << " looks different; scripts/pictures keeps new ones";
+    const double share = difference(shown.convertToFormat(QImage::Format_RGB32), QImage(file));
+    EXPECT_LE(share, tolerance) << file.toStdString() << " looks different; scripts/pictures keeps new ones";
+}
+
+/// Where pictures are written to; nullptr where they are compared.
+const char* pictureFolder() { return std::getenv("OMBRIVANE_PICTURES"); }
+
+void writePicture(const QImage& shown, const QString& folder, const std::string& name) {
+    const QString own = QStringLiteral("%1/%2").arg(pictureFolder(), folder);
+    QDir().mkpath(own);
+    shown.convertToFormat(QImage::Format_RGB32)
+        .save(QStringLiteral("%1/%2.png").arg(own, QString::fromStdString(name)));
 }
 
 using Case = std::tuple<Look, const char*>;
@@ -73,7 +87,6 @@ TEST_P(GalleryTest, EveryPageIsSoundAndLooksAsItDid) {
     } else if (look.language != nullptr) {
         window.session().setLanguage(look.language);
     }
-    const char* folder = std::getenv("OMBRIVANE_PICTURES");
     int taken = 0;
     walk(ports,
          window,
@@ -84,13 +97,11 @@ TEST_P(GalleryTest, EveryPageIsSoundAndLooksAsItDid) {
              expectSound(window);
              const QImage picture = window.window().grabWindow();
              ++taken;
-             if (folder != nullptr) {
-                 const QString own = QStringLiteral("%1/%2").arg(folder, look.name);
-                 QDir().mkpath(own);
-                 picture.convertToFormat(QImage::Format_RGB32)
-                     .save(QStringLiteral("%1/%2.png").arg(own, QString::fromStdString(name)));
+             if (pictureFolder() != nullptr) {
+                 writePicture(picture, look.name, name);
              } else if (std::string_view(look.name) == phone.name) {
-                 expectPicture(picture, QString::fromStdString(name));
+                 expectPicture(
+                     picture, QStringLiteral("tests/view/pictures/%1.png").arg(QString::fromStdString(name)));
              }
          });
     EXPECT_GT(taken, 0);
@@ -104,6 +115,69 @@ std::string nameOf(const ::testing::TestParamInfo<Case>& test) {
 
 INSTANTIATE_TEST_SUITE_P(Looks, GalleryTest,
                          ::testing::Combine(::testing::ValuesIn(looks), ::testing::ValuesIn(walks)), nameOf);
+
+/// A wallet for the night.
+constexpr const char* nightWallet = R"(
+import QtQuick
+import Ombrivane
+Window {
+    visible: true
+    OmbrivaneView {
+        clientId: "wallet"; clientSecret: "wallet-secret"; dark: true
+        anchors.fill: parent
+        appearance: Appearance {
+            dark { canvas: "#000000"; card: "#151515"; primary: "#FFB000"; secondary: "#7CC7FF"; range: "#10283A" }
+            cornerRadius: 8
+        }
+        Component.onCompleted: open()
+    }
+})";
+
+QByteArray contentsOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Side by side, with a little room between them.
+QImage joined(const std::vector<QImage>& pictures) {
+    constexpr int gap = 16;
+    const QSize one = pictures.front().size();
+    const int count = static_cast<int>(pictures.size());
+    QImage whole(count * one.width() + (count - 1) * gap, one.height(), QImage::Format_RGB32);
+    whole.fill(Qt::white);
+    QPainter painter(&whole);
+    for (int i = 0; i < count; ++i)
+        painter.drawImage(i * (one.width() + gap), 0, pictures[static_cast<std::size_t>(i)]);
+    return whole;
+}
+
+/// The two wallets of the examples and a third one, as the guide to embedding shows them.
+TEST(BrandGalleryTest, EachWalletLooksLikeItself) {
+    const QByteArray wallets[] = {
+        contentsOf("examples/nepali.qml"), contentsOf("examples/arabic.qml"), nightWallet};
+    std::map<std::string, std::vector<QImage>> pictures;
+    for (const auto& wallet : wallets) {
+        WalkPorts ports;
+        Window window(wallet.constData());
+        window.window().findChild<ThemedScope*>()->setMotionReduced(true);
+        walk(ports, window, "tests/view/gallery/brand.script", [&](const std::string& name) {
+            SCOPED_TRACE(name);
+            window.settle();
+            expectSound(window);
+            pictures[name].push_back(window.window().grabWindow());
+        });
+    }
+    for (const auto& [name, shown] : pictures) {
+        ASSERT_EQ(shown.size(), std::size(wallets)) << name;
+        if (pictureFolder() != nullptr) {
+            writePicture(joined(shown), "brands", "brands-" + name);
+        } else {
+            expectPicture(joined(shown),
+                          QStringLiteral("docs/pictures/brands-%1.png").arg(QString::fromStdString(name)));
+        }
+    }
+    EXPECT_EQ(pictures.size(), 3U);
+}
 
 } // namespace
 } // namespace ombrivane::view
