@@ -11,6 +11,7 @@ FocusScope {
     required property string name
     property real wantedHeight: 400
     property bool beside: false
+    property color ground: Theme.whiteColor
     property real shift: 0
     signal dismissed
 
@@ -33,7 +34,7 @@ FocusScope {
         height: shownHeight + (sheet.beside ? 0 : Theme.cardRadius)
         y: parent.height - shownHeight + sheet.shift
         radius: sheet.beside ? 0 : Theme.cardRadius
-        color: Theme.whiteColor
+        color: sheet.ground
 
         Blocker { anchors.fill: parent }
         Rectangle { visible: sheet.beside; x: Words.rightToLeft ? -1 : parent.width; width: 1; height: parent.height; color: Theme.hairlineColor }

@@ -11,6 +11,7 @@ Sheet {
 
     name: page.screen.title
     beside: width >= Theme.wideWidth
+    ground: Theme.filterBackgroundColor
     wantedHeight: Math.min(height * 0.9, head.height + column.implicitHeight + apply.height + 4 * Theme.margin)
     onDismissed: back()
 
