@@ -16,6 +16,7 @@ struct OMBRIVANE_API SupportContacts {
     std::optional<std::string> whatsapp{};    ///< absent: `mobile`
     std::string landLine = "+977 1 5550 100"; ///< is called
 
+    /// Member by member.
     bool operator==(const SupportContacts&) const = default;
 
     /// Those of the process; a computation that is being tracked follows them. Main thread.

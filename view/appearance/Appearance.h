@@ -29,6 +29,7 @@ struct Appearance {
     /// in the customer's language.
     std::optional<QString> poweredBy;
 
+    /// Member by member.
     bool operator==(const Appearance&) const = default;
 };
 

@@ -43,6 +43,7 @@ public:
     QColor filterBackground{}; ///< behind the filter
     QColor hairline{};         ///< separates, and carries no meaning
 
+    /// Member by member.
     bool operator==(const Colours&) const = default;
 
     /// The component's own colours.

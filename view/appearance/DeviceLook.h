@@ -11,6 +11,7 @@ struct Look {
     bool reducedMotion = false; ///< nothing moves that needs not
     bool boldText = false;      ///< what is else written in regular letters is written in bold ones
 
+    /// Member by member.
     bool operator==(const Look&) const = default;
 };
 

@@ -41,25 +41,41 @@ public:
     /// For a host in C++, in the place of a table of QML; takes effect at once. Main thread, as all of this.
     void setAppearance(const Appearance& appearance);
 
+    /// The table of QML; nullptr without one.
     AppearanceTable* appearanceTable() const { return table_; }
-    bool isDark() const { return look().dark; }
-    double textScale() const { return look().textScale; }
-    bool isMotionReduced() const { return look().reducedMotion; }
-    bool isTextBold() const { return look().boldText; }
+    /// From here on, with each of its changes; nullptr is the component's own appearance.
     void setAppearanceTable(AppearanceTable* table);
+    /// As the pages are drawn: what the host has said, or else the device.
+    bool isDark() const { return look().dark; }
+    /// The same of the size of letters.
+    double textScale() const { return look().textScale; }
+    /// The same of motion.
+    bool isMotionReduced() const { return look().reducedMotion; }
+    /// The same of the weight of letters.
+    bool isTextBold() const { return look().boldText; }
+    /// Absent: as the device says.
     void setDark(std::optional<bool> dark);
+    /// Absent: as the device says.
     void setTextScale(std::optional<double> textScale);
+    /// Absent: as the device says.
     void setMotionReduced(std::optional<bool> reduced);
+    /// Absent: as the device says.
     void setTextBold(std::optional<bool> bold);
+    /// For QML, as the three that follow: set to `undefined`.
     void resetDark() { setDark(std::nullopt); }
+    /// For QML.
     void resetTextScale() { setTextScale(std::nullopt); }
+    /// For QML.
     void resetMotionReduced() { setMotionReduced(std::nullopt); }
+    /// For QML.
     void resetTextBold() { setTextBold(std::nullopt); }
 
     /// Of all that is inside. It outlives this, and everything that was made inside.
     Theme* theme();
 
+    /// Another table.
     Q_SIGNAL void appearanceChanged();
+    /// One of the four that follow the device.
     Q_SIGNAL void lookChanged();
 
 private:
