@@ -128,6 +128,8 @@ Window {
         appearance: Appearance {
             dark { canvas: "#000000"; card: "#151515"; primary: "#FFB000"; secondary: "#7CC7FF"; range: "#10283A" }
             cornerRadius: 8
+            logo: "qrc:/com.framework.Ombrivane/images/dark/ticket.svg"
+            poweredBy: "Flights at night"
         }
         Component.onCompleted: open()
     }

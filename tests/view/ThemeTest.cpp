@@ -226,7 +226,7 @@ TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
 TEST(ThemeTest, ATableRefusesARoleThatThereIsNot) {
     QQmlEngine engine;
     engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
-    for (const char* line : {"light.primary: 'red'", "cornerRadius: 4"}) {
+    for (const char* line : {"light.primary: 'red'", "cornerRadius: 4", "fontFaces: ['qrc:/brand.ttf']"}) {
         QQmlComponent component(&engine);
         component.setData(QByteArray("import Ombrivane\nAppearance {") + line + "}", QUrl());
         EXPECT_TRUE(component.isReady()) << component.errorString().toStdString();
