@@ -79,6 +79,7 @@ TEST(ThemeTest, WhatIsDrawnCanBeRead) {
         {"primaryTextColor", "primaryColor", 4.5},
         {"secondaryTextColor", "secondaryColor", 4.5},
         {"noticeColor", "noticeFillColor", 4.5},
+        {"blackColor", "noticeFillColor", 4.5},
         {"formBorderColor", "whiteColor", 3},
         {"canvasFormBorderColor", "canvasColor", 3},
     };

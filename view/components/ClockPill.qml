@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Shapes
 import Ombrivane
 
-// The time that the price is held, with a ring that empties; in the last minute in the accent, announced once.
+// The time that the price is held, with a ring that empties; in the last minute in the colour of what asks for a look, announced once.
 Rectangle {
     id: pill
 

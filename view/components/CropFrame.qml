@@ -36,7 +36,7 @@ Item {
         height: frame.kept.height * parent.height
         color: "transparent"
         border.width: 2
-        border.color: Theme.primaryColor
+        border.color: Theme.secondaryColor
     }
     Repeater {
         model: [Words.pictureUpperLeft, Words.pictureUpperRight, Words.pictureLowerLeft, Words.pictureLowerRight]
@@ -70,7 +70,7 @@ Item {
                 radius: width / 2
                 color: Theme.whiteColor
                 border.width: 3
-                border.color: corner.activeFocus ? Theme.secondaryColor : Theme.primaryColor
+                border.color: corner.activeFocus ? Theme.blackColor : Theme.secondaryColor
             }
             DragHandler {
                 target: null

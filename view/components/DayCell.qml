@@ -34,14 +34,14 @@ T.AbstractButton {
             width: Math.min(parent.width, height)
             height: parent.height - 4
             radius: height / 2
-            color: cell.modelData.selected ? Theme.primaryColor : cell.down ? Theme.segmentColor : "transparent"
+            color: cell.modelData.selected ? Theme.secondaryColor : cell.down ? Theme.segmentColor : "transparent"
             border.width: cell.visualFocus ? 2 : 0
             border.color: cell.modelData.selected ? Theme.blackColor : Theme.secondaryColor
         }
     }
     contentItem: PlainText {
         text: cell.modelData.day
-        color: cell.modelData.selected ? Theme.primaryTextColor
+        color: cell.modelData.selected ? Theme.secondaryTextColor
              : cell.modelData.selectable ? Theme.blackColor : Theme.formBorderColor
         font.weight: cell.modelData.selected ? Font.DemiBold : Font.Normal
         horizontalAlignment: Text.AlignHCenter

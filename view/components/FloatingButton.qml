@@ -31,7 +31,7 @@ T.AbstractButton {
             width: 14
             height: 14
             radius: 7
-            color: Theme.primaryColor
+            color: Theme.secondaryColor
             border.width: 2
             border.color: Theme.whiteColor
         }

@@ -54,7 +54,7 @@ Rectangle {
                     text: bar.value
                     Accessible.name: bar.label !== "" && bar.terse ? bar.label + " " + text : text
                     spread: 1.2
-                    color: bar.emphasised ? Theme.primaryColor : Theme.blackColor
+                    color: Theme.blackColor
                     font.pixelSize: bar.emphasised ? Theme.priceSize : Theme.bodySize
                     font.weight: bar.emphasised ? Font.DemiBold : Font.Medium
                 }

@@ -26,7 +26,7 @@ T.AbstractButton {
         radius: Theme.cardRadius
         color: Theme.whiteColor
         border.width: card.row.isChosen ? 2 : 1
-        border.color: card.row.isChosen ? Theme.primaryColor : Theme.hairlineColor
+        border.color: card.row.isChosen ? Theme.secondaryColor : Theme.hairlineColor
         Rectangle {
             anchors.fill: parent
             anchors.margins: -3
@@ -73,7 +73,7 @@ T.AbstractButton {
         width: 24
         height: 24
         radius: 12
-        color: Theme.primaryColor
-        Icon { anchors.centerIn: parent; width: 16; height: 16; name: "checkIcon"; color: Theme.primaryTextColor }
+        color: Theme.secondaryColor
+        Icon { anchors.centerIn: parent; width: 16; height: 16; name: "checkIcon"; color: Theme.secondaryTextColor }
     }
 }

@@ -51,7 +51,7 @@ Column {
             width: Math.ceil(implicitWidth)
             horizontalAlignment: item.narrow ? Text.AlignLeft : Text.AlignRight
             wrapMode: Text.NoWrap
-            color: Theme.primaryColor
+            color: Theme.blackColor
             font.pixelSize: Theme.priceSize
             font.weight: Font.DemiBold
         }

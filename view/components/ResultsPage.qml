@@ -28,7 +28,7 @@ FocusScope {
         target: content.shown
         when: content.shown !== null
         property: "bottomInset"
-        value: page.footShown + (page.results.showsFloatingBar ? 56 + Theme.gap : 0)
+        value: page.footShown + (floating.visible && !floating.beside ? floating.height + Theme.gap : 0)
     }
     Item {
         anchors { left: parent.left; leftMargin: page.besideFilter ? Theme.besideWidth : 0; right: parent.right; top: parent.top; bottom: parent.bottom }
@@ -45,28 +45,44 @@ FocusScope {
             screen: page.results
             cramped: page.cramped
         }
-        Column {
-            anchors {
-                right: parent.right
-                rightMargin: Math.max(Theme.margin, (parent.width - Theme.contentWidth) / 2)
-                bottom: parent.bottom
-                bottomMargin: page.footShown + Theme.gap
-            }
-            spacing: 8
-            FloatingButton {
-                objectName: "scrollUp"
-                visible: page.results.showsScrollUp
-                iconName: "scrollupIcon"
-                label: Words.resultsBackToTop
-                onClicked: page.results.scrollUp()
-            }
-            FloatingButton {
-                objectName: "filter"
-                visible: page.results.showsFloatingBar
-                iconName: "filterIcon"
-                label: page.results.filterIsOn ? Words.filterIsOn : Words.filterIsOff
-                marked: page.results.filterIsOn
-                onClicked: page.results.openFilter()
+        // Never over a price or an arrival, which stand at the end of each card: beside the cards where there is room, else
+        // in the middle, where a card has its plane; with large letters in a bar of their own.
+        Rectangle {
+            id: floating
+            readonly property real sideRoom: (parent.width - Theme.contentWidth) / 2
+            readonly property bool beside: sideRoom >= buttons.width + 2 * Theme.gap
+            readonly property bool docked: parent.width < 300 * Theme.textScale
+            objectName: "floatingBar"
+            visible: page.results.showsFloatingBar
+            anchors.right: beside ? parent.right : undefined
+            anchors.rightMargin: sideRoom - width - Theme.gap
+            anchors.horizontalCenter: beside ? undefined : parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: page.footShown + (docked ? 0 : Theme.gap)
+            width: docked ? parent.width : buttons.width
+            height: docked ? buttons.height + 8 : buttons.height
+            color: docked ? Theme.canvasColor : "transparent"
+            Rectangle { visible: floating.docked; width: parent.width; height: 1; color: Theme.hairlineColor }
+            Grid {
+                id: buttons
+                anchors.centerIn: parent
+                columns: floating.docked ? 2 : 1
+                spacing: 8
+                FloatingButton {
+                    objectName: "scrollUp"
+                    visible: page.results.showsScrollUp
+                    iconName: "scrollupIcon"
+                    label: Words.resultsBackToTop
+                    onClicked: page.results.scrollUp()
+                }
+                FloatingButton {
+                    objectName: "filter"
+                    visible: page.results.showsFloatingBar
+                    iconName: "filterIcon"
+                    label: page.results.filterIsOn ? Words.filterIsOn : Words.filterIsOff
+                    marked: page.results.filterIsOn
+                    onClicked: page.results.openFilter()
+                }
             }
         }
         FootBar {

@@ -59,7 +59,7 @@ ColumnLayout {
                 anchors.fill: parent
                 iconName: "shuffelIcon"
                 label: Words.searchSwap
-                tint: Theme.primaryColor
+                tint: Theme.blackColor
                 onClicked: form.screen.swap()
             }
         }

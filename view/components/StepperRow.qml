@@ -26,7 +26,7 @@ Item {
         anchors { right: number.left; verticalCenter: parent.verticalCenter }
         iconName: "decrementIcon"
         label: Words.fill(Words.travellersOneLess, {kind: item.row.category})
-        tint: item.row.mayDecrement ? Theme.primaryColor : Theme.formBorderColor
+        tint: item.row.mayDecrement ? Theme.secondaryColor : Theme.formBorderColor
         onClicked: item.row.decrement()
     }
     PlainText {
@@ -45,7 +45,7 @@ Item {
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         iconName: "incrementIcon"
         label: Words.fill(Words.travellersOneMore, {kind: item.row.category})
-        tint: item.row.mayIncrement ? Theme.primaryColor : Theme.formBorderColor
+        tint: item.row.mayIncrement ? Theme.secondaryColor : Theme.formBorderColor
         onClicked: item.row.increment()
     }
 }

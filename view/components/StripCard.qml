@@ -39,7 +39,7 @@ T.AbstractButton {
                 CardText { text: card.row.carrierName; font.pixelSize: Theme.captionSize; wrapMode: Text.NoWrap }
                 CardText {
                     text: card.row.price
-                    color: Theme.primaryColor
+                    color: Theme.blackColor
                     font.weight: Font.Medium
                     wrapMode: Text.NoWrap
                 }

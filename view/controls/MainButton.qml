@@ -10,7 +10,7 @@ T.AbstractButton {
     property bool quiet: false
     // What the label leaves to the icon and the sides.
     readonly property real spared: iconName !== "" ? 78 : 48
-    readonly property color content: quiet ? Theme.primaryColor : Theme.primaryTextColor
+    readonly property color content: quiet ? Theme.blackColor : Theme.secondaryTextColor
 
     implicitHeight: Math.max(Theme.fieldHeight, label.implicitHeight + 16)
     implicitWidth: Math.ceil(natural.advanceWidth) + Theme.overhang + spared
@@ -21,10 +21,10 @@ T.AbstractButton {
     TextMetrics { id: natural; font: label.font; text: button.text }
     background: Rectangle {
         radius: height / 2
-        color: button.quiet ? "transparent" : Theme.primaryColor
+        color: button.quiet ? "transparent" : Theme.secondaryColor
         opacity: button.enabled ? (button.down ? 0.85 : 1) : 0.4
         border.width: button.visualFocus ? 3 : (button.quiet ? 1 : 0)
-        border.color: button.visualFocus ? Theme.secondaryColor : Theme.primaryColor
+        border.color: button.visualFocus ? Theme.secondaryColor : Theme.blackColor
     }
     contentItem: Item {
         Row {

@@ -35,6 +35,7 @@ Item {
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom }
         visible: !page.screen.showPaymentView
         enabled: page.screen.lendsInput
+        footCover: page.screen.showSnackBar ? snack.implicitHeight + Theme.margin : 0
         Card {
             Layout.fillWidth: true
             awaited: page.screen.isLoading
@@ -122,6 +123,7 @@ Item {
         message: Words.paymentWait
     }
     SnackBar {
+        id: snack
         anchors { left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom; margins: Theme.margin }
         message: page.screen.errorMessage
         shown: page.screen.showSnackBar

@@ -68,7 +68,7 @@ Sheet {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignRight
                 text: page.screen.chosenPrice
-                color: Theme.primaryColor
+                color: Theme.blackColor
                 font.weight: Font.Medium
             }
             PlainText { Layout.fillWidth: true; Layout.topMargin: Theme.gap; text: page.screen.airlinesTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
