@@ -49,7 +49,7 @@ const std::vector<Drawn>& drawn() {
     constexpr double text = 4.5;
     constexpr double border = 3;
     static const std::vector<Drawn> table{
-        {ink, {canvas, card, segment, range, filterBackground}, text},
+        {ink, {canvas, card, segment, range, filterBackground, noticeFill}, text},
         {quiet, {canvas, card, segment, range, filterBackground}, text},
         {primary, {canvas, card}, text},
         {secondary, {canvas, card, segment}, text},
