@@ -35,6 +35,30 @@ std::string BookingSession::minutesAndSeconds() const {
 
 std::string BookingSession::totalText() const { return "NPR " + formatNumber(totalCost().value_or(1)); }
 
+/// Both offers of a special round together; nothing where what was priced is in another currency.
+std::optional<std::int64_t> BookingSession::offeredCost() const {
+    const auto& offer = flight.get();
+    const auto priced = availabilitySummary();
+    if (!offer || !priced || offer->currency() != priced->currency) return std::nullopt;
+    return offer->totalCost() + (returnFlight.get() ? returnFlight->value().totalCost() : 0);
+}
+
+/// By how much what was priced is more than the offer, or less; nothing where they are the same.
+std::optional<std::int64_t> BookingSession::fareMove() const {
+    const auto offered = offeredCost();
+    const auto cost = totalCost();
+    return offered && cost && *offered != *cost ? std::optional(*cost > *offered ? 1 : -1) : std::nullopt;
+}
+
+std::string BookingSession::formerTotalText() const {
+    return fareMove() ? "NPR " + formatNumber(*offeredCost()) : "";
+}
+
+std::string BookingSession::fareNoticeText() const {
+    const std::string former = formerTotalText();
+    return former.empty() ? "" : said(Text::sessionFareChanged, {{"price", former}});
+}
+
 SessionPhase BookingSession::phase() const {
     return phaseOf({showSessionExpiredAlert, showProgressView, showPaymentView, isLoading});
 }
@@ -71,18 +95,20 @@ void BookingSession::refuse(std::string message) {
 bool BookingSession::everySlotIsFilled() const {
     const auto& passengers = passengersList.get();
     const auto& slots = uniquePassangerList.get();
-    const auto isFilled = [&](const UniquePassanger& slot) {
-        return std::any_of(passengers.begin(), passengers.end(), [&](const Passenger& passenger) {
-            return passenger.id == slot.id && !passenger.dob.empty(); // without one it is the contact's stub
-        });
-    };
     return !slots.empty() && passengers.size() == slots.size() &&
-           std::all_of(slots.begin(), slots.end(), isFilled);
+           std::all_of(slots.begin(), slots.end(), [this](const UniquePassanger& slot) {
+               return contact_->isComplete(slot.id);
+           });
+}
+
+void BookingSession::sayMissing(Text message) {
+    contact_->marksMissing = true;
+    refuse(said(message));
 }
 
 void BookingSession::proceed() {
-    if (!emergencyContact.get()) return refuse(said(Text::sessionContactMissing));
-    if (!everySlotIsFilled()) return refuse(said(Text::sessionPassengersMissing));
+    if (!emergencyContact.get()) return sayMissing(Text::sessionContactMissing);
+    if (!everySlotIsFilled()) return sayMissing(Text::sessionPassengersMissing);
     showProgressView = true;
     reserve();
 }

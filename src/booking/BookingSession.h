@@ -90,6 +90,11 @@ public:
     Derived<bool> isLastMinute{fields, "isLastMinute", [this] { return timeRemaining <= 60; }};
     Caption totalLabel{fields, "totalLabel", Text::totalFare};
     Derived<std::string> total{fields, "total", [this] { return totalText(); }};
+    /// What the offer cost before it was priced again; empty where the fare is as it was.
+    Derived<std::string> formerTotal{fields, "formerTotal", [this] { return formerTotalText(); }};
+    /// That the fare is another one, with what it was; empty where it is as it was.
+    Derived<std::string> fareNotice{fields, "fareNotice", [this] { return fareNoticeText(); }};
+    Derived<bool> fareFell{fields, "fareFell", [this] { return fareMove().value_or(0) < 0; }};
     Derived<bool> showsFoot{fields, "showsFoot", [this] { return !isLoading && !showPaymentView; }};
     Caption continueText{fields, "continueText", Text::continueOn};
     Caption expiredTitle{fields, "expiredTitle", Text::sessionExpired};
@@ -140,11 +145,16 @@ private:
     SessionPhase phase() const;
     std::string minutesAndSeconds() const;
     std::string totalText() const;
+    std::optional<std::int64_t> offeredCost() const;
+    std::optional<std::int64_t> fareMove() const;
+    std::string formerTotalText() const;
+    std::string fareNoticeText() const;
     bool allowsNow(SessionControl control) const { return allows(phase(), control); }
     bool everySlotIsFilled() const;
     void tick();
     void failAvailability(const std::optional<Error>& error);
     void refuse(std::string message);
+    void sayMissing(Text message);
     void proceed();
     void reserve();
     void reservationAnswered(std::optional<FlightBooking> booking, const std::optional<Error>& error);

@@ -4,6 +4,8 @@
 #include "booking/PassengerType.h"
 #include "booking/TravellerInformationView.h"
 
+#include <algorithm>
+
 namespace ombrivane {
 
 OWPessangerContactDetailView::OWPessangerContactDetailView(ContactGiven given) :
@@ -29,6 +31,21 @@ std::optional<std::string> OWPessangerContactDetailView::nameOf(const Uuid& slot
     return std::nullopt;
 }
 
+bool OWPessangerContactDetailView::isComplete(const Uuid& slot) const {
+    const auto& passengers = passengersList.get();
+    return std::any_of(passengers.begin(), passengers.end(), [&](const Passenger& passenger) {
+        return passenger.id == slot && !passenger.dob.empty();
+    });
+}
+
+std::int64_t OWPessangerContactDetailView::done() const {
+    const auto& slots = uniquePassengersList.get();
+    return (emergencyContact->has_value() ? 1 : 0) +
+           std::count_if(slots.begin(), slots.end(), [this](const UniquePassanger& slot) {
+               return isComplete(slot.id);
+           });
+}
+
 std::shared_ptr<Screen> OWPessangerContactDetailView::makeLine(std::size_t index) {
     const UniquePassanger slot = uniquePassengersList->at(index);
     return std::make_shared<ContactLine>(
@@ -38,6 +55,8 @@ std::shared_ptr<Screen> OWPessangerContactDetailView::makeLine(std::size_t index
                         {{"number", slot.count}, {"type", passengerTypeLabel(slot.type)}});
         },
         [this, slot] { return nameOf(slot.id); },
+        [this, slot] { return isComplete(slot.id); },
+        [this] { return marksMissing.get(); },
         [this, index] {
             tapped_ = index;
             travellerFormIsActive = true;

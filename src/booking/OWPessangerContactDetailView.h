@@ -16,6 +16,7 @@
 #include "records/UniquePassanger.h"
 #include "words/Caption.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -41,12 +42,20 @@ struct ContactGiven {
 class ContactLine final : public Screen {
     using Name = std::function<std::optional<std::string>()>;
     Name filledIn_;
+    std::function<bool()> complete_;
+    std::function<bool()> marks_;
 
 public:
+    /// @param filledIn whose name is known; nothing where nobody is
+    /// @param complete whether nothing is left to do
+    /// @param marks whether what is left to do is marked
     ContactLine(std::string_view lineName, std::function<std::string()> titleText, Name filledIn,
-                std::function<void()> open, std::function<bool()> isReady) :
+                std::function<bool()> complete, std::function<bool()> marks, std::function<void()> open,
+                std::function<bool()> isReady) :
         Screen(lineName),
         filledIn_(std::move(filledIn)),
+        complete_(std::move(complete)),
+        marks_(std::move(marks)),
         title(fields, "title", std::move(titleText)),
         tap(*this, "tap", std::move(open), std::move(isReady)) {}
 
@@ -54,6 +63,9 @@ public:
     Derived<std::string> detail{
         fields, "detail", [this] { return filledIn_().value_or(said(Text::sessionFillDetails)); }};
     Derived<bool> isFilled{fields, "isFilled", [this] { return filledIn_().has_value(); }};
+    /// A contact who is a passenger too has a name there and is not yet complete.
+    Derived<bool> isComplete{fields, "isComplete", [this] { return complete_(); }};
+    Derived<bool> isMarked{fields, "isMarked", [this] { return marks_() && !complete_(); }};
     Action<> tap;
 };
 
@@ -76,10 +88,21 @@ public:
     /// The form of a traveller is pushed, that of the line tapped last.
     Published<bool> travellerFormIsActive{fields, "travellerFormIsActive"};
 
+    /// What is left to do is marked; raised when the customer wanted to go on without it.
+    Published<bool> marksMissing{fields, "marksMissing"};
+    /// How much of the list is done, as "1 of 3 done".
+    Derived<std::string> doneText{fields, "doneText", [this] {
+                                      return said(Text::sessionDone, {{"done", done()}, {"count", toDo()}});
+                                  }};
+    /// The same from 0 to 1.
+    Derived<double> donePart{
+        fields, "donePart", [this] { return static_cast<double>(done()) / static_cast<double>(toDo()); }};
+
     Caption contactTitle{fields, "contactTitle", Text::sessionContactTitle};
     Caption passengerTitle{fields, "passengerTitle", Text::sessionPassengerTitle};
     const std::shared_ptr<ContactLine> contactLine = std::make_shared<ContactLine>(
         "ContactLine", [] { return said(Text::sessionContact); }, [this] { return contactName(); },
+        [this] { return emergencyContact->has_value(); }, [this] { return marksMissing.get(); },
         [this] { contactFormIsActive = true; }, [this] { return !isLoading; });
     Rows rows{*this,
               "rows",
@@ -87,7 +110,13 @@ public:
               [this](std::size_t index) { return makeLine(index); },
               [this] { return identitiesOf(uniquePassengersList.get(), &UniquePassanger::id); }};
 
+    /// Whether the form of that slot was saved: a contact who is a passenger too stands there without a date
+    /// of birth before.
+    bool isComplete(const Uuid& slot) const;
+
 private:
+    std::int64_t done() const;
+    std::int64_t toDo() const { return static_cast<std::int64_t>(uniquePassengersList->size()) + 1; }
     std::optional<std::string> contactName() const;
     std::optional<std::string> nameOf(const Uuid& slot) const;
     std::shared_ptr<Screen> makeLine(std::size_t index);

@@ -1,5 +1,6 @@
 #include "offers/OfferLines.h"
 
+#include "dates/Day.h"
 #include "offers/OfferFormat.h"
 #include "words/Words.h"
 
@@ -12,6 +13,16 @@ constexpr const char* economyCode = "M";
 /// `text`, then `addition` after `joint` where there is one.
 std::string joined(const std::string& text, const char* joint, const std::string& addition) {
     return addition.empty() ? text : text + joint + addition;
+}
+
+/// How many days after the departure the arrival is, as shown; empty on the same day and where either is no
+/// day.
+std::string daysOnTheWay(const std::string& departure, const std::string& arrival) {
+    const auto from = Day::parse(departure), to = Day::parse(arrival);
+    if (!from || !to || *from == *to) return "";
+    const std::int64_t days = (to->days() - from->days()).count();
+    return days > 0 ? said(Text::resultsArrivesLater, {{"days", days}})
+                    : said(Text::resultsArrivesEarlier, {{"days", -days}});
 }
 
 SegmentLines linesOf(const Segment& segment, const std::string& cabin) {
@@ -50,6 +61,7 @@ JourneyLines foldedJourney(const Journey& journey, const std::optional<std::stri
     lines.arrivalLocation = journey.locationArrival;
     lines.arrivalTime = journey.timeOfArrival;
     lines.arrivalDate = OfferFormat::formatDate(journey.dateOfArrival);
+    lines.arrivalDays = daysOnTheWay(journey.dateOfDeparture, journey.dateOfArrival);
     lines.cabinBaggage = displayForm(baggage.cabin);
     lines.checkInBaggage = displayForm(baggage.baggage);
     lines.departureCountry = journey.airportDeparture.country.value_or("Kathmandu");

@@ -44,6 +44,7 @@ struct JourneyLines {
     std::string arrivalLocation;
     std::string arrivalTime;
     std::string arrivalDate;
+    std::string arrivalDays; ///< "+1" where it is another day than that of departure, else empty
     std::string cabinBaggage;
     std::string checkInBaggage;
     std::string departureCountry;
@@ -61,7 +62,7 @@ struct JourneyLines {
         entry("noOfSegments", &JourneyLines::noOfSegments), entry("lineImage", &JourneyLines::lineImage),
         entry("arrivalLocation", &JourneyLines::arrivalLocation),
         entry("arrivalTime", &JourneyLines::arrivalTime), entry("arrivalDate", &JourneyLines::arrivalDate),
-        entry("cabinBaggage", &JourneyLines::cabinBaggage),
+        entry("arrivalDays", &JourneyLines::arrivalDays), entry("cabinBaggage", &JourneyLines::cabinBaggage),
         entry("checkInBaggage", &JourneyLines::checkInBaggage),
         entry("departureCountry", &JourneyLines::departureCountry),
         entry("arrivalCountry", &JourneyLines::arrivalCountry), entry("segments", &JourneyLines::segments));

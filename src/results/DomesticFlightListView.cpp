@@ -26,7 +26,11 @@ std::shared_ptr<OneWayFlightListView> DomesticFlightListView::makeList(const Fie
                                                                        const OfferSelection& selection,
                                                                        Text title) {
     return std::make_shared<OneWayFlightListView>(
-        shown, OfferListBindings{flightListVM.isLoading, flightListVM.scrollToTop, selection}, title, true);
+        shown,
+        OfferListBindings{
+            flightListVM.isLoading, flightListVM.scrollToTop, selection, [this] { return travellers(); }},
+        title,
+        true);
 }
 
 OfferSelection DomesticFlightListView::departureSelection() {

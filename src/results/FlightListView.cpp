@@ -22,7 +22,7 @@ FlightListView::FlightListView(SearchRequest searchRequest,
     flightListVM(*viewModel) {}
 
 OfferListBindings FlightListView::listBindings() {
-    return {flightListVM.isLoading, flightListVM.scrollToTop, selection()};
+    return {flightListVM.isLoading, flightListVM.scrollToTop, selection(), [this] { return travellers(); }};
 }
 
 void FlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {

@@ -9,6 +9,7 @@
 #include "words/Caption.h"
 #include "words/Spoken.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -38,17 +39,26 @@ class OfferItemView : public Screen {
 public:
     /// @param lines makes what the card shows, folded
     /// @param unfoldedLines makes the lines with their segments, when they are shown
+    /// @param travellers for how many the price is; may be empty
     OfferItemView(const char* itemName, std::optional<AnyFlight> offer, std::function<OfferLines()> lines,
-                  std::function<OfferLines()> unfoldedLines, const OfferSelection& selection) :
+                  std::function<OfferLines()> unfoldedLines, const OfferSelection& selection,
+                  std::function<std::int64_t()> travellers) :
         Screen(itemName),
         offer_(std::move(offer)),
         lines_(std::move(lines)),
         unfoldedLines_(std::move(unfoldedLines)),
-        selection_(selection) {}
+        selection_(selection),
+        travellers_(std::move(travellers)) {}
 
     Derived<bool> isPlaceholder{fields, "isPlaceholder", [this] { return !offer_; }};
     Derived<std::string> id{fields, "id", [this] { return offer_ ? offer_->id().text() : std::string(); }};
     Derived<std::string> price{fields, "price", [this] { return lines_.get().price; }};
+    /// "for 4 travellers"; empty for one.
+    Derived<std::string> travellersText{
+        fields, "travellersText", [this] {
+            const auto count = travellers_ ? travellers_() : 1;
+            return count > 1 ? said(Text::resultsForTravellers, {{"count", count}}) : std::string();
+        }};
     Derived<std::vector<JourneyLines>> journeys{fields, "journeys", [this] {
                                                     return isUnfolded.get() ? unfoldedLines_().journeys
                                                                             : lines_.get().journeys;
@@ -69,6 +79,7 @@ private:
     const Spoken<OfferLines> lines_;
     const std::function<OfferLines()> unfoldedLines_;
     OfferSelection selection_;
+    const std::function<std::int64_t()> travellers_;
 };
 
 /// One card of the strip above a list.

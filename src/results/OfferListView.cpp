@@ -24,6 +24,7 @@ std::vector<RowIdentity> placeholders() {
 OfferList::OfferList(std::string_view listName, const OfferListBindings& bindings, Text titleText) :
     Screen(listName),
     selection_(bindings.selection),
+    travellers_(bindings.travellers),
     isLoading(fields, "isLoading", bindings.isLoading),
     scrollToTop(fields, "scrollToTop", bindings.scrollToTop),
     titleWords_(title, titleText) {}
@@ -74,7 +75,8 @@ template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeRow(s
             std::nullopt,
             [] { return placeholderLines(Traits::journeys); },
             nullptr,
-            selection());
+            selection(),
+            travellers());
     }
     const auto offer = offers->at(index);
     return std::make_shared<OfferItemView>(
@@ -82,7 +84,8 @@ template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeRow(s
         AnyFlight(offer),
         [offer] { return foldedLines(*offer); },
         [offer] { return linesOf(*offer); },
-        selection());
+        selection(),
+        travellers());
 }
 
 template <class Traits> std::shared_ptr<Screen> OfferListView<Traits>::makeCard(std::size_t index) {

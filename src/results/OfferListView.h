@@ -8,6 +8,7 @@
 #include "words/Spoken.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ struct OfferListBindings {
     Field<bool>& isLoading;
     Field<bool>& scrollToTop;
     OfferSelection selection;
+    /// For how many the prices are.
+    std::function<std::int64_t()> travellers{};
 };
 
 /// What a list of offers holds besides them. While a search runs it shows placeholders.
@@ -26,6 +29,7 @@ class OfferList : public Screen {
 private:
     // Ahead of the bindings to it.
     const OfferSelection selection_;
+    const std::function<std::int64_t()> travellers_;
 
 public:
     Binding<bool> isLoading;
@@ -57,6 +61,7 @@ protected:
     OfferList(std::string_view name, const OfferListBindings& bindings, Text titleText);
 
     const OfferSelection& selection() const { return selection_; }
+    const std::function<std::int64_t()>& travellers() const { return travellers_; }
 
     virtual std::size_t countRows() const = 0;
     virtual std::vector<RowIdentity> identifyRows() const = 0;

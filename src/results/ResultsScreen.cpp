@@ -7,6 +7,8 @@
 #include "services/CustomError.h"
 #include "services/ItineraryType.h"
 
+#include <cstdlib>
+
 namespace ombrivane {
 namespace {
 
@@ -74,6 +76,13 @@ OfferSelection ResultsScreen::selection() {
             model_->selectedFlightSegmentId,
             model_->flightSelected,
             showSegmant};
+}
+
+std::int64_t ResultsScreen::travellers() const {
+    std::int64_t count = 0;
+    for (const auto* kind : {&adults, &children, &infants})
+        count += std::strtol(kind->get().c_str(), nullptr, 10);
+    return count;
 }
 
 void ResultsScreen::refuse(Text message) {

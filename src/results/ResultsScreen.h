@@ -134,6 +134,8 @@ protected:
     }
     /// The choice in a list of one-way or of round-trip offers.
     OfferSelection selection();
+    /// For how many was searched.
+    std::int64_t travellers() const;
     /// Says why the way on is closed.
     void refuse(Text message);
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }

@@ -21,12 +21,27 @@ std::shared_ptr<Screen> AirportSearch::makeRow(const Airport& airport) {
 }
 
 void AirportSearch::searchFor(const std::string& query) {
+    awaited_ = awaited_ + 1;
     airportsProvider_.searchAirports(
         query,
         onMain<std::vector<Airport>>(
-            [self = shared_from_this(), this](std::vector<Airport> found, std::optional<Error> error) {
-                if (!error) airports = shown(std::move(found));
+            [self = shared_from_this(), this, query](std::vector<Airport> found, std::optional<Error> error) {
+                awaited_ = awaited_ - 1;
+                take(query, std::move(found), error);
             }));
+}
+
+void AirportSearch::take(const std::string& query, std::vector<Airport> found,
+                         const std::optional<Error>& error) {
+    errorMessage = error ? error->localizedDescription : "";
+    if (error) return;
+    answered = query;
+    airports = shown(std::move(found));
+}
+
+std::string AirportSearch::sayNothing() const {
+    if (isLoading.get() || answered->empty() || !airports->empty()) return "";
+    return said(Text::airportsNone, {{"query", answered.get()}});
 }
 
 } // namespace ombrivane

@@ -42,6 +42,17 @@ public:
     void appear() override { searchFor(""); }
 
     Published<std::vector<Airport>> airports{fields, "airports"};
+    /// An answer is awaited.
+    Derived<bool> isLoading{fields, "isLoading", [this] { return awaited_ > 0; }};
+    /// What the list answers; empty for the popular airports.
+    Published<std::string> answered{fields, "answered"};
+    /// The list is that of the popular airports.
+    Derived<bool> showsHeading{
+        fields, "showsHeading", [this] { return answered->empty() && !airports->empty(); }};
+    /// That nothing was found; empty where something was, or nothing was looked for.
+    Derived<std::string> nothingText{fields, "nothingText", [this] { return sayNothing(); }};
+    /// Why the last answer did not come; empty where it did.
+    Published<std::string> errorMessage{fields, "errorMessage"};
     Caption placeholder;
     Caption heading{fields, "heading", Text::airportsPopular};
     Rows rows{*this,
@@ -72,8 +83,12 @@ protected:
 
 private:
     void searchFor(const std::string& query);
+    void take(const std::string& query, std::vector<Airport> found, const std::optional<Error>& error);
+    std::string sayNothing() const;
     std::shared_ptr<Screen> makeRow(const Airport& airport);
 
+    Fields unkeyed_;
+    Published<int> awaited_{unkeyed_, "awaited"};
     AirportSearchProvider airportsProvider_;
 };
 

@@ -143,6 +143,30 @@ TEST_P(SessionTest, TheWholeRoadHandsOverAndCloses) {
               documents && session == "RTBookingDetailsView" ? 1 : 0);
 }
 
+TEST_P(SessionTest, AFareThatMovedIsToldWithWhatItWas) {
+    wallet.toGate();
+    const std::string list = trip.domestic ? "DomesticFlightListView.total" : "FlightListView.total";
+    const std::string offered = wallet.get(list).get<std::string>();
+    std::string digits = offered;
+    std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
+    const std::pair<int, const char*> rows[]{{0, "NPR"}, {250, "NPR"}, {-250, "NPR"}, {250, "USD"}};
+    for (const auto& [move, currency] : rows) {
+        SCOPED_TRACE(std::to_string(move) + currency);
+        const bool told = move != 0 && currency == std::string("NPR");
+        wallet.answer();
+        wallet.tap("continue");
+        EXPECT_EQ(wallet.get("fareNotice"), "") << "nothing is priced yet";
+        Json answer = wallet.honest();
+        answer["data"]["availabilitySummary"]["currency"] = currency;
+        answer["data"]["fareInformation"]["total_cost"] = std::stoll(digits) + move;
+        wallet.answer(answer);
+        EXPECT_EQ(wallet.get("formerTotal"), told ? offered : "");
+        EXPECT_EQ(wallet.get("fareNotice"), told ? "Fare changed, was " + offered : "");
+        EXPECT_EQ(wallet.get("fareFell"), move < 0);
+        wallet.tap("back");
+    }
+}
+
 TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
     constexpr const char* contact = "Please fill the details for emergency contact.";
     constexpr const char* passengers = "Please fill the details for all passengers.";
@@ -154,10 +178,15 @@ TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
         EXPECT_EQ(message(), words);
         EXPECT_EQ(phase(), "open");
     };
+    EXPECT_EQ(wallet.get("contact.contactLine.isMarked"), false) << "not before it was left out";
     refuses(contact);
+    EXPECT_EQ(wallet.get("contact.contactLine.isMarked"), true);
+    EXPECT_EQ(wallet.get("contact.doneText"), "0 of 3 done");
     wallet.fillTraveller(0);
     wallet.fillTraveller(1);
     refuses(contact);
+    EXPECT_EQ(wallet.get("contact.rows[1].isMarked"), false);
+    EXPECT_EQ(wallet.get("contact.doneText"), "2 of 3 done");
     wallet.set("passengersList", Json::array());
     wallet.fillContact();
     refuses(passengers);
@@ -167,6 +196,9 @@ TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
     wallet.tap("tapBox");
     wallet.tap("save");
     refuses(passengers);
+    EXPECT_EQ(wallet.get("contact.rows[0].isFilled"), true) << "with the name of the contact";
+    EXPECT_EQ(wallet.get("contact.rows[0].isMarked"), true) << "who has no date of birth";
+    EXPECT_EQ(wallet.get("contact.doneText"), "2 of 3 done");
     wallet.fillTraveller(0);
     EXPECT_EQ(wallet.get("passengersList").size(), 2U);
     world.pass(3s);

@@ -43,6 +43,7 @@ TEST_F(OfferLinesTest, AOneWayCardShowsItsJourney) {
                                  card.arrivalLocation,
                                  card.arrivalTime,
                                  card.arrivalDate,
+                                 card.arrivalDays,
                                  card.cabinBaggage,
                                  card.checkInBaggage,
                                  card.departureCountry,
@@ -59,6 +60,7 @@ TEST_F(OfferLinesTest, AOneWayCardShowsItsJourney) {
                                     "DOH",
                                     "01:05",
                                     "Wed, Dec 2, 2026",
+                                    "+1",
                                     "7 Kg",
                                     "30 Kg",
                                     "Nepal",
@@ -85,6 +87,19 @@ TEST_F(OfferLinesTest, WhatAnOfferLeavesOutHasItsWords) {
     offer["search_summary"]["booking_class"] = "Y";
     const auto odd = of(offer).journeys.at(0);
     EXPECT_EQ(odd.refundability + "|" + odd.cabin, "Partly|");
+}
+
+TEST_F(OfferLinesTest, AnArrivalOnAnotherDaySaysHowFarThatIs) {
+    const char* const rows[][3]{{"2026-12-31", "2026-12-31", ""},
+                                {"2026-12-31", "2027-01-02", "+2"},
+                                {"2026-12-31", "2026-12-30", "−1"}, // over the date line
+                                {"2026-12-31", "soon", ""}};
+    for (const auto& [departure, arrival, shown] : rows) {
+        Json offer = offers::oneWay({});
+        offer["flight_summary"]["dateOfDeparture"] = departure;
+        offer["flight_summary"]["dateOfArrival"] = arrival;
+        EXPECT_EQ(of(offer).journeys.at(0).arrivalDays, shown) << departure << " to " << arrival;
+    }
 }
 
 TEST_F(OfferLinesTest, ASegmentShowsCarrierPlacesAndTimes) {

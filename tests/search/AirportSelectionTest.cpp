@@ -39,6 +39,12 @@ protected:
     std::shared_ptr<FlightListItemView> row(std::size_t index) const {
         return std::static_pointer_cast<FlightListItemView>(screen().rows.row(index));
     }
+    /// What the list says of itself.
+    std::string state() const {
+        return (screen().isLoading.get() ? "loading" : "") +
+               std::string(screen().showsHeading.get() ? "popular" : "") + screen().nothingText.get() +
+               (screen().errorMessage->empty() ? "" : ", " + screen().errorMessage.get());
+    }
     void tapRow(std::size_t index) { row(index)->tap(); }
     std::string origin() const {
         return model.originText.get() + "|" + model.departCityCode.get() + "|" + model.departCity.get() +
@@ -138,12 +144,15 @@ TEST_F(AirportSelectionTest, ASearchFollowsEachAppearanceAndEachChangeOfTheText)
 
 TEST_F(AirportSelectionTest, TheLastAnswerToArriveWinsAndAFailureLeavesTheList) {
     main->oneWay->tapOrigin();
+    EXPECT_EQ(state(), "loading");
     screen().type("do");
     world.network->answer(found(Json::array({airport("DOH", "Doha")})), 1);
     world.queue->drain();
     EXPECT_EQ(codes(), "DOH ");
+    EXPECT_EQ(state(), "loading") << "another answer is out";
     world.answer(found(Json::array({airport("KTM", "Kathmandu")})));
     EXPECT_EQ(codes(), "KTM ") << "the earlier question was answered later";
+    EXPECT_EQ(state(), "popular");
 
     screen().type("dx");
     world.answer(offers::refusal("No."));
@@ -151,6 +160,15 @@ TEST_F(AirportSelectionTest, TheLastAnswerToArriveWinsAndAFailureLeavesTheList) 
     world.queue->drain();
     EXPECT_EQ(world.network->outstanding(), 0U);
     EXPECT_EQ(codes(), "KTM ");
+    EXPECT_EQ(state(), "popular, The provided url is not valid.");
+
+    screen().type("zzzq");
+    world.answer(found(Json::array()));
+    EXPECT_EQ(state(), "No airport for “zzzq”. Try a city or a code like KTM.");
+    screen().type("ktm");
+    EXPECT_EQ(state(), "loading") << "of another one is said what its answer says";
+    world.answer(found(three()));
+    EXPECT_EQ(state(), "");
 }
 
 TEST_F(AirportSelectionTest, AnAnswerAfterTheScreenLeftDoesNoHarm) {
