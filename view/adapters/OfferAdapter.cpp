@@ -37,6 +37,8 @@ void OfferAdapter::update() {
 
 QString OfferAdapter::label() const {
     QStringList parts{shown(core().price.get())};
+    if (const auto travellers = core().travellersText.get(); !travellers.empty())
+        parts.first().append(' ' + shown(travellers));
     for (const auto* journey : journeys_)
         parts.append(journey->spoken());
     return parts.join(". ");

@@ -5,6 +5,8 @@
 
 #include <QList>
 
+#include <algorithm>
+
 namespace ombrivane::view {
 
 /// One journey of an offer. By hand, since its lines stay while its segments come and go as the offer is
@@ -13,10 +15,13 @@ class JourneyAdapter : public ombrivane::view::JourneyProperties {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
+    Q_PROPERTY(int connections READ connections CONSTANT FINAL)
 
 public:
     using JourneyProperties::JourneyProperties;
 
+    /// How often one changes.
+    int connections() const { return std::max(0, lines_.noOfSegments - 1); }
     void update(JourneyLines lines);
     /// The journey in one sentence, for assistive technology.
     QString spoken() const;

@@ -6,17 +6,17 @@ Row {
     property alias iconName: icon.name
     property alias text: weight.text
 
-    spacing: 4
+    spacing: 2
     Icon {
         id: icon
         y: Math.round((parent.height - height) / 2)
-        width: 18
-        height: 18
+        width: 14
+        height: 14
         color: Theme.placeHolderColor
     }
     CardText {
         id: weight
         color: Theme.placeHolderColor
-        font.pixelSize: Theme.captionSize
+        font.pixelSize: Theme.smallSize
     }
 }

@@ -10,7 +10,7 @@ T.AbstractButton {
     required property OfferAdapter row
 
     objectName: "offer"
-    implicitHeight: column.implicitHeight + 2 * Theme.margin
+    implicitHeight: column.implicitHeight + 2 * Theme.gap
     enabled: row.tapEnabled
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.CheckBox
@@ -42,9 +42,9 @@ T.AbstractButton {
         Column {
             id: column
             x: Theme.margin
-            y: Theme.margin
+            y: Theme.gap
             width: parent.width - 2 * Theme.margin
-            spacing: Theme.margin
+            spacing: Theme.gap
             Repeater {
                 id: journeys
                 model: card.row.journeyCount
@@ -54,6 +54,7 @@ T.AbstractButton {
                     journey: index === 0 ? card.row.outbound : card.row.inbound
                     unfolded: card.row.isUnfolded
                     price: index === 0 ? card.row.price : ""
+                    travellers: index === 0 ? card.row.travellersText : ""
                     detailsText: index === journeys.count - 1 ? card.row.detailsText : ""
                 }
             }

@@ -1,7 +1,7 @@
 import QtQuick
 import Ombrivane
 
-// One journey of an offer card: airline and price, times around the plane on its line, places, what is included.
+// One journey of an offer card: airline and price, times around the plane on its line, dates, what is included.
 // Placed by hand: a card is laid out anew for each row that comes into view, and layouts would be most of that.
 Column {
     id: item
@@ -9,21 +9,20 @@ Column {
     required property JourneyAdapter journey
     // Aliases, since a text that QML itself keeps is a copy for its engine to collect.
     property alias price: cost.text
+    property alias travellers: count.text
     property alias detailsText: detailsLabel.text
     property bool unfolded: false
-    readonly property bool narrow: width < 270 * Theme.textScale
-    readonly property real half: (width - 8) / 2
+    readonly property bool narrow: width < 250 * Theme.textScale
 
-    spacing: 8
+    spacing: 6
 
     Item {
         width: item.width
-        height: Math.ceil(item.narrow ? airline.height + (cost.visible ? 4 + cost.height : 0) : Math.max(airline.height, cost.visible ? cost.height : 0))
+        height: Math.ceil(item.narrow ? airline.height + (fare.visible ? 4 + fare.height : 0) : Math.max(airline.height, fare.visible ? fare.height : 0))
         Item {
             id: airline
             anchors.left: parent.left
-            y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
-            width: parent.width - (item.narrow || !cost.visible ? 0 : cost.width + 8)
+            width: parent.width - (item.narrow || !fare.visible ? 0 : fare.width + 8)
             height: Math.max(logo.height, name.height)
             Logo {
                 id: logo
@@ -42,110 +41,98 @@ Column {
                 font.weight: Font.Medium
             }
         }
-        CardText {
-            id: cost
+        Item {
+            id: fare
             anchors.left: item.narrow ? parent.left : undefined
             anchors.right: item.narrow ? undefined : parent.right
-            y: item.narrow ? airline.height + 4 : Math.round((parent.height - height) / 2)
-            visible: text !== ""
-            width: Math.ceil(implicitWidth)
-            horizontalAlignment: item.narrow ? Text.AlignLeft : Text.AlignRight
-            wrapMode: Text.NoWrap
-            color: Theme.blackColor
-            font.pixelSize: Theme.priceSize
-            font.weight: Font.DemiBold
+            y: item.narrow ? airline.height + 4 : 0
+            visible: cost.text !== ""
+            width: Math.max(cost.width, count.visible ? count.width : 0)
+            height: cost.height + (count.visible ? count.height : 0)
+            CardText {
+                id: cost
+                objectName: "price"
+                anchors.left: item.narrow ? parent.left : undefined
+                anchors.right: item.narrow ? undefined : parent.right
+                width: Math.ceil(implicitWidth)
+                wrapMode: Text.NoWrap
+                font.pixelSize: Theme.priceSize
+                font.weight: Font.DemiBold
+            }
+            CardText {
+                id: count
+                anchors.left: item.narrow ? parent.left : undefined
+                anchors.right: item.narrow ? undefined : parent.right
+                y: cost.height
+                visible: text !== ""
+                width: Math.min(Math.ceil(implicitWidth), item.narrow ? item.width : item.width / 2)
+                horizontalAlignment: item.narrow ? Text.AlignLeft : Text.AlignRight
+                color: Theme.placeHolderColor
+                font.pixelSize: Theme.smallSize
+            }
         }
     }
-    CardText {
-        x: Math.round((item.width - width) / 2)
-        visible: item.narrow
-        text: visible ? item.journey.duration : ""
-        color: Theme.placeHolderColor
-        font.pixelSize: Theme.captionSize
-    }
     Item {
+        id: times
         width: item.width
-        height: Math.ceil(Math.max(departure.height, flight.height, arrival.height))
-        CardText {
+        height: Math.ceil(item.narrow ? arrivalDate.y + arrivalDate.height : departureDate.y + Math.max(departureDate.height, arrivalDate.height))
+        readonly property real line: Math.max(departure.height, flight.height)
+        FlightTime {
             id: departure
             anchors.left: parent.left
-            y: Math.round((parent.height - height) / 2)
-            width: Math.ceil(implicitWidth)
-            wrapMode: Text.NoWrap
-            text: item.journey.departureTime
-            font.pixelSize: Theme.timeSize
-            font.weight: Font.Medium
+            y: item.narrow ? 0 : times.line - height
+            time: item.journey.departureTime
+            place: item.journey.departureLocation
+        }
+        CardText {
+            id: departureDate
+            anchors.left: parent.left
+            y: item.narrow ? departure.height : times.line
+            width: item.narrow ? parent.width : (parent.width - 8) / 2
+            text: item.journey.departureDate
+            color: Theme.placeHolderColor
+            font.pixelSize: Theme.captionSize
         }
         Column {
             id: flight
-            anchors { left: departure.right; leftMargin: 8; right: arrival.left; rightMargin: 8 }
-            y: Math.round((parent.height - height) / 2)
+            anchors { left: item.narrow ? parent.left : departure.right; leftMargin: item.narrow ? 0 : 10; right: item.narrow ? parent.right : arrival.left; rightMargin: item.narrow ? 0 : 10 }
+            y: item.narrow ? departureDate.y + departureDate.height + 4 : times.line - height
             CardText {
-                visible: !item.narrow
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: visible ? item.journey.duration : ""
+                text: item.journey.duration
                 color: Theme.placeHolderColor
-                font.pixelSize: Theme.captionSize
+                font.pixelSize: Theme.smallSize
             }
             PlaneLine {
                 x: Math.round((parent.width - width) / 2)
                 width: Math.min(parent.width, implicitWidth)
                 height: implicitHeight
                 lineImage: item.journey.lineImage
+                connections: item.journey.connections
             }
+        }
+        FlightTime {
+            id: arrival
+            anchors.left: item.narrow ? parent.left : undefined
+            anchors.right: item.narrow ? undefined : parent.right
+            y: item.narrow ? flight.y + flight.height + 4 : times.line - height
+            placeFirst: !item.narrow
+            time: item.journey.arrivalTime
+            place: item.journey.arrivalLocation
+            days: item.journey.arrivalDays
         }
         CardText {
-            id: arrival
-            anchors.right: parent.right
-            y: Math.round((parent.height - height) / 2)
-            width: Math.ceil(implicitWidth)
-            wrapMode: Text.NoWrap
-            text: item.journey.arrivalTime
-            font.pixelSize: Theme.timeSize
-            font.weight: Font.Medium
+            id: arrivalDate
+            anchors.left: item.narrow ? parent.left : undefined
+            anchors.right: item.narrow ? undefined : parent.right
+            y: item.narrow ? arrival.y + arrival.height : times.line
+            width: item.narrow ? parent.width : (parent.width - 8) / 2
+            horizontalAlignment: item.narrow ? Text.AlignLeft : Text.AlignRight
+            text: item.journey.arrivalDate
+            color: Theme.placeHolderColor
+            font.pixelSize: Theme.captionSize
         }
-    }
-    Item {
-        width: item.width
-        height: Math.ceil(Math.max(origin.height, destination.height))
-        Column {
-            id: origin
-            anchors.left: parent.left
-            y: Math.round((parent.height - height) / 2)
-            width: item.half
-            CardText { width: item.half; text: item.journey.departureLocation; font.weight: Font.Medium }
-            CardText {
-                width: item.half
-                text: item.journey.departureDate
-                color: Theme.placeHolderColor
-                font.pixelSize: Theme.captionSize
-            }
-        }
-        Column {
-            id: destination
-            anchors.right: parent.right
-            y: Math.round((parent.height - height) / 2)
-            width: item.half
-            CardText {
-                width: item.half
-                horizontalAlignment: Text.AlignRight
-                text: item.journey.arrivalLocation
-                font.weight: Font.Medium
-            }
-            CardText {
-                width: item.half
-                horizontalAlignment: Text.AlignRight
-                text: item.journey.arrivalDate
-                color: Theme.placeHolderColor
-                font.pixelSize: Theme.captionSize
-            }
-        }
-    }
-    Item {
-        width: item.width
-        height: 3
-        Rectangle { y: 2; width: parent.width; height: 1; color: Theme.hairlineColor }
     }
     Item {
         width: item.width
@@ -153,30 +140,32 @@ Column {
         Flow {
             id: included
             anchors.left: parent.left
-            y: item.narrow ? 0 : Math.round((parent.height - height) / 2)
-            width: parent.width - (item.narrow || !details.visible ? 0 : details.width + 8)
-            spacing: 12
-            CardText { text: item.journey.cabin; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
-            CardText { text: item.journey.refundability; color: Theme.placeHolderColor; font.pixelSize: Theme.captionSize }
-            Allowance { iconName: "handcarryIcon"; text: item.journey.cabinBaggage }
-            Allowance { iconName: "brifcaseIcon"; text: item.journey.checkInBaggage }
+            y: item.narrow ? 0 : parent.height - height
+            width: parent.width - (item.narrow || !details.visible ? 0 : details.width + 4)
+            spacing: 6
+            CardText { visible: text !== ""; text: item.journey.cabin; color: Theme.placeHolderColor; font.pixelSize: Theme.smallSize }
+            CardText { visible: text !== ""; text: item.journey.refundability; color: Theme.placeHolderColor; font.pixelSize: Theme.smallSize }
+            Row {
+                spacing: 5
+                Allowance { iconName: "handcarryIcon"; text: item.journey.cabinBaggage }
+                Allowance { iconName: "brifcaseIcon"; text: item.journey.checkInBaggage }
+            }
         }
         Row {
             id: details
             visible: detailsLabel.text !== ""
             anchors.right: parent.right
             y: parent.height - height
-            spacing: 2
             CardText {
                 id: detailsLabel
                 color: Theme.secondaryColor
-                font.pixelSize: Theme.captionSize
+                font.pixelSize: Theme.smallSize
                 font.weight: Font.Medium
             }
             Icon {
                 y: Math.round((parent.height - height) / 2)
-                width: 20
-                height: 20
+                width: 14
+                height: 14
                 name: "showSegmentIcon"
                 color: Theme.secondaryColor
                 rotation: item.unfolded ? 180 : 0

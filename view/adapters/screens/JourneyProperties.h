@@ -24,6 +24,7 @@ class JourneyProperties : public QObject {
     OMBRIVANE_LINE(arrivalLocation)
     OMBRIVANE_LINE(arrivalTime)
     OMBRIVANE_LINE(arrivalDate)
+    OMBRIVANE_LINE(arrivalDays)
     OMBRIVANE_LINE(cabinBaggage)
     OMBRIVANE_LINE(checkInBaggage)
     OMBRIVANE_LINE(departureCountry)

@@ -13,6 +13,7 @@ class OfferProperties : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_SCREEN(OfferProperties, ScreenAdapter, OfferItemView)
     OMBRIVANE_FLAG(isPlaceholder, core().isPlaceholder)
     OMBRIVANE_TEXT(price, core().price)
+    OMBRIVANE_TEXT(travellersText, core().travellersText)
     OMBRIVANE_FLAG(isChosen, core().isChosen)
     OMBRIVANE_FLAG(isUnfolded, core().isUnfolded)
     OMBRIVANE_TEXT(detailsText, core().detailsText)
