@@ -178,6 +178,11 @@ TEST(PagesTest, WhatHappensIsSaidAloudAndTheFirstMissingFieldHasTheFocus) {
             window.settle();
             const auto said = announced(window);
             EXPECT_NE(std::count(said.begin(), said.end(), expected.at(name)), 0) << name;
+            if (name == "message") {
+                EXPECT_EQ(spoken(window, "contactLine"), "Emergency contact, missing");
+                EXPECT_TRUE(window.item("contactLine")->hasActiveFocus());
+                if (textScale == 1) expectKeyboardAt(window, "contactLine");
+            }
             if (name == "marked") expectKeyboardAt(window, "documentNumber");
             if (name == "undocumented") {
                 expectKeyboardAt(window, "upload");

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Ombrivane
 
-// One line of what is to be filled in; done or to do by icon and word.
+// One line of what is to be filled in: done with a tick, to do with the way to it, marked where it was left out.
 T.AbstractButton {
     id: item
 
@@ -13,17 +13,18 @@ T.AbstractButton {
     enabled: row.tapEnabled
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
-    Accessible.name: row.title
+    Accessible.name: row.isMarked ? Words.fill(Words.fieldIsMissing, {field: row.title}) : row.title
     Accessible.description: row.detail
     onClicked: row.tap()
     Keys.onReturnPressed: item.clicked()
 
-    background: Rectangle {
+    background: Item { Rectangle {
+        anchors { fill: parent; leftMargin: -8; rightMargin: -8 }
         radius: Theme.fieldRadius
         color: item.down ? Theme.segmentColor : "transparent"
-        border.width: item.visualFocus ? 2 : 0
-        border.color: Theme.secondaryColor
-    }
+        border.width: item.visualFocus || item.row.isMarked ? 2 : 0
+        border.color: item.row.isMarked ? Theme.primaryColor : Theme.secondaryColor
+    } }
     contentItem: Item {
         Icon {
             id: icon
@@ -31,27 +32,37 @@ T.AbstractButton {
             height: 24
             anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             name: "userIcon"
-            color: Theme.placeHolderColor
+            color: item.row.isMarked ? Theme.primaryColor : Theme.placeHolderColor
         }
         Column {
             id: texts
-            anchors { left: icon.right; leftMargin: 12; right: state.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
+            anchors { left: icon.right; leftMargin: 12; right: tick.visible ? tick.left : state.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
             PlainText { width: parent.width; text: item.row.title; font.weight: Font.Medium; Accessible.ignored: true }
             PlainText {
                 width: parent.width
                 text: item.row.detail
-                color: item.row.isFilled ? Theme.secondaryColor : Theme.placeHolderColor
+                color: item.row.isMarked ? Theme.primaryColor : Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
                 Accessible.ignored: true
             }
+        }
+        Icon {
+            id: tick
+            objectName: "tick"
+            anchors { right: state.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+            visible: item.row.isComplete
+            width: 24
+            height: 24
+            name: "doneIcon"
+            color: Theme.secondaryColor
         }
         Icon {
             id: state
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             width: 24
             height: 24
-            name: item.row.isFilled ? "editIconBlue" : "todoIcon"
-            color: item.row.isFilled ? Theme.secondaryColor : Theme.placeHolderColor
+            name: item.row.isMarked ? "warningIcon" : item.row.isFilled ? "editIconBlue" : "chevronRightIcon"
+            color: item.row.isMarked ? Theme.primaryColor : Theme.blackColor
         }
     }
 }

@@ -9,7 +9,25 @@ Item {
     required property SessionAdapter screen
     readonly property bool pays: screen.payment !== null && screen.payment.showProgressView
 
+    readonly property bool cramped: height < 560 * Math.min(1.5, Theme.textScale)
+
+    // The first line that is marked comes into view, and has the focus.
+    function showMissing() {
+        let first = contactLine.row.isMarked ? contactLine : null
+        for (let i = 0; first === null && i < passengers.count; ++i) {
+            const line = passengers.itemAt(i) as ContactRow
+            if (line !== null && line.row.isMarked) first = line
+        }
+        if (first === null) return
+        first.forceActiveFocus(Qt.OtherFocusReason)
+        column.reveal(first)
+    }
+
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
+    Connections {
+        target: page.screen
+        function onShowSnackBarChanged() { if (page.screen.showSnackBar) page.showMissing() }
+    }
     ColumnLayout {
         id: header
         width: parent.width
@@ -32,10 +50,19 @@ Item {
         }
     }
     PageColumn {
-        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom }
+        id: column
+        anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: moved.visible && !page.cramped ? moved.top : foot.visible ? foot.top : parent.bottom }
         visible: !page.screen.showPaymentView
         enabled: page.screen.lendsInput
         footCover: page.screen.showSnackBar ? snack.implicitHeight + Theme.margin : 0
+        // Where there is little height, with what is read first.
+        Notice {
+            Layout.fillWidth: true
+            visible: message !== "" && page.cramped
+            message: page.cramped ? page.screen.fareNotice : ""
+            struck: page.screen.formerTotal
+            glad: page.screen.fareFell
+        }
         Card {
             Layout.fillWidth: true
             awaited: page.screen.isLoading
@@ -43,20 +70,27 @@ Item {
                 model: page.screen.information.journeys
                 JourneySummary { Layout.fillWidth: true; awaited: page.screen.isLoading }
             }
-            PlainText {
+            GridLayout {
+                id: summary
                 Layout.fillWidth: true
-                awaited: page.screen.isLoading
-                text: page.screen.information.passengerLine
-                color: Theme.placeHolderColor
-                font.pixelSize: Theme.captionSize
-            }
-            MainButton {
-                objectName: "details"
-                Layout.fillWidth: true
-                quiet: true
-                text: page.screen.information.detailsText
-                enabled: page.screen.information.viewDetailsEnabled
-                onClicked: page.screen.information.viewDetails()
+                columns: page.width < 374 * Theme.textScale || details.implicitWidth > page.width / 2 ? 1 : 2
+                columnSpacing: 8
+                rowSpacing: 4
+                PlainText {
+                    Layout.fillWidth: true
+                    awaited: page.screen.isLoading
+                    text: page.screen.information.passengerLine
+                    color: Theme.placeHolderColor
+                    font.pixelSize: Theme.captionSize
+                }
+                PillButton {
+                    id: details
+                    objectName: "details"
+                    Layout.fillWidth: summary.columns === 1
+                    text: page.screen.information.detailsText
+                    enabled: page.screen.information.viewDetailsEnabled
+                    onClicked: page.screen.information.viewDetails()
+                }
             }
         }
         Card {
@@ -65,22 +99,42 @@ Item {
             title: page.screen.baggage.title
             Repeater {
                 model: page.screen.baggage.blocks
-                ColumnLayout {
+                GridLayout {
                     id: block
                     required property BaggageValue modelData
                     Layout.fillWidth: true
-                    spacing: 4
-                    PlainText { awaited: page.screen.isLoading; text: block.modelData.route; font.weight: Font.Medium }
-                    LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: page.screen.baggage.cabinLabel; value: block.modelData.cabin; awaited: page.screen.isLoading }
-                    LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: page.screen.baggage.checkInLabel; value: block.modelData.checkIn; awaited: page.screen.isLoading }
+                    columns: width < 290 * Theme.textScale ? 1 : 2
+                    columnSpacing: Theme.margin
+                    rowSpacing: 4
+                    PlainText {
+                        Layout.alignment: Qt.AlignTop
+                        Layout.maximumWidth: parent.width
+                        awaited: page.screen.isLoading
+                        text: block.modelData.route
+                        font.pixelSize: Theme.captionSize
+                        font.weight: Font.Medium
+                    }
+                    ColumnLayout {
+                        Layout.fillWidth: true
+                        spacing: 2
+                        LabelledLine { Layout.fillWidth: true; compact: true; iconName: "handcarryIcon"; label: page.screen.baggage.cabinLabel; value: block.modelData.cabin; awaited: page.screen.isLoading }
+                        LabelledLine { Layout.fillWidth: true; compact: true; iconName: "brifcaseIcon"; label: page.screen.baggage.checkInLabel; value: block.modelData.checkIn; awaited: page.screen.isLoading }
+                    }
                 }
             }
+        }
+        CheckProgress {
+            Layout.fillWidth: true
+            visible: !page.screen.isLoading
+            text: page.screen.contact.doneText
+            part: page.screen.contact.donePart
         }
         Card {
             Layout.fillWidth: true
             title: page.screen.contact.contactTitle
             opacity: page.screen.isLoading ? 0.5 : 1
             ContactRow {
+                id: contactLine
                 objectName: "contactLine"
                 Layout.fillWidth: true
                 row: page.screen.contact.contactLine
@@ -91,6 +145,7 @@ Item {
             title: page.screen.contact.passengerTitle
             opacity: page.screen.isLoading ? 0.5 : 1
             Repeater {
+                id: passengers
                 model: page.screen.contact.rows
                 ContactRow { Layout.fillWidth: true }
             }
@@ -106,6 +161,16 @@ Item {
         active: page.screen.payment !== null
         sourceComponent: PaymentCard { screen: page.screen.payment }
     }
+    Notice {
+        id: moved
+        objectName: "fareMoved"
+        anchors { bottom: foot.top; bottomMargin: 8; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        visible: message !== "" && foot.visible && !page.cramped
+        message: page.cramped ? "" : page.screen.fareNotice
+        struck: page.screen.formerTotal
+        glad: page.screen.fareFell
+    }
     FootBar {
         id: foot
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
@@ -114,8 +179,12 @@ Item {
         label: page.screen.totalLabel
         value: page.screen.total
         emphasised: true
+        terse: page.cramped
         action: page.screen.continueText
-        onClicked: page.screen.proceed()
+        onClicked: {
+            page.screen.proceed()
+            page.showMissing()
+        }
     }
     ProgressOverlay {
         anchors.fill: parent
@@ -124,7 +193,7 @@ Item {
     }
     SnackBar {
         id: snack
-        anchors { left: parent.left; right: parent.right; bottom: foot.visible ? foot.top : parent.bottom; margins: Theme.margin }
+        anchors { left: parent.left; right: parent.right; bottom: moved.visible ? moved.top : foot.visible ? foot.top : parent.bottom; margins: Theme.margin }
         message: page.screen.errorMessage
         shown: page.screen.showSnackBar
     }

@@ -15,6 +15,8 @@ class ContactLineAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_TEXT(title, core().title)
     OMBRIVANE_TEXT(detail, core().detail)
     OMBRIVANE_FLAG(isFilled, core().isFilled)
+    OMBRIVANE_FLAG(isComplete, core().isComplete)
+    OMBRIVANE_FLAG(isMarked, core().isMarked)
     OMBRIVANE_INTENT(tap, core().tap)
     OMBRIVANE_ENABLED(tap, core().tap)
 };

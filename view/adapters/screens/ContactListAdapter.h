@@ -14,6 +14,8 @@ class ContactListAdapter : public ombrivane::view::ScreenAdapter {
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     OMBRIVANE_SCREEN(ContactListAdapter, ScreenAdapter, OWPessangerContactDetailView)
+    OMBRIVANE_TEXT(doneText, core().doneText)
+    OMBRIVANE_FIELD(double, donePart, core().donePart)
     OMBRIVANE_TEXT(contactTitle, core().contactTitle)
     OMBRIVANE_TEXT(passengerTitle, core().passengerTitle)
     OMBRIVANE_ROWS(rows, core().rows)
