@@ -37,7 +37,7 @@ constexpr Look looks[] = {
     {"wide", 1024, 768, false, 1.3, "ar"},
 };
 
-constexpr const char* walks[] = {"abroad", "home", "trouble", "payment", "hostile"};
+constexpr const char* walks[] = {"abroad", "home", "trouble", "payment", "hostile", "several"};
 
 /// The share of points that differ by more than what smoothing makes of them.
 double difference(const QImage& one, const QImage& other) {

@@ -7,6 +7,8 @@ T.AbstractButton {
     id: item
 
     required property AirportRowAdapter row
+    // What the customer typed: its letters stand out.
+    property string sought: ""
 
     objectName: "row"
     implicitHeight: texts.implicitHeight + 20
@@ -26,22 +28,22 @@ T.AbstractButton {
         Column {
             id: texts
             anchors { left: parent.left; leftMargin: 14; right: code.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
-            PlainText { width: parent.width; text: item.row.mainText; font.weight: Font.Medium; Accessible.ignored: true }
-            PlainText {
+            FoundText { width: parent.width; text: item.row.mainText; sought: item.sought; font.weight: Font.Medium }
+            FoundText {
                 width: parent.width
                 text: item.row.name
+                sought: item.sought
                 color: Theme.placeHolderColor
                 font.pixelSize: Theme.captionSize
-                Accessible.ignored: true
             }
         }
-        PlainText {
+        FoundText {
             id: code
+            sought: item.sought
             anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
             text: item.row.code
             font.weight: Font.DemiBold
-            color: Theme.secondaryColor
-            Accessible.ignored: true
+            color: Theme.blackColor
         }
     }
 }

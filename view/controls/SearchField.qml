@@ -9,8 +9,8 @@ T.TextField {
     required property string placeholder
 
     implicitHeight: Math.max(Theme.fieldHeight, contentHeight + 20, hint.visible ? hint.implicitHeight + 16 : 0)
-    leftPadding: Words.rightToLeft ? 14 : 48
-    rightPadding: Words.rightToLeft ? 48 : 14
+    leftPadding: 48
+    rightPadding: 48
     horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.blackColor
@@ -44,6 +44,19 @@ T.TextField {
             text: field.placeholder
             color: Theme.placeHolderColor
             Accessible.ignored: true
+        }
+    }
+    IconButton {
+        objectName: "clear"
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        visible: field.length > 0
+        iconName: "xmark.circle"
+        label: Words.searchClear
+        tint: Theme.placeHolderColor
+        onClicked: {
+            field.clear()
+            field.textEdited()
+            field.forceActiveFocus(Qt.OtherFocusReason)
         }
     }
 }

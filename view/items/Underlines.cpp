@@ -31,7 +31,7 @@ void Underlines::paint(QPainter* painter) {
             if (from >= to) continue;
             const double left = line.cursorToX(from), right = line.cursorToX(to);
             painter->fillRect(
-                QRectF(origin_.x() + left, under, right - left, std::max(1.0, metrics.lineWidth()))
+                QRectF(origin_.x() + left, under, right - left, std::max(strength_, metrics.lineWidth()))
                     .normalized(),
                 color_);
         }

@@ -22,6 +22,8 @@ class Underlines : public QQuickPaintedItem {
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
     /// Where the text begins in the item; its lines end at the item's right side.
     Q_PROPERTY(QPointF origin MEMBER origin_ NOTIFY changed FINAL)
+    /// The least thickness of a line, in points.
+    Q_PROPERTY(double strength MEMBER strength_ NOTIFY changed FINAL)
     /// In heights of a line.
     Q_PROPERTY(double lineHeight MEMBER lineHeight_ NOTIFY changed FINAL)
 
@@ -38,6 +40,7 @@ private:
     QFont font_;
     QColor color_;
     QPointF origin_;
+    double strength_ = 1;
     double lineHeight_ = 1;
 };
 

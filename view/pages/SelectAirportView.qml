@@ -27,22 +27,66 @@ Item {
             placeholder: page.screen.placeholder
             onTextEdited: page.screen.type(text)
         }
-        PlainText {
-            id: heading
-            anchors { top: field.bottom; topMargin: Theme.margin }
-            width: parent.width
-            text: page.screen.heading
-            font.pixelSize: Theme.sectionSize
-            font.weight: Font.Medium
+        ProgressLine {
+            anchors { top: field.bottom; topMargin: 6; left: parent.left; right: parent.right }
+            visible: patience.over
+            label: Words.loading
+        }
+        // An answer that comes at once wants no sign of having been awaited.
+        Timer {
+            id: patience
+            property bool over: false
+            interval: 500
+            running: page.screen.isLoading && list.count > 0
+            onRunningChanged: over = false
+            onTriggered: over = true
+        }
+        Column {
+            id: told
+            anchors { top: field.bottom; topMargin: Theme.margin; left: parent.left; right: parent.right }
+            spacing: 8
+            Notice {
+                width: parent.width
+                message: page.screen.errorMessage
+            }
+            Notice {
+                width: parent.width
+                iconName: "searchIcon"
+                message: page.screen.nothingText
+            }
+            PlainText {
+                width: parent.width
+                visible: page.screen.showsHeading
+                text: page.screen.heading
+                font.pixelSize: Theme.sectionSize
+                font.weight: Font.Medium
+                Accessible.role: Accessible.Heading
+            }
+            Repeater {
+                model: page.screen.isLoading && list.count === 0 && page.screen.nothingText === "" ? 6 : 0
+                Rectangle {
+                    objectName: "awaited"
+                    width: told.width
+                    height: shape.implicitHeight + 20
+                    radius: Theme.fieldRadius
+                    color: Theme.whiteColor
+                    AwaitedText {
+                        id: shape
+                        anchors { left: parent.left; leftMargin: 14; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
+                        lines: [0.45, 0.7]
+                    }
+                }
+            }
         }
         ListView {
             id: list
-            anchors { top: heading.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
+            anchors { top: told.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
             clip: true
             spacing: 8
             model: page.screen.rows
             delegate: AirportRow {
                 width: list.width
+                sought: page.screen.answered
             }
         }
     }

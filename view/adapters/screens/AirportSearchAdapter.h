@@ -13,6 +13,11 @@ class AirportSearchAdapter : public ombrivane::view::ScreenAdapter {
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     OMBRIVANE_SCREEN(AirportSearchAdapter, ScreenAdapter, AirportSearch)
+    OMBRIVANE_FLAG(isLoading, core().isLoading)
+    OMBRIVANE_TEXT(answered, core().answered)
+    OMBRIVANE_FLAG(showsHeading, core().showsHeading)
+    OMBRIVANE_TEXT(nothingText, core().nothingText)
+    OMBRIVANE_TEXT(errorMessage, core().errorMessage)
     OMBRIVANE_TEXT(placeholder, core().placeholder)
     OMBRIVANE_TEXT(heading, core().heading)
     OMBRIVANE_ROWS(rows, core().rows)
