@@ -2,7 +2,7 @@ import QtQuick
 import Ombrivane
 
 // Shows the stack of screens: pushed pages fill the stage and slide in, sheets and alerts lie over them. What is
-// covered takes no input.
+// covered takes no input and is told to nobody.
 FocusScope {
     id: root
 
@@ -26,10 +26,10 @@ FocusScope {
             visible: index >= root.model.firstInView || index === root.model.firstInView - 1 && root.model.count - 1 === root.model.firstInView
             enabled: index === root.model.count - 1
             focus: enabled
-            Accessible.ignored: !enabled
             onLoaded: if (pushed) arrival = 0
             Component.onCompleted: setSource(page, {"screen": screen})
 
+            Unspoken { item: entry.item as Item; when: !entry.enabled }
             Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
             Connections {
                 target: entry.item
@@ -37,6 +37,12 @@ FocusScope {
                 function onBack() { root.model.back() }
             }
         }
+    }
+    FocusRing {
+        objectName: "focusRing"
+        z: 1
+        canvas: Theme.canvasColor
+        ink: Theme.blackColor
     }
     Keys.onBackPressed: event => event.accepted = root.model.back()
 }

@@ -270,7 +270,7 @@ TEST(PagesTest, WhatIsAwaitedIsShownAsShapesAndEachLegHasItsLine) {
             EXPECT_EQ(countOf(window, "carrierLogo"), 2) << "one for each leg, on the session below";
         }
         if (name == "session-awaited") expectNoSample(window, "Baggage Information");
-        if (name == "payment-awaited") expectNoSample(window, "Enter OTP");
+        if (name == "payment-awaited") expectNoSample(window, "Payment");
         if (name == "ticket-awaited") expectNoSample(window, "Booking Confirmed");
         if (name == "details") expectLegsWithLines(window, 2);
         ++looks;

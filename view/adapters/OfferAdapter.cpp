@@ -3,6 +3,14 @@
 #include <QStringList>
 
 namespace ombrivane::view {
+namespace {
+
+/// What may be carried along, with the word for the icon that stands beside it.
+std::string weight(Text what, const std::string& allowance) {
+    return said(Text::fieldWithValue, {{"field", said(what)}, {"value", allowance}});
+}
+
+} // namespace
 
 void JourneyAdapter::update(JourneyLines lines) {
     if (lines == lines_) return;
@@ -20,7 +28,9 @@ QString JourneyAdapter::spoken() const {
                                          lines_.arrivalDate,
                                          lines_.duration,
                                          lines_.cabin,
-                                         lines_.refundability};
+                                         lines_.refundability,
+                                         weight(Text::cabinBaggage, lines_.cabinBaggage),
+                                         weight(Text::checkInBaggage, lines_.checkInBaggage)};
     return shown(parts).join(", ");
 }
 

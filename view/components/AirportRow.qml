@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // One airport: city and country, code, name.
-T.AbstractButton {
+ListEntry {
     id: item
 
     required property AirportRowAdapter row
@@ -12,17 +11,12 @@ T.AbstractButton {
 
     objectName: "row"
     implicitHeight: texts.implicitHeight + 20
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.ListItem
     Accessible.name: row.mainText + ", " + row.name + ", " + row.code
     onClicked: row.tap()
-    Keys.onReturnPressed: item.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: item.down ? Theme.segmentColor : Theme.whiteColor
-        border.width: item.visualFocus ? 2 : 0
-        border.color: Theme.secondaryColor
     }
     contentItem: Item {
         Column {

@@ -23,12 +23,7 @@ Rectangle {
     Accessible.role: Accessible.StaticText
     Accessible.name: Words.fill(Words.sessionClock, {time: time, label: label})
 
-    Announcement {
-        id: said
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: said.text
-        text: pill.lastMinute ? Words.sessionLastMinute : ""
-    }
+    Aloud { text: pill.lastMinute ? Words.sessionLastMinute : "" }
     // The words go below the time where there is no room beside it.
     Flow {
         id: row

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // One line of what is to be filled in: done with a tick, to do with the way to it, marked where it was left out.
-T.AbstractButton {
+Pressable {
     id: item
 
     required property ContactLineAdapter row
@@ -11,19 +10,16 @@ T.AbstractButton {
     objectName: "contactRow"
     implicitHeight: Math.max(60, texts.implicitHeight + 16)
     enabled: row.tapEnabled
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
     Accessible.name: row.isMarked ? Words.fill(Words.fieldIsMissing, {field: row.title}) : row.title
     Accessible.description: row.detail
     onClicked: row.tap()
-    Keys.onReturnPressed: item.clicked()
 
     background: Item { Rectangle {
         anchors { fill: parent; leftMargin: -8; rightMargin: -8 }
         radius: Theme.fieldRadius
         color: item.down ? Theme.segmentColor : "transparent"
-        border.width: item.visualFocus || item.row.isMarked ? 2 : 0
-        border.color: item.row.isMarked ? Theme.primaryColor : Theme.secondaryColor
+        border.width: item.row.isMarked ? 2 : 0
+        border.color: Theme.primaryColor
     } }
     contentItem: Item {
         Icon {

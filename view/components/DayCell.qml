@@ -1,20 +1,18 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // One day of a month: chosen days are filled and bold, the days between them lie on a band.
-T.AbstractButton {
+ListEntry {
     id: cell
 
     required property DayAdapter modelData
+    readonly property Item ringed: disc
 
     objectName: modelData.date
+    marked: modelData.selected
     enabled: modelData.selectable
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
+    isChoice: true
     Accessible.name: modelData.label
-    Accessible.checkable: true
-    Accessible.checked: modelData.selected
 
     background: Item {
         // Few days lie on the band, and a month has many days.
@@ -35,8 +33,6 @@ T.AbstractButton {
             height: parent.height - 4
             radius: height / 2
             color: cell.modelData.selected ? Theme.secondaryColor : cell.down ? Theme.segmentColor : "transparent"
-            border.width: cell.visualFocus ? 2 : 0
-            border.color: cell.modelData.selected ? Theme.blackColor : Theme.secondaryColor
         }
     }
     contentItem: PlainText {
@@ -50,6 +46,4 @@ T.AbstractButton {
         wrapMode: Text.NoWrap
         Accessible.ignored: true
     }
-    Keys.onReturnPressed: cell.clicked()
-    Keys.onEnterPressed: cell.clicked()
 }

@@ -12,6 +12,7 @@ ResultsContent {
     property string action: ""
     signal acted
 
+    Aloud { text: state.title + " " + state.text }
     Flickable {
         anchors { fill: parent; topMargin: state.topInset; bottomMargin: state.bottomInset }
         contentHeight: Math.max(height, column.implicitHeight + 2 * Theme.sectionGap)

@@ -42,25 +42,25 @@ ColumnLayout {
     RowLayout {
         Layout.alignment: Qt.AlignHCenter
         spacing: 4
-        IconButton {
+        IconLink {
             visible: footer.screen.callMobileEnabled
             iconName: "phoneIcon"
             label: footer.screen.mobile
             onClicked: footer.screen.callMobile()
         }
-        IconButton {
+        IconLink {
             visible: footer.screen.openViberEnabled
             iconName: "viberIcon"
             label: Words.supportViber
             onClicked: footer.screen.openViber()
         }
-        IconButton {
+        IconLink {
             visible: footer.screen.openWhatsappEnabled
             iconName: "whatsappIcon"
             label: Words.supportWhatsapp
             onClicked: footer.screen.openWhatsapp()
         }
-        IconButton {
+        IconLink {
             visible: footer.screen.callLandLineEnabled
             iconName: "rotarPhoneIcon"
             label: footer.screen.landLine

@@ -9,7 +9,15 @@ Column {
     required property MonthAdapter row
     required property real cellWidth
     required property real cellHeight
+    // The day that the keys stand on, "yyyy-MM-dd".
+    property string dayAtKeys: ""
     signal tapped(day: string)
+
+    function cellAt(day: string): Item {
+        for (let i = 0; i < days.count; ++i)
+            if (days.itemAt(i).objectName === day) return days.itemAt(i)
+        return null
+    }
 
     spacing: 4
     bottomPadding: Theme.sectionGap
@@ -35,6 +43,7 @@ Column {
                 y: Math.floor(position / 7) * month.cellHeight
                 width: month.cellWidth
                 height: month.cellHeight
+                atKeys: modelData.date === month.dayAtKeys
                 onClicked: month.tapped(modelData.date)
             }
         }

@@ -1,41 +1,28 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // One offer: a tap chooses it and unfolds its segments, another takes both back.
-T.AbstractButton {
+ListEntry {
     id: card
 
     required property OfferAdapter row
 
     objectName: "offer"
     implicitHeight: column.implicitHeight + 2 * Theme.gap
+    isChoice: true
+    marked: row.isChosen
     enabled: row.tapEnabled
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.CheckBox
     Accessible.name: row.label
     Accessible.description: row.detailsText
-    Accessible.checkable: true
-    Accessible.checked: row.isChosen
+    Accessible.ignored: row.isPlaceholder
     onClicked: row.tap()
-    Keys.onReturnPressed: card.clicked()
-    Keys.onEnterPressed: card.clicked()
 
     background: Rectangle {
         radius: Theme.cardRadius
         color: Theme.whiteColor
         border.width: card.row.isChosen ? 2 : 1
         border.color: card.row.isChosen ? Theme.secondaryColor : Theme.hairlineColor
-        Rectangle {
-            anchors.fill: parent
-            anchors.margins: -3
-            visible: card.visualFocus
-            radius: Theme.cardRadius + 3
-            color: "transparent"
-            border.width: 2
-            border.color: Theme.secondaryColor
-        }
     }
     contentItem: Shimmer {
         running: card.row.isPlaceholder

@@ -11,12 +11,7 @@ Item {
     Accessible.role: Accessible.ProgressBar
     Accessible.name: label
 
-    Announcement {
-        id: said
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: said.text
-        text: line.visible ? line.label : ""
-    }
+    Aloud { text: line.visible ? line.label : "" }
     Rectangle {
         anchors.fill: parent
         radius: 2

@@ -9,12 +9,7 @@ Rectangle {
 
     color: Theme.dimColor
 
-    Announcement {
-        id: said
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: said.text
-        text: overlay.visible ? overlay.message : ""
-    }
+    Aloud { text: overlay.visible ? overlay.message : "" }
     Blocker { anchors.fill: parent }
     Rectangle {
         anchors.centerIn: parent

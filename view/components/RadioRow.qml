@@ -1,26 +1,20 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // One choice of a group.
-T.AbstractButton {
+MarkedRadio {
     id: item
 
     required property RadioRowAdapter row
 
+    marked: row.isMarked
     implicitHeight: Math.max(Theme.target, label.implicitHeight + 12)
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.RadioButton
     Accessible.name: row.label
-    Accessible.checked: row.isMarked
     onClicked: row.tap()
-    Keys.onReturnPressed: item.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: item.down ? Theme.segmentColor : "transparent"
-        border.width: item.visualFocus ? 2 : 0
-        border.color: Theme.secondaryColor
     }
     contentItem: Item {
         Icon {

@@ -33,17 +33,19 @@ FocusScope {
     Item {
         anchors { left: parent.left; leftMargin: page.besideFilter ? Theme.besideWidth : 0; right: parent.right; top: parent.top; bottom: parent.bottom }
 
+        // First, as it is read and walked through first, and over what passes under it.
+        ResultsHeader {
+            id: header
+            z: 1
+            width: parent.width
+            screen: page.results
+            cramped: page.cramped
+        }
         Loader {
             id: content
             readonly property ResultsContent shown: item as ResultsContent
             anchors.fill: parent
             focus: true
-        }
-        ResultsHeader {
-            id: header
-            width: parent.width
-            screen: page.results
-            cramped: page.cramped
         }
         // Never over a price or an arrival, which stand at the end of each card: beside the cards where there is room, else
         // in the middle, where a card has its plane; with large letters in a bar of their own.
@@ -80,7 +82,7 @@ FocusScope {
                     visible: page.results.showsFloatingBar
                     iconName: "filterIcon"
                     label: page.results.filterIsOn ? Words.filterIsOn : Words.filterIsOff
-                    marked: page.results.filterIsOn
+                    on: page.results.filterIsOn
                     onClicked: page.results.openFilter()
                 }
             }

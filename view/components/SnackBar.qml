@@ -14,12 +14,7 @@ Item {
     visible: arrival > 0
     opacity: arrival
 
-    Announcement {
-        id: said
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: said.text
-        text: bar.shown ? bar.message : ""
-    }
+    Aloud { text: bar.shown ? bar.message : "" }
     Behavior on arrival { NumberAnimation { duration: Theme.reducedMotion ? 0 : 250; easing.type: Easing.OutCubic } }
 
     TextMetrics { id: natural; font.family: Theme.fontFamily; font.pixelSize: Theme.bodySize; text: bar.message }

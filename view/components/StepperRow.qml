@@ -7,7 +7,13 @@ Item {
 
     required property StepperAdapter row
 
+    // Told once the customer has changed it.
+    property bool isChanged: false
+    readonly property string count: Words.fill(Words.fieldWithValue, {field: row.category, value: row.numberValue})
+
     implicitHeight: Math.max(56, texts.implicitHeight + 8)
+
+    Aloud { text: item.isChanged ? item.count : "" }
 
     Column {
         id: texts
@@ -27,7 +33,10 @@ Item {
         iconName: "decrementIcon"
         label: Words.fill(Words.travellersOneLess, {kind: item.row.category})
         tint: item.row.mayDecrement ? Theme.secondaryColor : Theme.formBorderColor
-        onClicked: item.row.decrement()
+        onClicked: {
+            item.isChanged = true
+            item.row.decrement()
+        }
     }
     PlainText {
         id: number
@@ -36,6 +45,7 @@ Item {
         width: 28 * Theme.textScale
         horizontalAlignment: Text.AlignHCenter
         text: item.row.numberValue
+        Accessible.name: item.count
         font.pixelSize: Theme.sectionSize
         font.weight: Font.Medium
     }
@@ -46,6 +56,9 @@ Item {
         iconName: "incrementIcon"
         label: Words.fill(Words.travellersOneMore, {kind: item.row.category})
         tint: item.row.mayIncrement ? Theme.secondaryColor : Theme.formBorderColor
-        onClicked: item.row.increment()
+        onClicked: {
+            item.isChanged = true
+            item.row.increment()
+        }
     }
 }

@@ -1,10 +1,9 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Ombrivane
 
 // An airline with a price, which leads to its offer in the list below.
-T.AbstractButton {
+ListEntry {
     id: card
 
     required property OfferCardAdapter row
@@ -14,18 +13,15 @@ T.AbstractButton {
     implicitWidth: line.implicitWidth + 24
     implicitHeight: Math.max(Theme.target, line.implicitHeight + 20)
     enabled: !awaited
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
+    Accessible.ignored: awaited
     Accessible.name: row.carrierName + ", " + row.price
     onClicked: row.tap()
-    Keys.onReturnPressed: card.clicked()
-    Keys.onEnterPressed: card.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: card.down ? Theme.segmentColor : Theme.whiteColor
-        border.width: card.visualFocus ? 2 : 1
-        border.color: card.visualFocus ? Theme.secondaryColor : Theme.hairlineColor
+        border.width: 1
+        border.color: Theme.hairlineColor
     }
     contentItem: Shimmer {
         running: card.awaited

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // The tabs of the search; the highlight slides to the chosen one.
@@ -41,25 +40,16 @@ Rectangle {
         Repeater {
             id: tabs
             model: bar.screen.tabCount
-            T.AbstractButton {
+            MarkedTab {
                 id: tab
                 required property int index
                 objectName: "tab" + index
                 width: bar.cell
                 height: bar.height - 8
                 text: bar.screen.tabLabels[index]
-                focusPolicy: Qt.StrongFocus
-                Accessible.role: Accessible.PageTab
-                Accessible.name: text
-                Accessible.checked: index === bar.screen.tab
+                marked: index === bar.screen.tab
                 onClicked: bar.screen.tapTab(index)
-                Keys.onReturnPressed: tab.clicked()
-                background: Rectangle {
-                    radius: height / 2
-                    color: "transparent"
-                    border.width: tab.visualFocus ? 2 : 0
-                    border.color: Theme.blackColor
-                }
+                background: Rectangle { radius: height / 2; color: "transparent" }
                 contentItem: PlainText {
                     text: tab.text
                     onImplicitHeightChanged: Qt.callLater(bar.measure)

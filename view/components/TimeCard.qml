@@ -1,30 +1,24 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Ombrivane
 
 // One choice of a departure time.
-T.AbstractButton {
+MarkedRadio {
     id: card
 
     required property TimeCardAdapter row
 
+    marked: row.isSelected
     implicitHeight: line.implicitHeight + 24
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.RadioButton
     Accessible.name: row.title
     Accessible.description: row.subTitle
-    Accessible.checkable: true
-    Accessible.checked: row.isSelected
     onClicked: row.tap()
-    Keys.onReturnPressed: card.clicked()
-    Keys.onEnterPressed: card.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: card.row.isSelected ? Theme.calenderRangeColor : card.down ? Theme.segmentColor : Theme.whiteColor
-        border.width: card.row.isSelected || card.visualFocus ? 2 : 1
-        border.color: card.visualFocus ? Theme.blackColor : card.row.isSelected ? Theme.secondaryColor : Theme.formBorderColor
+        border.width: card.row.isSelected ? 2 : 1
+        border.color: card.row.isSelected ? Theme.secondaryColor : Theme.formBorderColor
     }
     contentItem: Item {
         RowLayout {

@@ -1,25 +1,16 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // A box with what it says.
-T.AbstractButton {
+MarkedBox {
     id: button
 
-    property bool marked: false
-
     implicitHeight: Math.max(Theme.target, label.implicitHeight + 12)
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.CheckBox
     Accessible.name: text
-    Accessible.checked: marked
-    Keys.onReturnPressed: button.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: "transparent"
-        border.width: button.visualFocus ? 2 : 0
-        border.color: Theme.secondaryColor
     }
     contentItem: Item {
         Icon {

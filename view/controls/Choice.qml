@@ -1,26 +1,19 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // One of a few choices that exclude each other.
-T.AbstractButton {
+MarkedRadio {
     id: button
-
-    property bool marked: false
 
     implicitHeight: Math.max(Theme.target, label.implicitHeight + 16)
     implicitWidth: label.implicitWidth + 60
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.RadioButton
     Accessible.name: text
-    Accessible.checked: marked
-    Keys.onReturnPressed: button.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: Theme.formBackgroundColor
-        border.width: button.visualFocus || button.marked ? 2 : 1
-        border.color: button.marked || button.visualFocus ? Theme.secondaryColor : Theme.formBorderColor
+        border.width: button.marked ? 2 : 1
+        border.color: button.marked ? Theme.secondaryColor : Theme.formBorderColor
     }
     contentItem: Item {
         Icon {

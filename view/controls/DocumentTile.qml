@@ -1,11 +1,10 @@
 import QtQuick
 import QtQuick.Shapes
-import QtQuick.Templates as T
 import Ombrivane
 
 // The picture of a document as a field: the outline of a page while there is none, then the picture itself. A tap picks
 // one, or another.
-T.AbstractButton {
+Pressable {
     id: tile
 
     required property string placeholder
@@ -16,12 +15,8 @@ T.AbstractButton {
     readonly property color tint: missing ? Theme.primaryColor : Theme.placeHolderColor
 
     implicitHeight: value.held ? Math.max(120, Math.min(width * value.ratio, 200)) : empty.implicitHeight + 32
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
     Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
     Accessible.description: value.held ? Words.pictureChosen : ""
-    Keys.onReturnPressed: tile.clicked()
-    Keys.onEnterPressed: tile.clicked()
 
     background: Rectangle {
         radius: Theme.fieldRadius
@@ -37,9 +32,9 @@ T.AbstractButton {
             anchors.fill: parent
             radius: Theme.fieldRadius
             color: "transparent"
-            border.width: tile.visualFocus || tile.missing ? 2 : 1
+            border.width: tile.missing ? 2 : 1
             border.color: tile.missing ? Theme.primaryColor
-                        : tile.visualFocus || tile.inOrder ? Theme.secondaryColor : Theme.formBorderColor
+                        : tile.inOrder ? Theme.secondaryColor : Theme.formBorderColor
         }
     }
     contentItem: Item {

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // A field of a form that opens something: its placeholder rises to a label once it has a value.
-T.AbstractButton {
+Pressable {
     id: field
 
     required property string iconName
@@ -16,17 +15,15 @@ T.AbstractButton {
     property real leastHeight: Theme.fieldHeight
 
     implicitHeight: Math.max(leastHeight, texts.implicitHeight + 12)
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
-    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
-    Accessible.description: value
+    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder})
+                             : value !== "" ? Words.fill(Words.fieldWithValue, {field: placeholder, value: value}) : placeholder
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: field.down ? Theme.segmentColor : (field.framed ? Theme.formBackgroundColor : "transparent")
-        border.width: field.visualFocus || field.missing ? 2 : (field.framed ? 1 : 0)
+        border.width: field.missing ? 2 : (field.framed ? 1 : 0)
         border.color: field.missing ? Theme.primaryColor
-                    : field.visualFocus || field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
+                    : field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
     }
     contentItem: Item {
         Icon {
@@ -67,6 +64,4 @@ T.AbstractButton {
         }
     }
     FieldMark { id: fieldMark }
-    Keys.onReturnPressed: field.clicked()
-    Keys.onEnterPressed: field.clicked()
 }

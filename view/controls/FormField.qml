@@ -15,6 +15,16 @@ T.TextField {
     readonly property alias inOrder: fieldMark.inOrder
     readonly property bool raised: length > 0 || preeditText !== ""
 
+    // Return goes to the next field, and after the last one to the button.
+    function goOn() {
+        let next = field.nextItemInFocusChain()
+        for (let i = 0; i < 20 && !takesOver(next); ++i) next = next.nextItemInFocusChain()
+        next.forceActiveFocus(Qt.TabFocusReason)
+    }
+    function takesOver(item: Item): bool {
+        return (item as FormField) !== null || (item as FieldButton) !== null || (item as DocumentTile) !== null || (item as MainButton) !== null
+    }
+
     text: value
     implicitHeight: Math.max(Theme.fieldHeight, raised ? topPadding + contentHeight + 10 : label.implicitHeight + 16)
     leftPadding: Words.rightToLeft ? 44 : 48
@@ -28,15 +38,17 @@ T.TextField {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.bodySize
     selectByMouse: true
+    EnterKey.type: Qt.EnterKeyNext
+    onAccepted: goOn()
     Accessible.role: Accessible.EditableText
     Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: Theme.formBackgroundColor
-        border.width: field.activeFocus || field.missing ? 2 : 1
+        border.width: field.missing ? 2 : 1
         border.color: field.missing ? Theme.primaryColor
-                    : field.activeFocus || field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
+                    : field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
         Icon {
             anchors { left: parent.left; leftMargin: 14 }
             width: 22

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // An icon as a control: 24 points in a target of 48.
-T.AbstractButton {
+Pressable {
     id: button
 
     required property string iconName
@@ -12,15 +11,11 @@ T.AbstractButton {
 
     implicitWidth: Theme.target
     implicitHeight: Theme.target
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
     Accessible.name: label
 
     background: Rectangle {
         radius: Theme.target / 2
         color: button.down ? Theme.segmentColor : "transparent"
-        border.width: button.visualFocus ? 2 : 0
-        border.color: Theme.secondaryColor
     }
     contentItem: Item {
         Icon {
@@ -32,6 +27,4 @@ T.AbstractButton {
             opacity: button.enabled ? 1 : 0.4
         }
     }
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
 }

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // The one main action of a screen.
-T.AbstractButton {
+Pressable {
     id: button
 
     property string iconName: ""
@@ -14,8 +13,6 @@ T.AbstractButton {
 
     implicitHeight: Math.max(Theme.fieldHeight, label.implicitHeight + 16)
     implicitWidth: Math.ceil(natural.advanceWidth) + Theme.overhang + spared
-    focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
     Accessible.name: text
 
     TextMetrics { id: natural; font: label.font; text: button.text }
@@ -23,8 +20,8 @@ T.AbstractButton {
         radius: height / 2
         color: button.quiet ? "transparent" : Theme.secondaryColor
         opacity: button.enabled ? (button.down ? 0.85 : 1) : 0.4
-        border.width: button.visualFocus ? 3 : (button.quiet ? 1 : 0)
-        border.color: button.visualFocus ? Theme.secondaryColor : Theme.blackColor
+        border.width: button.quiet ? 1 : 0
+        border.color: Theme.blackColor
     }
     contentItem: Item {
         Row {
@@ -51,6 +48,4 @@ T.AbstractButton {
             }
         }
     }
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
 }

@@ -39,7 +39,7 @@ T.Slider {
         height: 28
         radius: 14
         color: Theme.whiteColor
-        border.width: slider.visualFocus ? 4 : 2
+        border.width: 2
         border.color: Theme.secondaryColor
     }
 }

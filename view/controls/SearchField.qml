@@ -20,13 +20,15 @@ T.TextField {
     font.pixelSize: Theme.bodySize
     selectByMouse: true
     inputMethodHints: Qt.ImhNoPredictiveText
+    EnterKey.type: Qt.EnterKeySearch
+    Accessible.searchEdit: true
     Accessible.name: placeholder
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: Theme.formBackgroundColor
-        border.width: field.activeFocus ? 2 : 1
-        border.color: field.activeFocus ? Theme.secondaryColor : Theme.formBorderColor
+        border.width: 1
+        border.color: Theme.formBorderColor
         Icon {
             anchors { left: parent.left; leftMargin: 14 }
             width: 22

@@ -29,8 +29,6 @@ ListView {
     highlight: Rectangle {
         radius: Theme.fieldRadius
         color: Theme.segmentColor
-        border.width: wheel.activeFocus ? 2 : 0
-        border.color: Theme.secondaryColor
     }
     delegate: WheelEntry {
         width: wheel.width

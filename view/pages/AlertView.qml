@@ -9,7 +9,7 @@ FocusScope {
     required property AlertAdapter screen
 
     focus: true
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.Dialog
     Accessible.name: page.screen.title + " " + page.screen.message
 
     Rectangle {
@@ -31,6 +31,7 @@ FocusScope {
                 objectName: "title"
                 Layout.fillWidth: true
                 text: page.screen.title
+                Accessible.role: Accessible.Heading
                 font.pixelSize: Theme.titleSize
                 font.weight: Font.DemiBold
             }

@@ -7,6 +7,8 @@ Item {
     id: page
 
     required property SessionAdapter screen
+    // By progress, or by the end of the session.
+    readonly property bool isCovered: pays || screen.showProgressView || screen.showSessionExpiredAlert
     readonly property bool pays: screen.payment !== null && screen.payment.showProgressView
 
     readonly property bool cramped: height < 560 * Math.min(1.5, Theme.textScale)
@@ -20,7 +22,7 @@ Item {
         }
         if (first === null) return
         first.forceActiveFocus(Qt.OtherFocusReason)
-        column.reveal(first)
+        cards.reveal(first)
     }
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
@@ -49,8 +51,12 @@ Item {
             lastMinute: page.screen.isLastMinute
         }
     }
+    Unspoken { item: header; when: page.isCovered }
+    Unspoken { item: cards; when: page.isCovered }
+    Unspoken { item: payment; when: page.isCovered }
+    Unspoken { item: foot; when: page.isCovered }
     PageColumn {
-        id: column
+        id: cards
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: moved.visible && !page.cramped ? moved.top : foot.visible ? foot.top : parent.bottom }
         visible: !page.screen.showPaymentView
         enabled: page.screen.lendsInput
@@ -157,6 +163,7 @@ Item {
         }
     }
     Loader {
+        id: payment
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
         active: page.screen.payment !== null
         sourceComponent: PaymentCard { screen: page.screen.payment }

@@ -15,26 +15,22 @@ ResultsPage {
         Layout.preferredWidth: 1
         visible: page.screen.showsTabs
         spacing: 8
-        PillButton {
+        PillTab {
             objectName: "departingFlights"
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.preferredWidth: 1
-            Accessible.role: Accessible.PageTab
-            Accessible.checked: chosen
             text: page.screen.departingTitle
-            chosen: page.screen.tab === 0
+            marked: page.screen.tab === 0
             onClicked: page.screen.tapDepartingFlights()
         }
-        PillButton {
+        PillTab {
             objectName: "returningFlights"
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.preferredWidth: 1
-            Accessible.role: Accessible.PageTab
-            Accessible.checked: chosen
             text: page.screen.returningTitle
-            chosen: page.screen.tab === 1
+            marked: page.screen.tab === 1
             onClicked: page.screen.tapReturningFlights()
         }
     }

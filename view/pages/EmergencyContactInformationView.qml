@@ -77,7 +77,16 @@ Item {
         anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
         width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
         text: page.screen.saveText
-        onClicked: page.screen.save()
+        onClicked: {
+            refusal.restart()
+            page.screen.save()
+        }
+    }
+    // Also while the message of an earlier refusal stands; the page has gone where nothing was refused.
+    Timer {
+        id: refusal
+        interval: 0
+        onTriggered: if (page.screen.showSnackBar) fields.showFirstMissing()
     }
     Connections {
         target: page.screen

@@ -45,7 +45,7 @@ Sheet {
             id: column
             width: parent.width
             spacing: 4
-            PlainText { Layout.fillWidth: true; text: page.screen.priceTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            PlainText { Layout.fillWidth: true; text: page.screen.priceTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium; Accessible.role: Accessible.Heading }
             PlainText {
                 objectName: "priceRange"
                 Layout.fillWidth: true
@@ -71,17 +71,25 @@ Sheet {
                 color: Theme.blackColor
                 font.weight: Font.Medium
             }
-            PlainText { Layout.fillWidth: true; Layout.topMargin: Theme.gap; text: page.screen.airlinesTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
-            Repeater {
-                model: page.screen.airlines
-                RadioRow { Layout.fillWidth: true }
+            PlainText { Layout.fillWidth: true; Layout.topMargin: Theme.gap; text: page.screen.airlinesTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium; Accessible.role: Accessible.Heading }
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 4
+                Accessible.role: Accessible.Grouping
+                Accessible.name: page.screen.airlinesTitle
+                Repeater {
+                    model: page.screen.airlines
+                    RadioRow { Layout.fillWidth: true }
+                }
             }
-            PlainText { Layout.fillWidth: true; Layout.topMargin: Theme.gap; text: page.screen.timeTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            PlainText { Layout.fillWidth: true; Layout.topMargin: Theme.gap; text: page.screen.timeTitle; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium; Accessible.role: Accessible.Heading }
             GridLayout {
                 Layout.fillWidth: true
                 columns: parent.width < 220 * Theme.textScale ? 1 : 2
                 columnSpacing: 8
                 rowSpacing: 8
+                Accessible.role: Accessible.Grouping
+                Accessible.name: page.screen.timeTitle
                 Repeater {
                     model: page.screen.times
                     TimeCard {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ombrivane
 
 // The choice of a nationality.
@@ -20,28 +19,25 @@ Sheet {
         focus: true
         placeholder: page.screen.placeholder
         onTextEdited: page.screen.type(text)
+        onAccepted: list.goTo(0)
+        Keys.onDownPressed: list.goTo(list.currentIndex)
     }
-    ListView {
+    KeyList {
         id: list
         anchors { top: field.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
         clip: true
         cacheBuffer: 0 // rows are made when drawn, not while the page may be leaving
         model: page.screen.rows
-        delegate: T.AbstractButton {
+        Accessible.name: page.screen.placeholder
+        delegate: ListEntry {
             id: item
             required property NationalityRowAdapter row
             width: list.width
             implicitHeight: Math.max(Theme.target, name.implicitHeight + 16)
-            focusPolicy: Qt.StrongFocus
-            Accessible.role: Accessible.ListItem
+            objectName: "row"
             Accessible.name: row.nationality
             onClicked: row.tap()
-            Keys.onReturnPressed: item.clicked()
-            background: Rectangle {
-                color: item.down ? Theme.segmentColor : "transparent"
-                border.width: item.visualFocus ? 2 : 0
-                border.color: Theme.secondaryColor
-            }
+            background: Rectangle { color: item.down ? Theme.segmentColor : "transparent" }
             contentItem: PlainText {
                 id: name
                 leftPadding: Theme.margin

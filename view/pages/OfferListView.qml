@@ -50,13 +50,18 @@ ResultsContent {
     // Other offers start at their head.
     function startAnew() {
         page.stop()
+        if (!list.activeFocus) list.currentIndex = 0
         list.pinned = true
         list.pin()
     }
 
-    ListView {
+    Aloud { text: page.screen.isLoading ? Words.loading : "" }
+    KeyList {
         id: list
         objectName: "offers"
+        coveredTop: page.collapsedInset
+        coveredBottom: page.bottomInset
+        Accessible.name: page.screen.title
         anchors.fill: parent
         // Until the customer scrolls, the list stays at its top while header, strip and insets take their places.
         property bool pinned: true
@@ -84,9 +89,10 @@ ResultsContent {
                 font.weight: Font.Medium
                 Accessible.role: Accessible.Heading
             }
-            ListView {
+            KeyList {
                 id: strip
                 objectName: "strip"
+                Accessible.name: Words.filterAirlines
                 visible: page.screen.strip.count > 0
                 width: parent.width
                 height: Math.max(Theme.target, 36 * Theme.textScale + 28, currentItem?.implicitHeight ?? 0)
@@ -101,6 +107,7 @@ ResultsContent {
         delegate: RowHolder {
             id: place
             required property OfferAdapter row
+            required property int index
             held: row
             width: list.width
             height: card.implicitHeight
@@ -110,6 +117,9 @@ ResultsContent {
                 width: parent.width - 2 * x
                 height: implicitHeight
                 row: place.row
+                focus: true
+                atKeys: place.ListView.isCurrentItem
+                onPressed: list.currentIndex = place.index
             }
         }
         onOriginYChanged: pin()

@@ -17,12 +17,28 @@ Item {
     }
     ListView {
         id: list
+        objectName: "rules"
         anchors { top: header.bottom; bottom: foot.top; horizontalCenter: parent.horizontalCenter }
         width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
         clip: true
         spacing: 8
         model: page.screen.paragraphs
         onContentHeightChanged: page.screen.measured(contentHeight)
+        // A text to read is scrolled, not walked through: one stop where it is longer than the page.
+        activeFocusOnTab: contentHeight > height
+        keyNavigationEnabled: false
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.List
+        Accessible.name: page.screen.title
+        Keys.onPressed: event => {
+            const end = originY + Math.max(0, contentHeight - height)
+            const line = 3 * Theme.sectionSize
+            const places = {[Qt.Key_Down]: contentY + line, [Qt.Key_Up]: contentY - line, [Qt.Key_PageDown]: contentY + height - line, [Qt.Key_PageUp]: contentY - height + line,
+                            [Qt.Key_Space]: contentY + height - line, [Qt.Key_Home]: originY, [Qt.Key_End]: end}
+            event.accepted = event.key in places
+            if (event.key === Qt.Key_End) positionViewAtEnd()
+            else if (event.accepted) contentY = Math.max(originY, Math.min(end, places[event.key]))
+        }
         delegate: PlainText {
             id: paragraph
             required property string content

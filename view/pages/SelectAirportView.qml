@@ -26,6 +26,8 @@ Item {
             focus: true
             placeholder: page.screen.placeholder
             onTextEdited: page.screen.type(text)
+            onAccepted: list.goTo(0)
+            Keys.onDownPressed: list.goTo(list.currentIndex)
         }
         ProgressLine {
             anchors { top: field.bottom; topMargin: 6; left: parent.left; right: parent.right }
@@ -78,12 +80,13 @@ Item {
                 }
             }
         }
-        ListView {
+        KeyList {
             id: list
             anchors { top: told.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
             clip: true
             spacing: 8
             model: page.screen.rows
+            Accessible.name: page.screen.heading
             delegate: AirportRow {
                 width: list.width
                 sought: page.screen.answered

@@ -21,16 +21,22 @@ Sheet {
             id: column
             width: parent.width
             spacing: 4
-            PlainText { Layout.fillWidth: true; text: page.screen.heading; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            PlainText { Layout.fillWidth: true; text: page.screen.heading; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium; Accessible.role: Accessible.Heading }
             PlainText { Layout.fillWidth: true; text: page.screen.subHeading; color: Theme.placeHolderColor }
             Repeater {
                 model: page.screen.steppers
                 StepperRow { Layout.fillWidth: true }
             }
-            PlainText { Layout.fillWidth: true; Layout.topMargin: 8; text: page.screen.cabinHeading; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
-            Repeater {
-                model: page.screen.cabins
-                RadioRow { Layout.fillWidth: true }
+            PlainText { Layout.fillWidth: true; Layout.topMargin: 8; text: page.screen.cabinHeading; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium; Accessible.role: Accessible.Heading }
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 4
+                Accessible.role: Accessible.Grouping
+                Accessible.name: page.screen.cabinHeading
+                Repeater {
+                    model: page.screen.cabins
+                    RadioRow { Layout.fillWidth: true }
+                }
             }
         }
     }
