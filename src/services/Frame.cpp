@@ -52,9 +52,9 @@ void reportFailedCall(std::string_view endpoint, const std::optional<Error>& err
 }
 
 void expectCall() {
-    if (!platform().network) return;
-    const std::string url = Endpoints::shared().address("");
-    if (isUrl(url)) platform().network->expect(url);
+    // Without a token nothing is asked yet, and the host of the service may not be settled.
+    if (!platform().network || AppState::shared().accessToken->empty()) return;
+    platform().network->expect(Endpoints::shared().address(""));
 }
 
 void detail::perform(const ServiceCall& call, HttpCompletion answered) {
@@ -67,8 +67,10 @@ void detail::perform(const ServiceCall& call, HttpCompletion answered) {
     HttpRequest request;
     auto failure = attempted([&] { request = requestFor(call, std::move(url)); });
     if (failure) return answered(failed(*std::move(failure)));
-    platform().network->send(std::move(request), std::move(answered));
-    expectCall(); // a key typed follows another, an upload its reservation
+    const std::string next = request.url;
+    const auto network = platform().network;
+    network->send(std::move(request), std::move(answered));
+    network->expect(next); // a key typed follows another, an upload its reservation
 }
 
 std::optional<Error> detail::readAnswer(HttpAnswer answer, const std::string& failureDomain,

@@ -57,8 +57,8 @@ void OmbrivaneView::show() {
     parts_->leave();
     parts_->entry = std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal);
     parts_->navigator = std::make_unique<Navigator>(parts_->entry);
-    parts_->navigator->start();
     parts_->screens = parts_->navigator->observe(expectCall);
+    parts_->navigator->start(); // in which the host may let go of this view
 }
 
 Navigator* OmbrivaneView::navigator() const { return parts_->navigator.get(); }

@@ -126,7 +126,7 @@ Window {
         width: 390; height: parent.height
         clientId: "wallet"; clientSecret: "wallet-secret"; reducedMotion: true
         appearance: Appearance {
-            light { canvas: "#FFF8E7"; primary: wallet.brand }
+            light { canvas: "#FFF8E7"; secondary: wallet.brand }
             cornerRadius: 3; poweredBy: ""
         }
     }
@@ -188,9 +188,9 @@ TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
         return themes.begin()->first;
     };
     const Theme* light = themeOf("light");
-    EXPECT_EQ(light->primaryColor(), QColor("#8E1B4E"));
+    EXPECT_EQ(light->secondaryColor(), QColor("#8E1B4E"));
     EXPECT_EQ(light->fieldRadius(), 1);
-    EXPECT_EQ(themeOf("dark")->primaryColor(), QColor("#FF8A7A"));
+    EXPECT_EQ(themeOf("dark")->secondaryColor(), QColor("#4FD1C0"));
     EXPECT_EQ(diagnostics->lines, std::vector<std::string>());
 
     // A change is drawn at once; what cannot be read is told once.
@@ -209,12 +209,15 @@ TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
         EXPECT_EQ(hasColour("#2255AA"), std::string_view(brand) == "#2255AA");
         EXPECT_FALSE(hasColour("#FFE000"));
     }
-    EXPECT_EQ(diagnostics->lines,
-              (std::vector<std::string>{
-                  "Appearance: light \"primary\" on \"canvas\" has 1.25 to 1 of the 4.5 to 1 that it needs; "
-                  "drawn as #827200",
-                  "Appearance: light \"primary\" on \"card\" has 1.32 to 1 of the 4.5 to 1 that it needs; "
-                  "drawn as #827200"}));
+    EXPECT_EQ(
+        diagnostics->lines,
+        (std::vector<std::string>{
+            "Appearance: light \"secondary\" on \"canvas\" has 1.25 to 1 of the 4.5 to 1 that it needs; "
+            "drawn as #7d6e00",
+            "Appearance: light \"secondary\" on \"card\" has 1.32 to 1 of the 4.5 to 1 that it needs; "
+            "drawn as #7d6e00",
+            "Appearance: light \"secondary\" on \"segment\" has 1.17 to 1 of the 4.5 to 1 that it needs; "
+            "drawn as #7d6e00"}));
 
     // A view that goes takes its theme with it.
     QQmlEngine* engine = qmlEngine(&window.window());
