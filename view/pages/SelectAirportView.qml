@@ -85,6 +85,8 @@ Item {
             anchors { top: told.bottom; topMargin: 8; bottom: parent.bottom; left: parent.left; right: parent.right }
             clip: true
             spacing: 8
+            // None ahead of those in sight: the toolkit complains of a row that is being made while an answer takes it away.
+            cacheBuffer: 0
             model: page.screen.rows
             Accessible.name: page.screen.heading
             delegate: AirportRow {
