@@ -51,11 +51,13 @@ FocusScope {
         // in the middle, where a card has its plane; with large letters in a bar of their own.
         Rectangle {
             id: floating
+            z: 1
             readonly property real sideRoom: (parent.width - Theme.contentWidth) / 2
             readonly property bool beside: sideRoom >= buttons.width + 2 * Theme.gap
             readonly property bool docked: parent.width < 300 * Theme.textScale
             objectName: "floatingBar"
-            visible: page.results.showsFloatingBar
+            // A bar of its own gives way to the total: both would leave nothing of the list.
+            visible: page.results.showsFloatingBar && !(docked && page.results.showContinueButton)
             anchors.right: beside ? parent.right : undefined
             anchors.rightMargin: sideRoom - width - Theme.gap
             anchors.horizontalCenter: beside ? undefined : parent.horizontalCenter
@@ -90,6 +92,7 @@ FocusScope {
         FootBar {
             id: foot
             objectName: "total"
+            z: 2
             terse: page.cramped
             property real arrival: page.results.showContinueButton ? 1 : 0
             y: parent.height - page.footShown
@@ -104,6 +107,7 @@ FocusScope {
             Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
         }
         SnackBar {
+            z: 2
             anchors {
                 bottom: parent.bottom
                 bottomMargin: page.footShown + Theme.gap
