@@ -21,6 +21,7 @@ struct LanguageChoice {
     /// or some of them. words/Texts.def lists them all.
     std::map<std::string, std::string> texts;
 
+    /// Whether both ask for the same.
     bool operator==(const LanguageChoice&) const = default;
 };
 
