@@ -8,69 +8,25 @@ double AppearanceTable::cornerRadius() const {
     return value_.cornerRadius.value_or(std::numeric_limits<double>::quiet_NaN());
 }
 
-void AppearanceTable::setLight(const Colours& colours) {
-    Appearance next = value_;
-    next.light = colours;
-    become(next);
+template <class Value> void AppearanceTable::set(Value Appearance::*member, const Value& value) {
+    if (value_.*member == value) return;
+    value_.*member = value;
+    if (complete_) emit changed();
 }
 
-void AppearanceTable::setDark(const Colours& colours) {
-    Appearance next = value_;
-    next.dark = colours;
-    become(next);
-}
-
-void AppearanceTable::setFontFamily(const QString& family) {
-    Appearance next = value_;
-    next.fontFamily = family;
-    become(next);
-}
-
-void AppearanceTable::setFontFaces(const QList<QUrl>& faces) {
-    Appearance next = value_;
-    next.fontFaces = faces;
-    become(next);
-}
-
-void AppearanceTable::setCornerRadius(double points) {
-    Appearance next = value_;
-    next.cornerRadius = points;
-    become(next);
-}
-
-void AppearanceTable::resetCornerRadius() {
-    Appearance next = value_;
-    next.cornerRadius.reset();
-    become(next);
-}
-
-void AppearanceTable::setLogo(const QUrl& picture) {
-    Appearance next = value_;
-    next.logo = picture;
-    become(next);
-}
-
-void AppearanceTable::setPoweredBy(const QString& text) {
-    Appearance next = value_;
-    next.poweredBy = text;
-    become(next);
-}
-
-void AppearanceTable::resetPoweredBy() {
-    Appearance next = value_;
-    next.poweredBy.reset();
-    become(next);
-}
+void AppearanceTable::setLight(const Colours& colours) { set(&Appearance::light, colours); }
+void AppearanceTable::setDark(const Colours& colours) { set(&Appearance::dark, colours); }
+void AppearanceTable::setFontFamily(const QString& family) { set(&Appearance::fontFamily, family); }
+void AppearanceTable::setFontFaces(const QList<QUrl>& faces) { set(&Appearance::fontFaces, faces); }
+void AppearanceTable::setCornerRadius(double points) { set(&Appearance::cornerRadius, {points}); }
+void AppearanceTable::resetCornerRadius() { set(&Appearance::cornerRadius, {}); }
+void AppearanceTable::setLogo(const QUrl& picture) { set(&Appearance::logo, picture); }
+void AppearanceTable::setPoweredBy(const QString& text) { set(&Appearance::poweredBy, {text}); }
+void AppearanceTable::resetPoweredBy() { set(&Appearance::poweredBy, {}); }
 
 void AppearanceTable::componentComplete() {
     complete_ = true;
     emit changed();
-}
-
-void AppearanceTable::become(const Appearance& value) {
-    if (value == value_) return;
-    value_ = value;
-    if (complete_) emit changed();
 }
 
 } // namespace ombrivane::view

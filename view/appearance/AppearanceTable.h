@@ -54,7 +54,7 @@ public:
     Q_SIGNAL void changed();
 
 private:
-    void become(const Appearance& value);
+    template <class Value> void set(Value Appearance::*member, const Value& value);
 
     Appearance value_;
     bool complete_ = true;
