@@ -11,6 +11,7 @@ install(FILES ${PROJECT_BINARY_DIR}/OmbrivaneConfig.cmake ${PROJECT_BINARY_DIR}/
     DESTINATION ${package_folder})
 install(EXPORT OmbrivaneCore NAMESPACE Ombrivane:: DESTINATION ${package_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/contract)
 if(OMBRIVANE_VIEW)
     install(EXPORT OmbrivaneView NAMESPACE Ombrivane:: DESTINATION ${package_folder})
     install(FILES ${PROJECT_SOURCE_DIR}/resources/fonts/OFL.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/fonts)

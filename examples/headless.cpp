@@ -17,7 +17,7 @@ int main(int count, char** values) {
     auto& reservations = ombrivane::Reservations::shared();
     const auto receipts = reservations.observe([&reservations] {
         while (const auto reserved = reservations.take())
-            std::cout << reserved->dump() << "\n";
+            std::cout << reserved->at("bookingSummary").at("PNR") << "\n";
     });
     ombrivane::OmbrivaneView view(
         "wallet", "wallet-secret", "customer", 250000, "9800000000", "test", [](auto, auto error) {

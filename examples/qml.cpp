@@ -12,7 +12,7 @@ import Ombrivane
 Window {
     id: wallet
     visible: true; width: 390; height: 844
-    Reservations { onArrived: console.info(take()) }
+    Reservations { onArrived: console.info(JSON.parse(take()).bookingSummary.PNR) }
     OmbrivaneView {
         anchors.fill: parent
         clientId: "wallet"; clientSecret: "wallet-secret"; walletBalance: 250000

@@ -19,7 +19,7 @@ int main(int count, char** values) {
     auto& reservations = ombrivane::Reservations::shared();
     const auto receipts = reservations.observe([&reservations] {
         while (const auto reserved = reservations.take())
-            std::cout << reserved->dump() << "\n";
+            std::cout << reserved->at("bookingSummary").at("PNR") << "\n";
     });
 
     QQuickView window;

@@ -21,7 +21,7 @@ int main(int count, char** values) {
     auto& reservations = ombrivane::Reservations::shared();
     const auto receipts = reservations.observe([&reservations] {
         while (const auto reserved = reservations.take())
-            qInfo("%s", reserved->dump().c_str());
+            qInfo("%s", reserved->at("bookingSummary").at("PNR").get<std::string>().c_str());
     });
 
     QWidget wallet;

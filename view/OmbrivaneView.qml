@@ -20,16 +20,19 @@ ThemedScope {
     property alias supportLandLine: session.supportLandLine
     property alias session: session
     signal finished(dictionary: string)
-    signal failed(message: string, domain: string, code: int)
+    signal failed(message: string, domain: string, code: int, kind: int)
     signal closed
 
     function open() { session.open() }
     function drop() { session.drop() }
+    function saveState() { return session.saveState() }
+    function restoreState(state) { return session.restoreState(state) }
+    function forget() { session.forget() }
 
     OmbrivaneSession {
         id: session
         onFinished: dictionary => view.finished(dictionary)
-        onFailed: (message, domain, code) => view.failed(message, domain, code)
+        onFailed: (message, domain, code, kind) => view.failed(message, domain, code, kind)
         onClosed: view.closed()
     }
     Stage {

@@ -15,6 +15,13 @@ namespace {
 
 constexpr std::chrono::milliseconds second{1000};
 
+/// The service answered with success and nothing else.
+Error noReservation() {
+    return {errorDomain::service,
+            static_cast<int>(ServiceError::noReservation),
+            said(Text::errorReservationNotAnswered)};
+}
+
 } // namespace
 
 BookingSession::BookingSession(std::string_view screenName, BookingGiven given) :
@@ -65,13 +72,16 @@ SessionPhase BookingSession::phase() const {
 
 void BookingSession::appear() {
     // A form that is left while the availability loads brings the screen into view again.
-    if (!hasAvailability() && !isAsking_) isAsking_ = requestAvailability();
+    if (hasAvailability() || isAsking_) return;
+    reporter_.asks();
+    isAsking_ = requestAvailability();
 }
 
 void BookingSession::tick() {
     if (timeRemaining >= 1) {
         timeRemaining = timeRemaining - 1;
     } else {
+        if (!showSessionExpiredAlert) reporter_.happened({.kind = EventKind::expired});
         showSessionExpiredAlert = true;
     }
 }
@@ -81,8 +91,25 @@ bool BookingSession::lendsInput() const {
     return now != SessionPhase::reserving && now != SessionPhase::expired;
 }
 
+void BookingSession::tellOpened() const {
+    reporter_.answered({.kind = EventKind::bookingOpened});
+    if (fareMove())
+        reporter_.happened({.kind = EventKind::fareMoved, .formerFare = offeredCost(), .fare = totalCost()});
+}
+
+void BookingSession::tellReserved(bool booked, const std::optional<Error>& error) const {
+    Event event{.kind = EventKind::reservationAnswered};
+    if (!booked) {
+        event.error = kindOf(error ? *error : noReservation());
+        if (!cannotHaveHappened(*event.error)) event.kind = EventKind::reservationUnknown;
+    }
+    reporter_.answered(event);
+}
+
 void BookingSession::failAvailability(const std::optional<Error>& error) {
     if (hasAvailability()) return; // a price that is held is not thrown away
+    reporter_.answered(
+        {.kind = EventKind::bookingRefused, .error = error ? kindOf(*error) : ErrorKind::answerMissing});
     task_ = mainQueue().after(messageDuration, [this] { dismiss(); });
     refuse(error ? error->localizedDescription : "");
 }
@@ -110,6 +137,7 @@ void BookingSession::proceed() {
     if (!emergencyContact.get()) return sayMissing(Text::sessionContactMissing);
     if (!everySlotIsFilled()) return sayMissing(Text::sessionPassengersMissing);
     showProgressView = true;
+    reporter_.sent(EventKind::reservationSent);
     reserve();
 }
 
@@ -130,17 +158,16 @@ void BookingSession::reserve() {
 
 void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
                                          const std::optional<Error>& error) {
+    tellReserved(booking.has_value(), error);
     if (error) return failReservation(*error);
-    if (!booking)
-        return failReservation({errorDomain::service,
-                                static_cast<int>(ServiceError::noReservation),
-                                said(Text::errorReservationNotAnswered)});
+    if (!booking) return failReservation(noReservation());
     if (!documentsRequired()) return handOver(*booking);
     willUpload();
     upload(*booking);
 }
 
 void BookingSession::upload(const FlightBooking& booking) {
+    reporter_.sent(EventKind::uploadSent);
     passengerDocumentsProvider_.upload(
         passengersList,
         Travellers(passengersList, documentList).documents(),
@@ -148,6 +175,8 @@ void BookingSession::upload(const FlightBooking& booking) {
         booking.bookingReferenceID,
         onMain<std::optional<FlightBooking>>([hold = shared_from_this(), this, booking](
                                                  std::optional<FlightBooking>, std::optional<Error> error) {
+            reporter_.answered({.kind = EventKind::uploadAnswered,
+                                .error = error ? std::optional(kindOf(*error)) : std::nullopt});
             if (error) return failReservation(*error);
             handOver(booking);
         }));

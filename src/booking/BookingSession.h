@@ -6,6 +6,7 @@
 #include "booking/PaymentView.h"
 #include "booking/SessionPhase.h"
 #include "booking/TravelDates.h"
+#include "events/Reporter.h"
 #include "images/KeyedImage.h"
 #include "keyed/Action.h"
 #include "keyed/Derived.h"
@@ -136,6 +137,7 @@ protected:
         if (error || !record) return failAvailability(error);
         isLoading = false;
         held.set(std::move(record));
+        tellOpened();
         if (uniquePassangerList->empty()) uniquePassangerList = passengerSlots(availabilitySummary());
     }
 
@@ -163,7 +165,11 @@ private:
     void handOver(const FlightBooking& booking);
     Dictionary handOverDictionary(const FlightBooking& booking) const;
 
+    void tellOpened() const;
+    void tellReserved(bool booked, const std::optional<Error>& error) const;
+
     bool isAsking_ = false; ///< an availability is under way
+    Reporter reporter_;
     CompletionCallback completionCallback_;
     FlightBookingProvider flightBookingProvider_;
     PassengerDocumentsProvider passengerDocumentsProvider_;

@@ -200,7 +200,15 @@ int CurlTransfer::watch(void* self, curl_off_t, curl_off_t received, curl_off_t,
 }
 
 void CurlTransfer::fail(int code, const std::string& text, const std::string& developerText) {
-    contained([&] { completion_({std::nullopt, Error{errorDomain::network, code, text, developerText}}); });
+    contained([&] {
+        completion_({std::nullopt, Error{errorDomain::network, code, text, developerText}, status()});
+    });
+}
+
+int CurlTransfer::status() const {
+    long status = 0;
+    curl_easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
+    return static_cast<int>(status);
 }
 
 void CurlTransfer::complete(CURLcode result) {
@@ -211,7 +219,7 @@ void CurlTransfer::complete(CURLcode result) {
                     "no body moved for " + std::to_string(request_.timeoutInterval.count()) + " s");
     }
     if (result != CURLE_OK) return fail(result, textOf(result), curl_easy_strerror(result));
-    contained([&] { completion_({std::move(received_), std::nullopt}); });
+    contained([&] { completion_({std::move(received_), std::nullopt, status()}); });
 }
 
 void CurlTransfer::abandon() { fail(CURLE_ABORTED_BY_CALLBACK, abandonedText); }

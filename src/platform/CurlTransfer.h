@@ -47,6 +47,7 @@ private:
         void operator()(curl_slist* list) const { curl_slist_free_all(list); }
     };
 
+    int status() const;
     void carryBody();
     /// libcurl asks for what is to be sent next. It cannot ask again for what has been sent.
     static std::size_t give(char* room, std::size_t size, std::size_t count, void* self);

@@ -26,10 +26,11 @@ struct HttpRequest {
     std::size_t answerBytes = limits::recordBytes;        ///< a longer answer is an error
 };
 
-/// What came back. The status is not part of it: no status code is ever read.
+/// What came back.
 struct HttpAnswer {
-    std::optional<std::string> data; ///< the whole body; nothing when there was an error
-    std::optional<Error> error;      ///< why there is no body
+    std::optional<std::string> data = {}; ///< the whole body; nothing when there was an error
+    std::optional<Error> error = {};      ///< why there is no body
+    int status = 0; ///< for logs alone: nothing is decided by it; 0 where no answer began
 };
 
 /// Called exactly once, on a thread of the network.

@@ -52,7 +52,18 @@ void ResultsScreen::search(bool roundTrip) {
     query.children = children;
     query.infants = infants;
     query.flightClass = flightClass;
+    reporter_.sent(EventKind::searchSent);
     sendSearch(query, roundTrip);
+}
+
+void ResultsScreen::tellAnswered(std::size_t offers, const std::optional<Error>& error) const {
+    Event event{.kind = EventKind::searchAnswered};
+    if (error) {
+        event.error = kindOf(*error);
+    } else {
+        event.offers = offers;
+    }
+    reporter_.answered(event);
 }
 
 /// Takes the three kinds of errors in; false when there was one.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "events/Reporter.h"
 #include "keyed/Action.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
@@ -127,7 +128,9 @@ protected:
     template <class Offers, class Take> auto answered(Take take) {
         return onMain<Offers>([this, hold = shared_from_this(), search = searches_, take](
                                   Offers offers, std::optional<Error> error) {
-            if (search != searches_ || !takeIn(error)) return;
+            if (search != searches_) return;
+            tellAnswered(offers.size(), error);
+            if (!takeIn(error)) return;
             take(std::move(offers));
             model_->isLoading = false;
         });
@@ -142,6 +145,7 @@ protected:
 
 private:
     void search(bool roundTrip);
+    void tellAnswered(std::size_t offers, const std::optional<Error>& error) const;
     bool takeIn(const std::optional<Error>& error);
     void stepDeparture(int days);
     void stepReturn(int days);
@@ -154,6 +158,7 @@ private:
     std::shared_ptr<Screen> makeRules();
 
     std::uint64_t searches_ = 0; ///< sent so far
+    Reporter reporter_;
     CompletionCallback completionCallback_;
     SpokenField errorWords_;
     Model modelModel_;

@@ -16,6 +16,9 @@ public:
     struct SpecialRoundFlights {
         OneWayOffers departureFlights;
         OneWayOffers returnFlights;
+
+        /// How many offers, of both lists.
+        std::size_t size() const { return departureFlights.size() + returnFlights.size(); }
     };
 
     /// A failure in either list discards both.

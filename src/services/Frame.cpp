@@ -2,6 +2,8 @@
 
 #include "base/Attempted.h"
 #include "base/Url.h"
+#include "events/HostEvents.h"
+#include "platform/ElapsedTime.h"
 #include "platform/Platform.h"
 #include "services/CustomError.h"
 #include "services/Endpoints.h"
@@ -43,12 +45,33 @@ HttpRequest requestFor(const ServiceCall& call, std::string url) {
 
 HttpAnswer failed(Error error) { return {std::nullopt, std::move(error)}; }
 
+/// What is told where the network has neither an answer nor an error.
+const Error& nothing() {
+    static const Error nothing{errorDomain::network, 0, "", "neither an answer nor an error"};
+    return nothing;
+}
+
 } // namespace
 
 void reportFailedCall(std::string_view endpoint, const std::optional<Error>& error) {
-    static const Error nothing{errorDomain::network, 0, "", "neither an answer nor an error"};
-    const Error& told = error ? *error : nothing;
+    const Error& told = error ? *error : nothing();
     platform().diagnostics->callFailed({endpoint, told.domain, told.code, told.developerDescription});
+}
+
+CallRecord::CallRecord(std::string_view endpoint) : began_(elapsedTime()) { call_.endpoint = endpoint; }
+
+void CallRecord::answered(const HttpAnswer& answer) {
+    call_.took = elapsedTime() - began_;
+    call_.status = answer.status;
+    call_.bytes = answer.data ? answer.data->size() : 0;
+}
+
+void CallRecord::ended(bool failed, const std::optional<Error>& error) {
+    if (failed) {
+        reportFailedCall(call_.endpoint, error);
+        call_.error = kindOf(error ? *error : nothing());
+    }
+    HostEvents::shared().tell(call_);
 }
 
 void expectCall() {

@@ -2,6 +2,7 @@
 
 #include "base/Completion.h"
 #include "base/ErrorDomains.h"
+#include "events/Event.h"
 #include "platform/HttpRequest.h"
 #include "platform/Limits.h"
 #include "services/Envelope.h"
@@ -37,6 +38,20 @@ struct ServiceCall {
 /// @param error absent where the network had neither an answer nor an error
 void reportFailedCall(std::string_view endpoint, const std::optional<Error>& error);
 
+/// A call under way, for the host's log of requests.
+class CallRecord {
+public:
+    explicit CallRecord(std::string_view endpoint);
+    /// The network is done with it. Any thread.
+    void answered(const HttpAnswer& answer);
+    /// It is over, well with nothing in `error`; a failure is told to the diagnostics too. Any thread.
+    void ended(bool failed, const std::optional<Error>& error);
+
+private:
+    EndedCall call_;
+    std::chrono::milliseconds began_;
+};
+
 /// A screen has come up whose control may send a call: the connection for it is opened while the customer is
 /// still at it. Each call that is sent expects the one after it by itself. Main thread.
 void expectCall();
@@ -62,13 +77,15 @@ void send(const ServiceCall& call, std::function<Result(const Envelope&)> read,
           const Completion<Result>& completion) {
     detail::perform(
         call,
-        [read = std::move(read), completion, endpoint = call.endpoint, domain = call.failureDomain](
-            HttpAnswer answer) {
+        [read = std::move(read), completion, record = CallRecord(call.endpoint), domain = call.failureDomain](
+            HttpAnswer answer) mutable {
+            record.answered(answer);
             std::optional<Result> result;
             auto error = detail::readAnswer(
                 std::move(answer), domain, [&](const Envelope& envelope) { result.emplace(read(envelope)); });
-            if (!error && result) return completion(*std::move(result));
-            reportFailedCall(endpoint, error);
+            const bool failed = error || !result;
+            record.ended(failed, error);
+            if (!failed) return completion(*std::move(result));
             completion(Result(), std::move(error));
         });
 }

@@ -19,6 +19,9 @@ struct OMBRIVANE_API ServiceHosts {
 
     /// The hosts that the endpoints will be built from.
     static ServiceHosts current();
+    /// Whether nobody has named a host, neither by `use` nor when the component was built: what is asked then
+    /// is a service on this device.
+    static bool areOfNobody();
     /// Has no effect on endpoints that were already built.
     static void use(ServiceHosts hosts);
 };

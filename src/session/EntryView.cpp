@@ -2,9 +2,11 @@
 
 #include "base/Fault.h"
 #include "base/SharedInstance.h"
+#include "events/HostEvents.h"
 #include "platform/Platform.h"
 #include "search/MainView.h"
 #include "services/CustomError.h"
+#include "services/ServiceHosts.h"
 #include "session/Fonts.h"
 #include "state/AppState.h"
 
@@ -20,6 +22,20 @@ std::function<void()> closing(Dismissal dismissal) {
         if (close) return close();
         if (frontmost) fatalFault("the application has no window to close the component in");
     };
+}
+
+struct HostsWarning {
+    bool given = false;
+};
+
+/// A wallet that forgot to name the service would look for a fault of its network.
+void warnOfHosts() {
+    if (!ServiceHosts::areOfNobody() || std::exchange(SharedInstance<HostsWarning>::get().given, true))
+        return;
+    platform().diagnostics->print(
+        "ServiceHosts: no booking service was named, neither by ServiceHosts::use nor when the "
+        "component was built; asking " +
+        ServiceHosts::current().of(AppState::shared().environment.get()));
 }
 
 /// Whose the navigation flags of the process are.
@@ -44,11 +60,15 @@ bool EntryView::drop() {
 void EntryView::appear() {
     if (std::exchange(bootstrapped_, true)) return;
     SharedInstance<ShownLast>::get().view = this;
+    const std::string opening = HostEvents::shared().beginOpening();
+    boundary_->setOpening(opening);
+    HostEvents::shared().tell(Event{.kind = EventKind::opened, .opening = opening});
     if (platform().system.isBelow("iOS", 14)) {
         return boundary_->receive(std::nullopt, makeError(CustomError::requiredIOSVersion));
     }
     // Before any endpoint is read: the first one fixes the host for the life of the process.
     AppState::shared().environment = arguments_.environment.value_or("test");
+    warnOfHosts();
 
     const std::weak_ptr<Screen> weak = weak_from_this();
     const auto boundary = boundary_;
@@ -73,7 +93,10 @@ void EntryView::authenticated(std::optional<Authentication> authentication) {
                               arguments_.phone);
     registerFonts();
     AppState::shared().resetNavigation(); // a view that still lives may have left its results there
-    view = std::make_shared<MainView>(boundary_->internalCallback());
+    if (kept_) kept_->fillForm();
+    const auto search = std::make_shared<MainView>(boundary_->internalCallback());
+    view = search;
+    if (kept_) std::exchange(kept_, std::nullopt)->show(*search);
 }
 
 } // namespace ombrivane

@@ -6,6 +6,7 @@
 #include "keyed/Screen.h"
 #include "services/AuthenticationProvider.h"
 #include "session/HostBoundary.h"
+#include "session/KeptState.h"
 #include "state/CompletionCallback.h"
 
 #include <functional>
@@ -47,6 +48,9 @@ public:
 
     void appear() override;
 
+    /// What the customer left earlier; taken up when the search comes. Before it appears.
+    void takeUp(KeptState kept) { kept_ = std::move(kept); }
+
     /// The content, once the bootstrap has finished.
     Published<std::shared_ptr<Screen>> view{fields, "view"};
     Part content{*this, "view", [this] { return view.get(); }};
@@ -55,6 +59,7 @@ private:
     void authenticated(std::optional<Authentication> authentication);
 
     EntryArguments arguments_;
+    std::optional<KeptState> kept_;
     std::shared_ptr<HostBoundary> boundary_;
     bool bootstrapped_ = false;
     bool dropped_ = false;

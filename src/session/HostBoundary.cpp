@@ -1,6 +1,7 @@
 #include "session/HostBoundary.h"
 
 #include "base/Fault.h"
+#include "events/HostEvents.h"
 #include "platform/Platform.h"
 #include "session/Reservations.h"
 
@@ -23,11 +24,18 @@ CompletionCallback HostBoundary::internalCallback() {
     };
 }
 
-/// Whether the component was open until now; it is not any more.
-bool HostBoundary::endUse() {
-    const std::lock_guard lock(mutex_);
-    if (state_ != State::open) return false;
-    state_ = State::closed;
+/// Whether the component was open until now; it is not any more, and the host hears whose doing that is.
+bool HostBoundary::endUse(State ended, ClosedBy who, const std::optional<Error>& error) {
+    {
+        const std::lock_guard lock(mutex_);
+        const State before = state_;
+        if (before == State::open || ended == State::dropped) state_ = ended;
+        if (before != State::open) return false;
+    }
+    if (opening_.empty()) return true;
+    Event event{.kind = EventKind::closed, .opening = opening_, .closedBy = who};
+    if (error) event.error = kindOf(*error);
+    HostEvents::shared().tell(event);
     return true;
 }
 
@@ -46,14 +54,14 @@ bool HostBoundary::isDropped() {
 
 void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<Error> error) {
     if (error) {
-        const bool open = endUse();
+        const bool open = endUse(State::closed, ClosedBy::error, error);
         if (open && callback_) callback_(std::nullopt, std::move(error));
         return closeIf(open);
     }
-    if (!dictionary) return closeIf(endUse());
+    if (!dictionary) return closeIf(endUse(State::closed, ClosedBy::customer));
 
     if (exitOf(*dictionary)) {
-        const bool open = endUse();
+        const bool open = endUse(State::closed, ClosedBy::reservation);
         Reservations::shared().keep(*dictionary);
         if (callback_) callback_(std::move(dictionary), std::nullopt);
         return closeIf(open);
@@ -66,9 +74,6 @@ void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<E
     if (open && callback_) callback_(std::move(dictionary), std::nullopt);
 }
 
-void HostBoundary::drop() {
-    const std::lock_guard lock(mutex_);
-    state_ = State::dropped;
-}
+void HostBoundary::drop() { endUse(State::dropped, ClosedBy::host); }
 
 } // namespace ombrivane

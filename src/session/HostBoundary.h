@@ -1,10 +1,12 @@
 #pragma once
 
+#include "events/Event.h"
 #include "state/CompletionCallback.h"
 
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <string>
 
 namespace ombrivane {
 
@@ -28,6 +30,9 @@ public:
     HostBoundary(CompletionCallback callback, std::function<void()> close) :
         callback_(std::move(callback)), close_(std::move(close)) {}
 
+    /// What names the opening, for the event of its end; without a name nothing is told. Before it is used.
+    void setOpening(std::string opening) { opening_ = std::move(opening); }
+
     /// What screens call as their completion callback. It keeps this boundary alive.
     CompletionCallback internalCallback();
 
@@ -39,7 +44,7 @@ public:
 private:
     enum class State { open, closed, dropped };
 
-    bool endUse();
+    bool endUse(State ended, ClosedBy who, const std::optional<Error>& error = std::nullopt);
     bool isDropped();
     void closeIf(bool open);
 
@@ -47,6 +52,7 @@ private:
     State state_ = State::open;
     CompletionCallback callback_;
     std::function<void()> close_;
+    std::string opening_;
 };
 
 } // namespace ombrivane

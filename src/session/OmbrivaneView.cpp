@@ -1,8 +1,10 @@
 #include "session/OmbrivaneView.h"
 
+#include "events/HostEvents.h"
 #include "keyed/Navigator.h"
 #include "services/Frame.h"
 #include "session/EntryView.h"
+#include "session/KeptState.h"
 #include "state/AppState.h"
 
 #include <utility>
@@ -24,11 +26,24 @@ struct OmbrivaneView::Parts {
         if (ownsFlags) AppState::shared().resetNavigation();
     }
 
+    void cameIntoView() {
+        expectCall();
+        // The root is a frame: what is seen there is its content.
+        const auto lying = Navigator::withParts(navigator->top());
+        const bool isFrame = navigator->stack().size() == 1 && lying.size() > 1;
+        const std::string name(lying[isFrame ? 1 : 0]->name());
+        if (std::exchange(shown, name) == name) return;
+        HostEvents::shared().tell(
+            Event{.kind = EventKind::screenShown, .opening = HostEvents::shared().opening(), .screen = name});
+    }
+
     EntryArguments arguments;
     CompletionCallback callback;
     Dismissal dismissal;
+    std::optional<KeptState> kept;    ///< for the next time that it is shown
     std::shared_ptr<EntryView> entry; ///< while it is shown
     std::unique_ptr<Navigator> navigator;
+    std::string shown;    ///< the name of what lies on top
     Subscription screens; ///< to what comes into view
 };
 
@@ -55,11 +70,26 @@ void OmbrivaneView::onClose(std::function<void()> dismiss, std::function<void()>
 
 void OmbrivaneView::show() {
     parts_->leave();
+    parts_->shown.clear();
     parts_->entry = std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal);
+    if (parts_->kept) parts_->entry->takeUp(*std::exchange(parts_->kept, std::nullopt));
     parts_->navigator = std::make_unique<Navigator>(parts_->entry);
-    parts_->screens = parts_->navigator->observe(expectCall);
+    parts_->screens = parts_->navigator->observe([parts = parts_.get()] { parts->cameIntoView(); });
     parts_->navigator->start(); // in which the host may let go of this view
 }
+
+std::string OmbrivaneView::saveState() const { return KeptState::save(parts_->navigator.get()); }
+
+bool OmbrivaneView::restoreState(const std::string& state) {
+    auto kept = KeptState::read(state);
+    const bool isGood = kept.has_value();
+    if (isGood) parts_->kept = std::move(kept);
+    return isGood;
+}
+
+bool OmbrivaneView::isState(const std::string& state) { return KeptState::read(state).has_value(); }
+
+void OmbrivaneView::forget() { forgetCustomer(); }
 
 Navigator* OmbrivaneView::navigator() const { return parts_->navigator.get(); }
 

@@ -42,6 +42,20 @@ public:
     /// may drop the view, show it again or show another one.
     void show();
 
+    /// Where the customer stands in the search, for `restoreState` of a later process: the form, the tab, and
+    /// whether the offers were there. Opaque, UTF-8, of some hundred bytes; without token, traveller or
+    /// picture. The component keeps it nowhere.
+    std::string saveState() const;
+    /// Takes up what `saveState` gave: the next `show` comes to the form as it stood, and searches again
+    /// where the offers were there. Days that have gone by meanwhile are asked for anew.
+    /// @return false where `state` is another version's or damaged; nothing changes then
+    bool restoreState(const std::string& state);
+    /// Whether `restoreState` would take it.
+    static bool isState(const std::string& state);
+    /// Another customer may come: empties what the process knows of the last one (token, balance, telephone
+    /// number, form, nationality). Travellers and pictures go with their view. No view may be shown.
+    static void forget();
+
     /// The stack of screens; empty until the view is shown.
     Navigator* navigator() const;
 

@@ -1,4 +1,5 @@
 #include "Wallet.h"
+#include "events/HostEvents.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +11,12 @@ namespace {
 /// Plays a booking in which everything personal is a word of its own, through every failure that has words.
 class CanaryTest : public testing::TestWithParam<std::tuple<Trip, bool>> {
 protected:
-    /// The texts that the component shows or says when something failed.
+    /// The texts that the component shows or says when something failed, and what a host may log.
     std::vector<std::string> play() {
         std::vector<std::string> texts;
+        const auto listening = HostEvents::shared().listen(
+            [&texts](const Event& event) { texts.push_back(event.json().dump()); },
+            [&texts](const EndedCall& call) { texts.push_back(call.json().dump()); });
         Wallet wallet(world, std::get<Trip>(GetParam()), std::get<bool>(GetParam()));
         wallet.toReady();
         const auto failWith = [&](const Json& body) {
@@ -38,6 +42,7 @@ protected:
         for (const auto& fault : world.takeFaults())
             texts.push_back(fault);
         EXPECT_EQ(wallet.handedOver.size(), 1U);
+        EXPECT_GE(texts.size(), 30U) << "each screen, each request and each answer has its line";
         return texts;
     }
 

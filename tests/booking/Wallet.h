@@ -53,6 +53,7 @@ public:
 
     void show();
     void drop();
+    std::string saveState() const { return view_->saveState(); }
     bool isShown() const { return view_ && view_->navigator() != nullptr; }
     /// Throws where nothing is shown.
     Navigator& navigator() const;
@@ -111,6 +112,8 @@ public:
     /// A passport cannot be saved where no document is demanded.
     std::vector<std::string> allowedDocuments{documents ? "passport" : "citizenship"};
     std::optional<double> balance;
+    /// Given to the next view before it is shown.
+    std::string restoring;
 
     /// "exit", "progress", "error: …" and "close", in order; a "dropped" stands where the wallet dropped it,
     /// a "shown" where it showed another one, and what an earlier one still says is "late".

@@ -331,6 +331,8 @@ TEST_F(OmbrivaneViewTest, ShownAgainItStartsAgainAndKeepsWhatTheProcessKeeps) {
     EXPECT_EQ(state.accessToken.get(), "T2");
     EXPECT_EQ(state.nationality.get(), "IN");
     EXPECT_EQ(world.fonts->registered, (Log{"one.ttf", "two.ttf"})) << "once per process";
+    ASSERT_EQ(world.diagnostics->lines.size(), 1U) << "that nobody named a service, once";
+    EXPECT_TRUE(world.diagnostics->lines[0].ends_with("asking https://localhost:8443"));
 }
 
 TEST_F(OmbrivaneViewTest, FontsThatCannotBeListedAreTriedAgainByTheNextBootstrap) {

@@ -186,7 +186,7 @@ public:
         session->clientSecret = "wallet-secret";
         if (kind == callback) session->setCallback([this](const auto&, const auto&) { ear_.told(); });
         if (kind == itemSignals) {
-            QObject::connect(item_.get(), SIGNAL(failed(QString, QString, int)), &ear_, SLOT(told()));
+            QObject::connect(item_.get(), SIGNAL(failed(QString, QString, int, int)), &ear_, SLOT(told()));
             QObject::connect(item_.get(), SIGNAL(closed()), &ear_, SLOT(closed()));
         } else {
             QObject::connect(session, &OmbrivaneSession::failed, &ear_, &Ear::told);

@@ -1,5 +1,6 @@
 #include "items/OmbrivaneSession.h"
 
+#include "base/ErrorKind.h"
 #include "base/Fault.h"
 #include "platform/Platform.h"
 #include "words/LanguageChoice.h"
@@ -8,6 +9,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace ombrivane::view {
 namespace {
@@ -139,6 +141,22 @@ void OmbrivaneSession::drop() {
     view_.reset();
 }
 
+QString OmbrivaneSession::saveState() const {
+    return view_ ? QString::fromStdString(view_->saveState()) : QString();
+}
+
+bool OmbrivaneSession::restoreState(const QString& state) {
+    const bool isGood = OmbrivaneView::isState(state.toStdString());
+    if (isGood) kept_ = state.toStdString();
+    return isGood;
+}
+
+void OmbrivaneSession::forget() {
+    drop();
+    kept_.clear();
+    OmbrivaneView::forget();
+}
+
 /// The signals come on the main thread and only while this lives; of a view that was dropped meanwhile comes
 /// the hand-over alone.
 CompletionCallback OmbrivaneSession::callback() {
@@ -151,7 +169,8 @@ CompletionCallback OmbrivaneSession::callback() {
             if (error) {
                 return emit self->failed(QString::fromStdString(error->localizedDescription),
                                          QString::fromStdString(error->domain),
-                                         error->code);
+                                         error->code,
+                                         static_cast<int>(kindOf(*error)));
             }
             if (dictionary) emit self->finished(QString::fromStdString(dictionary->dump()));
         });
@@ -170,6 +189,7 @@ void OmbrivaneSession::open() {
                                             given(phone),
                                             given(environment),
                                             callback());
+    view_->restoreState(std::exchange(kept_, std::string()));
     const QPointer<OmbrivaneSession> self(this);
     view_->onClose([self] {
         if (self) emit self->closed();

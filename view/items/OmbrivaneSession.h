@@ -57,6 +57,13 @@ public:
     /// Drops the component, as a host may at any time, also inside of the callback and of every signal.
     Q_INVOKABLE void drop();
 
+    /// As `OmbrivaneView::saveState`, for a host that may be ended in the background; empty while not open.
+    Q_INVOKABLE QString saveState() const;
+    /// As `OmbrivaneView::restoreState`, for the next `open`.
+    Q_INVOKABLE bool restoreState(const QString& state);
+    /// As `OmbrivaneView::forget`: drops the component, and empties what the process knows of its customer.
+    Q_INVOKABLE void forget();
+
     /// Called in place of the signals, on the thread that the component reached it on. Set before `open`.
     void setCallback(CompletionCallback callback) { callback_ = std::move(callback); }
 
@@ -74,9 +81,9 @@ public:
 
     /// The hand-over, or progress where "exit" in it is false; JSON. On the main thread.
     Q_SIGNAL void finished(const QString& dictionary);
-    /// The component failed: in the words of the error, and by the domain and the code that
-    /// `base/ErrorDomains.h` names. On the main thread.
-    Q_SIGNAL void failed(const QString& message, const QString& domain, int code);
+    /// The component failed: in the words of the error, by the domain and the code that
+    /// `base/ErrorDomains.h` names, and as one of `ErrorKind`. On the main thread.
+    Q_SIGNAL void failed(const QString& message, const QString& domain, int code, int kind);
     /// The component wants to be taken off the screen.
     Q_SIGNAL void closed();
 
@@ -155,6 +162,7 @@ private:
     struct Opened {};
 
     CompletionCallback callback_;
+    std::string kept_;               ///< taken up by the next `open`
     std::shared_ptr<Opened> opened_; ///< while the view that was opened last is neither dropped nor replaced
     StageModel stage_;
     std::unique_ptr<OmbrivaneView> view_;
