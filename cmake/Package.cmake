@@ -10,9 +10,28 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/OmbrivaneConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/OmbrivaneConfig.cmake ${PROJECT_BINARY_DIR}/OmbrivaneConfigVersion.cmake
     DESTINATION ${package_folder})
 install(EXPORT OmbrivaneCore NAMESPACE Ombrivane:: DESTINATION ${package_folder})
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/ombrivane-core.pc.in ${PROJECT_BINARY_DIR}/ombrivane-core.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/ombrivane-core.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+include(Sbom)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/contract)
 if(OMBRIVANE_VIEW)
     install(EXPORT OmbrivaneView NAMESPACE Ombrivane:: DESTINATION ${package_folder})
     install(FILES ${PROJECT_SOURCE_DIR}/resources/fonts/OFL.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/fonts)
 endif()
+
+# `cpack` in a build folder makes a Debian package of what is installed.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME libombrivane-dev)
+set(CPACK_PACKAGE_VENDOR "The Ombrivane developers")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "A flight booking that a mobile wallet embeds as one view")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The Ombrivane developers <developers@ombrivane.invalid>")
+set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+# What a host builds against.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+    "libcurl4-openssl-dev (>= 7.87), libfmt-dev, libicu-dev, libjpeg-dev, libpng-dev, libsimdjson-dev, libssl-dev, nlohmann-json3-dev")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-declarative-dev, qt6-svg-dev")
+include(CPack)

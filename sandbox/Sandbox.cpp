@@ -2,6 +2,7 @@
 
 #include "sandbox/HttpsServer.h"
 #include "sandbox/control/Delivery.h"
+#include "sandbox/control/Scenarios.h"
 #include "sandbox/service/Service.h"
 
 #include <fmt/format.h>
@@ -52,6 +53,13 @@ Json recordedJson(const std::vector<RecordedRequest>& requests) {
     return list;
 }
 
+Json scenariosJson() {
+    Json list = Json::array();
+    for (const Scenario& scenario : scenarios())
+        list.push_back({{"name", scenario.name}, {"meaning", scenario.meaning}});
+    return list;
+}
+
 HttpAnswer controlRefusal(const std::string& message) { return jsonAnswer({{"error", message}}, 400); }
 
 } // namespace
@@ -78,6 +86,10 @@ void Sandbox::start() {
         });
     address_ = fmt::format("https://localhost:{}", server_->port());
     service_ = std::make_unique<Service>(options_, address_);
+    if (!options_.scenarios.empty()) {
+        setScenarios(options_.scenarios);
+        faults_.add(parsed(options_.faults));
+    }
     ready.set_value();
 }
 
@@ -94,12 +106,26 @@ void Sandbox::stop() {
 
 void Sandbox::setFaults(const std::vector<std::string>& faults) { faults_.replace(parsed(faults)); }
 
+void Sandbox::setScenarios(const std::vector<std::string>& names) {
+    std::vector<Fault> faults;
+    Terms terms;
+    for (const std::string& name : names) {
+        const Scenario& scenario = scenarioNamed(name);
+        for (Fault& fault : parsed(scenario.faults))
+            faults.push_back(std::move(fault));
+        if (scenario.farePercent) terms.farePercent = scenario.farePercent;
+        if (scenario.holds) terms.holds = *scenario.holds;
+    }
+    faults_.replace(std::move(faults));
+    if (service_) service_->setTerms(terms);
+}
+
 void Sandbox::advanceClock(std::chrono::seconds time) {
     if (service_) service_->advanceClock(time);
 }
 
 void Sandbox::reset() {
-    faults_.replace({});
+    setScenarios({});
     log_.clear();
     if (service_) service_->reset();
 }
@@ -110,6 +136,10 @@ bool Sandbox::answer(const HttpRequest& request, bool isFirst, TlsConnection& co
         return deliver(answerControl(request), {}, connection);
     }
     log_.record(request);
+    if (faultPath(request.path) == "/reservation") {
+        if (const Scenario* scenario = scenarioOfTravellers(request.body))
+            faults_.add(parsed(scenario->faults));
+    }
     const std::vector<Fault> faults = faults_.due(faultPath(request.path));
     const bool isPrevented = std::any_of(
         faults.begin(), faults.end(), [](const Fault& fault) { return preventsTheOperation(fault.kind); });
@@ -127,6 +157,7 @@ HttpAnswer Sandbox::answerControl(const HttpRequest& request) {
     try {
         if (call == "GET /sandbox/requests") return jsonAnswer(recordedJson(log_.requests()));
         if (call == "GET /sandbox/bookings") return jsonAnswer(service_->bookings());
+        if (call == "GET /sandbox/scenarios") return jsonAnswer(scenariosJson());
         if (call == "GET /sandbox/counters") {
             const Counters counters = log_.counters();
             return jsonAnswer({{"connections", counters.connections},
@@ -137,6 +168,10 @@ HttpAnswer Sandbox::answerControl(const HttpRequest& request) {
             setFaults(body.get<std::vector<std::string>>());
             return jsonAnswer(Json::object());
         }
+        if (call == "POST /sandbox/scenarios") {
+            setScenarios(body.get<std::vector<std::string>>());
+            return jsonAnswer(Json::object());
+        }
         if (call == "POST /sandbox/clock") {
             advanceClock(std::chrono::seconds(body.at("advance").get<int>()));
             return jsonAnswer(Json::object());
@@ -145,8 +180,8 @@ HttpAnswer Sandbox::answerControl(const HttpRequest& request) {
             reset();
             return jsonAnswer(Json::object());
         }
-    } catch (const std::invalid_argument& wrongFault) {
-        return controlRefusal(wrongFault.what());
+    } catch (const std::invalid_argument& wrongWord) {
+        return controlRefusal(wrongWord.what());
     } catch (const Json::exception&) {
         return controlRefusal("The body is not what this path takes.");
     }

@@ -45,6 +45,10 @@ public:
     /// Replaces all faults. Throws `std::invalid_argument` and changes nothing when one does not read.
     void setFaults(const std::vector<std::string>& faults);
 
+    /// What customers meet from here on, in place of all faults and scenarios before. Throws
+    /// `std::invalid_argument` and changes nothing where one has no such name.
+    void setScenarios(const std::vector<std::string>& names);
+
     /// Turns the service's clock on.
     void advanceClock(std::chrono::seconds time);
 

@@ -1,6 +1,7 @@
 #include "sandbox/control/CommandLine.h"
 
 #include "sandbox/control/Faults.h"
+#include "sandbox/control/Scenarios.h"
 
 #include <fmt/format.h>
 
@@ -66,6 +67,11 @@ void addFault(CommandLine& line, const std::string& text) {
     line.options.faults.push_back(text);
 }
 
+void addScenario(CommandLine& line, const std::string& text) {
+    scenarioNamed(text);
+    line.options.scenarios.push_back(text);
+}
+
 const std::vector<OptionForm>& optionForms() {
     using Line = CommandLine;
     using Text = const std::string&;
@@ -105,6 +111,7 @@ const std::vector<OptionForm>& optionForms() {
          "good (default), self-signed, expired, not-yet-valid, wrong-host, wrong-alternative-names, "
          "untrusted",
          setCertificate},
+        {"--scenario", "NAME", "what a customer meets, may be repeated, see below", addScenario},
         {"--fault", "FAULT", "a fault, may be repeated, see below", addFault},
         {"--exit-with-stdin",
          "",
@@ -142,6 +149,12 @@ std::string helpText() {
         "At the start it prints one JSON line with its \"address\" and the \"ca\" file to trust.\n\n";
     for (const OptionForm& form : optionForms())
         text += fmt::format("  {:<24} {}\n", fmt::format("{} {}", form.name, form.value), form.meaning);
+    text += "\nA scenario is one of these; what has a * comes about as well when a traveller has that "
+            "surname.\n\n";
+    for (const Scenario& scenario : scenarios())
+        text += fmt::format("  {:<24} {}\n",
+                            fmt::format("{}{}", scenario.name, scenario.bySurname ? " *" : ""),
+                            scenario.meaning);
     text += "\nA fault reads \"PATH KIND[=VALUE] [times=N] [after=N]\". PATH is a path like /get-token, or * "
             "for all;\n"
             "times says how often it happens, after how many requests pass before. Several may meet.\n\n";
@@ -150,9 +163,10 @@ std::string helpText() {
                             form.value.empty() ? std::string(form.name)
                                                : fmt::format("{}={}", form.name, form.value),
                             form.meaning);
-    text += "\nWhile it runs: GET /sandbox/requests, /sandbox/counters and /sandbox/bookings; POST "
-            "/sandbox/faults\n"
-            "(an array of faults), /sandbox/clock ({\"advance\": SECONDS}) and /sandbox/reset.\n";
+    text += "\nWhile it runs: GET /sandbox/requests, /sandbox/counters, /sandbox/bookings and "
+            "/sandbox/scenarios; POST\n"
+            "/sandbox/faults (an array of faults), /sandbox/scenarios (an array of names), /sandbox/clock "
+            "({\"advance\": SECONDS}) and /sandbox/reset.\n";
     return text;
 }
 

@@ -11,6 +11,12 @@ void FaultPlan::replace(std::vector<Fault> faults) {
         entries_.push_back({std::move(fault)});
 }
 
+void FaultPlan::add(std::vector<Fault> faults) {
+    const std::lock_guard lock(mutex_);
+    for (Fault& fault : faults)
+        entries_.push_back({std::move(fault)});
+}
+
 std::vector<Fault> FaultPlan::due(std::string_view path) {
     const std::lock_guard lock(mutex_);
     std::vector<Fault> found;

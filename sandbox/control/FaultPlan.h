@@ -15,6 +15,9 @@ public:
     /// Replaces all faults and forgets what was counted.
     void replace(std::vector<Fault> faults);
 
+    /// More faults, beside those in force.
+    void add(std::vector<Fault> faults);
+
     /// The faults that a request of that path meets, in the order in which they were given; counts the
     /// request.
     std::vector<Fault> due(std::string_view path);

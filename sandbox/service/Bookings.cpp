@@ -11,13 +11,6 @@
 
 namespace ombrivane::sandbox {
 
-namespace {
-
-/// Ten minutes as clients count them, and half a minute for the way.
-constexpr std::chrono::seconds sessionLength(600 + 30);
-
-} // namespace
-
 Day Booking::lastDay() const {
     const Journey* back = trip.back();
     return back == nullptr
@@ -25,7 +18,8 @@ Day Booking::lastDay() const {
                : Day(std::chrono::floor<std::chrono::days>(back->first().departure).time_since_epoch());
 }
 
-Json Bookings::open(Trip trip, DocumentTerms documents, Instant now, const std::string& address) {
+Json Bookings::open(Trip trip, DocumentTerms documents, Instant now, const Terms& terms,
+                    const std::string& address) {
     Dice dice(seed_, fmt::format("booking {} {}", trip.offer.key, bookings_.size()));
     Booking booking;
     booking.reference = dice.letters(14, capitalsAndDigits);
@@ -35,6 +29,7 @@ Json Bookings::open(Trip trip, DocumentTerms documents, Instant now, const std::
     booking.summary = data["availabilitySummary"];
     booking.documents = std::move(documents);
     booking.opened = now;
+    booking.expires = now + terms.holds;
     bookings_.push_back(std::move(booking));
     return data;
 }
@@ -55,8 +50,7 @@ Booking& Bookings::reserved(const std::string& reference) {
 }
 
 Reservation& Bookings::reserve(Booking& booking, std::vector<Traveller> travellers, Instant now) {
-    if (now > booking.opened + sessionLength)
-        throw Refusal("The session has expired. Please check the latest fares.");
+    if (now > booking.expires) throw Refusal("The session has expired. Please check the latest fares.");
     for (const Reservation& earlier : booking.reservations)
         if (earlier.state >= BookingState::Paid) throw Refusal("The booking has been paid for already.");
     Dice dice(seed_, fmt::format("reservation {} {}", booking.reference, reservations_));

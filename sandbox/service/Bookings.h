@@ -6,12 +6,21 @@
 #include "sandbox/world/Dates.h"
 #include "sandbox/world/Trip.h"
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace ombrivane::sandbox {
+
+/// On what terms the service prices an offer.
+struct Terms {
+    std::optional<int> farePercent; ///< by how much it costs more than was offered; none: as it comes
+    /// How long the price is held: ten minutes as clients count them, and half a minute for the way.
+    std::chrono::seconds holds{600 + 30};
+};
 
 struct Traveller {
     std::string id;   ///< the service's own, digits
@@ -39,6 +48,7 @@ struct Booking {
     Json summary; ///< `availabilitySummary` as it was answered
     DocumentTerms documents;
     Instant opened;
+    Instant expires; ///< no reservation after that
     std::vector<Reservation> reservations;
 
     /// The first and the last day of travel.
@@ -51,7 +61,8 @@ public:
     explicit Bookings(std::uint64_t seed) : seed_(seed) {}
 
     /// A new booking with its reference and the `data` of the answer.
-    Json open(Trip trip, DocumentTerms documents, Instant now, const std::string& address);
+    Json open(Trip trip, DocumentTerms documents, Instant now, const Terms& terms,
+              const std::string& address);
 
     /// The booking of that reference. Throws `Refusal`.
     Booking& at(const std::string& reference);

@@ -153,6 +153,11 @@ Json Service::bookings() {
     return bookings_.overview();
 }
 
+void Service::setTerms(const Terms& terms) {
+    const std::lock_guard lock(mutex_);
+    terms_ = terms;
+}
+
 void Service::reset() {
     const std::lock_guard lock(mutex_);
     accounts_.clear();
@@ -232,8 +237,9 @@ HttpAnswer Service::openAvailability(const Call& call) {
         fields.expectKeys({"user_type", "itinerary_type", "itinerary"});
     }
     Trip trip = tripOf(fields, offers_, OfferBook::Likeness::Whole);
+    trip.farePercent = terms_.farePercent;
     DocumentTerms terms = documentTermsFor(trip, documents_);
-    return successAnswer(bookings_.open(std::move(trip), std::move(terms), clock_.now(), address_));
+    return successAnswer(bookings_.open(std::move(trip), std::move(terms), clock_.now(), terms_, address_));
 }
 
 HttpAnswer Service::reserve(const Call& call) {

@@ -32,6 +32,9 @@ public:
     /// Turns the service's clock on.
     void advanceClock(std::chrono::seconds time) { clock_.advance(time); }
 
+    /// On what terms offers are priced from here on.
+    void setTerms(const Terms& terms);
+
     /// Forgets tokens, searches and bookings.
     void reset();
 
@@ -64,6 +67,7 @@ private:
     ClientAccounts accounts_;
     OfferBook offers_;
     Bookings bookings_;
+    Terms terms_;
 };
 
 } // namespace ombrivane::sandbox

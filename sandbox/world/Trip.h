@@ -11,7 +11,8 @@ namespace ombrivane::sandbox {
 struct Trip {
     std::string type; ///< "oneway", "round" or "round_special"
     Offer offer;
-    std::optional<Offer> special; ///< the way back of a "round_special"
+    std::optional<Offer> special;   ///< the way back of a "round_special"
+    std::optional<int> farePercent; ///< by how much it costs more than was offered; none: as it comes
 
     [[nodiscard]] const Journey& outbound() const { return offer.outbound; }
 
@@ -23,6 +24,10 @@ struct Trip {
 
     /// The fare of the offer or offers as of now.
     [[nodiscard]] FareTotals fare() const {
+        if (farePercent) {
+            const FareTotals offered = special ? offer.fare.totals + special->fare.totals : offer.fare.totals;
+            return offered.raised(*farePercent);
+        }
         return special ? offer.presentFare() + special->presentFare() : offer.presentFare();
     }
 };

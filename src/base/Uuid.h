@@ -24,7 +24,7 @@ public:
     std::string text() const;
 
     /// By their bytes.
-    auto operator<=>(const Uuid&) const = default;
+    bool operator==(const Uuid&) const = default;
 
 private:
     std::array<std::uint8_t, 16> bytes_{};

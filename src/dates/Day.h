@@ -38,9 +38,13 @@ public:
     /// Midnight of UTC, for arithmetic with other types.
     constexpr std::chrono::sys_days days() const { return days_; }
 
-    /// The earlier one is less.
+    /// The same day.
+    constexpr bool operator==(const Day&) const = default;
+    /// The earlier one is less. By the count of days, as libc++ 14 orders no points of time.
     // NOLINTNEXTLINE(modernize-use-nullptr): the checker takes the zero of the comparison for a pointer
-    constexpr auto operator<=>(const Day&) const = default;
+    constexpr auto operator<=>(const Day& other) const {
+        return days_.time_since_epoch().count() <=> other.days_.time_since_epoch().count();
+    }
 
 private:
     static constexpr int monthsOfYear = 12;

@@ -59,7 +59,7 @@ void StandingConnections::open(const std::string& url) {
     closeOld();
     const auto now = std::chrono::steady_clock::now();
     std::string server = serverOf(url);
-    const bool isYoung = std::ranges::any_of(standing_, [&](const Standing& standing) {
+    const bool isYoung = std::any_of(standing_.begin(), standing_.end(), [&](const Standing& standing) {
         return standing.server == server && now - standing.since < patience_ / 2;
     });
     if (server.empty() || isYoung || standing_.size() >= limits::standingConnections) return;
@@ -80,8 +80,9 @@ void StandingConnections::open(const std::string& url) {
 }
 
 bool StandingConnections::opened(CURL* handle, CURLcode result) {
-    const auto found = std::ranges::find_if(
-        standing_, [&](const Standing& standing) { return standing.opening.get() == handle; });
+    const auto found = std::find_if(standing_.begin(), standing_.end(), [&](const Standing& standing) {
+        return standing.opening.get() == handle;
+    });
     if (found == standing_.end()) return false;
     curl_socket_t socket = CURL_SOCKET_BAD;
     if (result == CURLE_OK) curl_easy_getinfo(handle, CURLINFO_ACTIVESOCKET, &socket);
@@ -97,7 +98,7 @@ int StandingConnections::take(const std::string& url) {
     closeOld();
     closeWhere([](const Standing& standing) { return standing.socket >= 0 && !isHeld(standing.socket); });
     const std::string server = serverOf(url);
-    const auto found = std::ranges::find_if(standing_, [&](const Standing& standing) {
+    const auto found = std::find_if(standing_.begin(), standing_.end(), [&](const Standing& standing) {
         return standing.server == server && standing.socket >= 0;
     });
     if (found == standing_.end()) return -1;

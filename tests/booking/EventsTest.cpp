@@ -62,7 +62,7 @@ TEST_F(EventsTest, ABookingTellsItsStationsInTheirOrder) {
                      "searchSent",
                      "searchAnswered 1",
                      "bookingOpened",
-                     "fareMoved 27336 27199",
+                     "fareMoved 1000 115889",
                      "reservationSent",
                      "reservationAnswered",
                      "uploadSent",
@@ -75,7 +75,7 @@ TEST_F(EventsTest, ABookingTellsItsStationsInTheirOrder) {
         EXPECT_FALSE(call.contains("error"));
     }
     EXPECT_EQ(endpoints.front(), "/get-token");
-    EXPECT_EQ(endpoints.back(), "/upload-passenger-documents");
+    EXPECT_EQ(endpoints.back(), "/documents");
 }
 
 TEST_F(EventsTest, AReservationWhoseAnswerSaysNothingIsUnknown) {

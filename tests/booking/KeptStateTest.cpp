@@ -59,6 +59,7 @@ TEST_P(KeptStateTest, ANewProcessStandsWhereTheLastOneStood) {
 TEST_P(KeptStateTest, DaysThatHaveGoneByAreAskedForAgain) {
     wallet.toSession();
     const std::string state = wallet.saveState();
+    wallet.drop();
     world.pass(std::chrono::hours(24 * 400));
     beginAnew(state);
     EXPECT_EQ(wallet.top(), "OmbrivaneView") << "the form";
