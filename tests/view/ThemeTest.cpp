@@ -7,12 +7,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPalette>
 #include <QQmlComponent>
 #include <QQmlProperty>
+#include <QRawFont>
 
 #include <algorithm>
 #include <map>
@@ -23,6 +25,26 @@ namespace {
 Shade shadeOf(const char* name) {
     const QColor colour(name);
     return {colour.redF(), colour.greenF(), colour.blueF()};
+}
+
+TEST(ThemeTest, EachFaceHasTheLettersOfLatinNamesAndTheSignsOfTexts) {
+    QString wanted;
+    for (char16_t letter = u' '; letter < 0x180; ++letter)
+        if (letter < 0x7f || QChar(letter).isLetter()) wanted += QChar(letter);
+    for (char16_t letter = 0x1ea0; letter <= 0x1ef9; ++letter) // of Vietnamese names
+        wanted += QChar(letter);
+    wanted += u"ǎǐǒǔǖșțȘȚǍẞẀẁẂẃẄẅỲỳ\u0300\u0301\u0302\u0303\u0308\u030a\u030c\u0327\u0328";
+    wanted += u"₹€£¥¢₽₩₪₫฿₺«»‹›“”„‘’‚–—…•·°×−±§©®™№½¼¾←→↑↓≤≥≠≈¡¿";
+    for (const char* name : {"Light", "Regular", "Medium", "SemiBold"}) {
+        QFile file(QString(":/com.framework.Ombrivane/fonts/FiraSans-%1.ttf").arg(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QRawFont face(file.readAll(), 15);
+        EXPECT_EQ(face.familyName(), "Fira Sans");
+        QString missing;
+        for (const QChar letter : wanted)
+            if (!face.supportsCharacter(letter)) missing += letter;
+        EXPECT_EQ(missing.toStdString(), "") << name;
+    }
 }
 
 TEST(ThemeTest, ContrastIsComputedAndRepairedByLightness) {
