@@ -11,10 +11,17 @@ target_compile_options(ombrivane_warnings INTERFACE
 # Of a text put before a text, g++ 12 believes that it may overlap itself.
 target_compile_options(ombrivane_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
-# A wallet counts the bytes that it ships: a release is built for size, but for the sources that go through long answers.
+# A wallet counts the bytes that it ships: a release is built for size, but for the sources that go through long answers,
+# and linked without what nobody calls, its relocations packed where linker and loader can.
+include(CheckLinkerFlag)
+set(thrifty $<$<NOT:$<PLATFORM_ID:Darwin>>:-Wl,--gc-sections>)
+check_linker_flag(CXX -Wl,-z,pack-relative-relocs OMBRIVANE_PACKS_RELOCATIONS)
+if(OMBRIVANE_PACKS_RELOCATIONS)
+    list(APPEND thrifty -Wl,-z,pack-relative-relocs)
+endif()
 function(ombrivane_small target)
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-Os> $<$<CONFIG:Release>:-ffunction-sections>)
-    target_link_options(${target} INTERFACE $<BUILD_INTERFACE:$<$<CONFIG:Release>:$<$<NOT:$<PLATFORM_ID:Darwin>>:-Wl,--gc-sections>>>)
+    target_link_options(${target} INTERFACE "$<BUILD_INTERFACE:$<$<CONFIG:Release>:${thrifty}>>")
 endfunction()
 
 # Where one file is built again and again, the headers that nearly all of them read are read once.
