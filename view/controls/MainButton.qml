@@ -15,7 +15,8 @@ Pressable {
     implicitWidth: Math.ceil(natural.advanceWidth) + Theme.overhang + spared
     Accessible.name: text
 
-    TextMetrics { id: natural; font: label.font; text: button.text }
+    // At once: each member of the label's font that is set meanwhile would ask the device for a font of its own.
+    TextMetrics { id: natural; font: Qt.font({family: Theme.fontFamily, pixelSize: Theme.sectionSize, weight: Font.Medium}); text: button.text }
     background: Rectangle {
         radius: height / 2
         color: button.quiet ? "transparent" : Theme.secondaryColor
