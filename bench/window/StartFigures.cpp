@@ -95,7 +95,7 @@ Start startInProcess(const QString& kind) {
             figures.value(3).toDouble()};
 }
 
-double medianOf(const std::vector<Start>& starts, double Start::* figure) {
+double medianOf(const std::vector<Start>& starts, double Start::*figure) {
     std::vector<double> values;
     values.reserve(starts.size());
     for (const Start& each : starts)
@@ -129,9 +129,8 @@ void printStartFigures() {
         component.push_back(startInProcess("component"));
         awaited.push_back(startInProcess("awaited"));
     }
-    const std::pair<const char*, double Start::*> rows[] = {{"start", &Start::firstFrame},
-                                                            {"sight", &Start::sight},
-                                                            {"sight.processor", &Start::processor}};
+    const std::pair<const char*, double Start::*> rows[] = {
+        {"start", &Start::firstFrame}, {"sight", &Start::sight}, {"sight.processor", &Start::processor}};
     for (const auto& [name, figure] : rows) {
         const double one = medianOf(bare, figure);
         const double other = medianOf(component, figure);

@@ -4,9 +4,9 @@
 
 namespace ombrivane::bench {
 
-/// One cold start in this process, of the bare window (`kind` is "bare"), of the component ("component") or of
-/// it with a token that takes 300 ms ("awaited"); prints its milliseconds: to the first frame, to the one whose
-/// title can be read, of the processor until then, of the longest turn of the event loop.
+/// One cold start in this process, of the bare window (`kind` is "bare"), of the component ("component") or
+/// of it with a token that takes 300 ms ("awaited"); prints its milliseconds: to the first frame, to the one
+/// whose title can be read, of the processor until then, of the longest turn of the event loop.
 void startOnce(const QString& kind);
 
 /// Each prints its figures as lines "name value". @throws std::runtime_error when a page cannot be shown
