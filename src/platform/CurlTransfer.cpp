@@ -169,7 +169,11 @@ std::size_t CurlTransfer::receive(char* bytes, std::size_t size, std::size_t cou
     auto& transfer = *static_cast<CurlTransfer*>(self);
     const std::size_t length = size * count;
     if (length > transfer.request_.answerBytes - transfer.received_.size()) {
-        transfer.tooLarge_ = "the body has more than " + std::to_string(transfer.request_.answerBytes);
+        transfer.tooLarge_ =
+            "the body has more than " + std::to_string(transfer.request_.answerBytes) + " bytes";
+        curl_off_t announced = -1; // as it travels, so perhaps packed
+        curl_easy_getinfo(transfer.handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
+        if (announced >= 0) transfer.tooLarge_ += ", " + std::to_string(announced) + " announced";
         return 0;
     }
     // Nothing may be thrown through libcurl.
@@ -181,7 +185,8 @@ std::size_t CurlTransfer::receiveHeader(char* /*bytes*/, std::size_t size, std::
     auto& transfer = *static_cast<CurlTransfer*>(self);
     transfer.headerBytes_ += size * count;
     if (transfer.headerBytes_ <= limits::headerBytes) return size * count;
-    transfer.tooLarge_ = "headers and trailers have more than " + std::to_string(limits::headerBytes);
+    transfer.tooLarge_ =
+        "headers and trailers have more than " + std::to_string(limits::headerBytes) + " bytes";
     return 0;
 }
 
@@ -212,7 +217,7 @@ int CurlTransfer::status() const {
 }
 
 void CurlTransfer::complete(CURLcode result) {
-    if (!tooLarge_.empty()) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText, tooLarge_ + " bytes");
+    if (!tooLarge_.empty()) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText, tooLarge_);
     if (silent_) {
         return fail(CURLE_OPERATION_TIMEDOUT,
                     textOf(CURLE_OPERATION_TIMEDOUT),

@@ -6,10 +6,10 @@
 
 namespace ombrivane {
 
-void DecodeRoom::refuse() {
-    throw DecodeError(notUnderstood,
-                      fmt::format("takes more than {} MiB of memory beyond the answer's bytes",
-                                  limits::structureBytes / limits::mebibyte));
+void DecodeRoom::refuse() const {
+    throw DecodeError(
+        notUnderstood,
+        fmt::format("takes more than {} MiB of memory beyond the answer's bytes", limit_ / limits::mebibyte));
 }
 
 void DecodeRoom::refuseCount() {

@@ -10,7 +10,7 @@ namespace ombrivane {
 /// taken, so that an answer which asks for more is an error in bounded memory.
 class DecodeRoom {
 public:
-    explicit DecodeRoom(std::size_t bytes = limits::structureBytes) : left_(bytes) {}
+    explicit DecodeRoom(std::size_t bytes = limits::structureBytes) : limit_(bytes), left_(bytes) {}
 
     /// @throws DecodeError when there is not so much left
     void take(std::size_t bytes) {
@@ -38,9 +38,10 @@ private:
     static constexpr std::size_t shortText = 16;
     static constexpr std::size_t overhead = 16;
 
-    [[noreturn]] static void refuse();
+    [[noreturn]] void refuse() const;
     [[noreturn]] static void refuseCount();
 
+    std::size_t limit_;
     std::size_t left_;
 };
 

@@ -40,6 +40,7 @@ std::int64_t countFrom(const std::string& text, const std::string& what) {
 ServiceCall searchCall(const FlightQuery& query) {
     ServiceCall call;
     call.answerBytes = limits::searchBytes;
+    call.structureBytes = limits::searchStructureBytes;
     call.endpoint = endpoint::flightSearch;
     call.body = [query] {
         auto body = bodyOf(query).serialised();

@@ -96,13 +96,14 @@ void detail::perform(const ServiceCall& call, HttpCompletion answered) {
     network->expect(next); // a key typed follows another, an upload its reservation
 }
 
-std::optional<Error> detail::readAnswer(HttpAnswer answer, const std::string& failureDomain,
+std::optional<Error> detail::readAnswer(HttpAnswer answer, std::size_t structureBytes,
+                                        const std::string& failureDomain,
                                         const std::function<void(const Envelope&)>& read) {
     // The response itself is not looked at: a status says less than the envelope.
     if (!answer.data || answer.error) return std::move(answer.error);
     std::optional<Error> refusal;
     auto failure = attempted([&] {
-        const Envelope envelope(*std::move(answer.data));
+        const Envelope envelope(*std::move(answer.data), structureBytes);
         if (envelope.success()) {
             read(envelope);
         } else {

@@ -31,6 +31,7 @@ struct ServiceCall {
     std::string failureDomain = errorDomain::service;
     std::chrono::seconds wholeInterval = limits::request;
     std::size_t answerBytes = limits::recordBytes;
+    std::size_t structureBytes = limits::structureBytes; ///< what reading may take beyond the answer's bytes
 };
 
 /// Tells the diagnostics of a call that failed; the frame does, for every call that goes through it. Any
@@ -64,7 +65,8 @@ void perform(const ServiceCall& call, HttpCompletion answered);
 
 /// Hands the envelope of a success to `read`. @return why there is no success, or nothing also where the
 /// network has neither bytes nor an error
-std::optional<Error> readAnswer(HttpAnswer answer, const std::string& failureDomain,
+std::optional<Error> readAnswer(HttpAnswer answer, std::size_t structureBytes,
+                                const std::string& failureDomain,
                                 const std::function<void(const Envelope&)>& read);
 
 } // namespace detail
@@ -75,19 +77,23 @@ std::optional<Error> readAnswer(HttpAnswer answer, const std::string& failureDom
 template <class Result>
 void send(const ServiceCall& call, std::function<Result(const Envelope&)> read,
           const Completion<Result>& completion) {
-    detail::perform(
-        call,
-        [read = std::move(read), completion, record = CallRecord(call.endpoint), domain = call.failureDomain](
-            HttpAnswer answer) mutable {
-            record.answered(answer);
-            std::optional<Result> result;
-            auto error = detail::readAnswer(
-                std::move(answer), domain, [&](const Envelope& envelope) { result.emplace(read(envelope)); });
-            const bool failed = error || !result;
-            record.ended(failed, error);
-            if (!failed) return completion(*std::move(result));
-            completion(Result(), std::move(error));
-        });
+    detail::perform(call,
+                    [read = std::move(read),
+                     completion,
+                     record = CallRecord(call.endpoint),
+                     domain = call.failureDomain,
+                     room = call.structureBytes](HttpAnswer answer) mutable {
+                        record.answered(answer);
+                        std::optional<Result> result;
+                        auto error = detail::readAnswer(
+                            std::move(answer), room, domain, [&](const Envelope& envelope) {
+                                result.emplace(read(envelope));
+                            });
+                        const bool failed = error || !result;
+                        record.ended(failed, error);
+                        if (!failed) return completion(*std::move(result));
+                        completion(Result(), std::move(error));
+                    });
 }
 
 } // namespace ombrivane

@@ -77,6 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(answer.data->size() <= answerLimit, "an answer is within its limit");
     bool wasRead = false;
     const auto error = detail::readAnswer(std::move(answer),
+                                          limits::structureBytes,
                                           errorDomain::service,
                                           [&wasRead](const Envelope& /*envelope*/) { wasRead = true; });
     require(error || wasRead, "there is a result or an error");

@@ -106,10 +106,22 @@ TEST_F(FrameOnTheLineTest, TheStatusIsNotReadAndARefusalIsTheServicesOwn) {
     EXPECT_EQ(error, (Error{"Ombrivane.Authentication", 0, "Invalid credentials."}));
 }
 
-TEST(OffersOnTheLineTest, TenMillionEmptyOffersInThirtyKilobytesAreOneError) {
-    const std::string start = R"({"success":true,"data":[{})";
-    const std::string body = sandbox::gzippedFiller(start, start.size() + 30'000'000 + 2, "]}", ",{}");
-    ASSERT_LT(body.size(), 40'000U);
+/// An answer that is short on the line and long when it is unpacked.
+struct PackedCase {
+    const char* name;
+    std::string filler;
+    std::size_t bytes; ///< unpacked
+    const char* failure;
+
+    friend std::ostream& operator<<(std::ostream& out, const PackedCase& row) { return out << row.name; }
+};
+
+class OffersOnTheLineTest : public testing::TestWithParam<PackedCase> {};
+
+TEST_P(OffersOnTheLineTest, WhatALimitRefusesIsOneErrorAndOneDiagnosticLine) {
+    const std::string body =
+        sandbox::gzippedFiller(R"({"success":true,"data":[{})", GetParam().bytes, "]}", GetParam().filler);
+    ASSERT_LT(body.size(), 400'000U);
     TlsServer service([&body](sandbox::TlsConnection& connection) {
         if (readRequest(connection))
             connection.write("HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: " +
@@ -130,10 +142,18 @@ TEST(OffersOnTheLineTest, TenMillionEmptyOffersInThirtyKilobytesAreOneError) {
     });
     const auto [offers, error] = promise.get_future().get();
     EXPECT_EQ(offers, 0U);
-    EXPECT_EQ(error.domain, "Decoding");
-    EXPECT_NE(error.developerDescription.find("more than 10000 elements"), std::string::npos)
-        << error.developerDescription;
+    std::string told = "/search-flights failed: ";
+    told += GetParam().failure;
+    if (error.domain == "Network") told += ", " + std::to_string(body.size()) + " announced";
+    EXPECT_EQ(world.diagnostics->failedCalls, std::vector{told});
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Packed, OffersOnTheLineTest,
+    testing::Values(
+        PackedCase{"TenMillionEmptyOffers", ",{}", 30'000'028, "Decoding 0, data: more than 10000 elements"},
+        PackedCase{
+            "SpaceWithoutEnd", " ", 170'000'000, "Network 63, the body has more than 167772160 bytes"}));
 
 } // namespace
 } // namespace ombrivane::network

@@ -116,8 +116,37 @@ TEST_F(AnswerRoomTest, HostileShapesStayWithinBounds) {
             SCOPED_TRACE(call.name + " " + answer.substr(0, 60));
             const auto [outcome, peak] = read(call, answer);
             EXPECT_EQ(outcome.completions, 1);
-            EXPECT_LT(peak, 64 * limits::mebibyte);
+            EXPECT_LT(peak, limits::searchStructureBytes / 8 * 9);
         }
+    }
+}
+
+TEST_F(AnswerRoomTest, TenThousandOffersWithEveryAttributeAreRead) {
+    std::size_t found = 0;
+    const auto count = [&found](const auto& offers, const std::optional<Error>& error) {
+        EXPECT_FALSE(error) << error->developerDescription;
+        found = offers.size();
+    };
+    FlightQuery query;
+    query.departDate = Day::parse("2026-04-10").value();
+    query.adults = query.children = query.infants = "1";
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"search-oneway", [&] { FlightSearchOneWayProvider().searchFlights(query, count); }},
+        {"search-round", [&] { FlightSearchRoundTripProvider().searchFlights(query, count); }},
+    };
+    for (const auto& [file, start] : rows) {
+        SCOPED_TRACE(file);
+        const std::string offer = fakes::captured(file).at("data").at(0).dump();
+        std::string bytes = R"({"success":true,"data":[)" + offer;
+        for (int i = 1; i < 10'000; ++i)
+            bytes.append(",").append(offer);
+        bytes += "]}";
+        EXPECT_LT(bytes.size() / 5 * 6, limits::searchBytes);
+        start();
+        const HeapMeter meter;
+        world.network->answer(std::move(bytes));
+        EXPECT_EQ(found, 10'000U);
+        EXPECT_LT(meter.peak() / 5 * 6, limits::searchStructureBytes);
     }
 }
 

@@ -32,7 +32,7 @@ std::string withKnownBoundary(std::string text) {
 /// The longest answer that the operation at `target` takes, in bytes.
 std::size_t longestAnswer(const std::string& target) {
     const std::string path = target.substr(0, target.find('?'));
-    if (path == "/search-flights") return 32UL << 20U;
+    if (path == "/search-flights") return 160UL << 20U;
     for (const char* lookup : {"/search-airports", "/countries", "/availability", "/verify-flights"})
         if (path == lookup) return 2UL << 20U;
     return 256UL << 10U;
