@@ -1,41 +1,34 @@
 import QtQuick
 import Ombrivane
 
-// Shows the stack of screens: pushed pages fill the stage and slide in, sheets and alerts lie over them. What is
-// covered takes no input and is told to nobody.
+// Shows the stack of screens. What is covered takes no input and is told to nobody.
 FocusScope {
     id: root
 
     required property StageModel model
 
     Repeater {
+        id: entries
         model: root.model
-        delegate: Loader {
+        delegate: StageEntry {
             id: entry
-
-            required property QtObject screen
-            required property url page
-            required property int presentation
-            required property int index
-            readonly property bool pushed: presentation === 0
-            property real arrival: pushed && index > 0 && Theme.pageDuration > 0 ? 1 : 0
-
-            x: (Words.rightToLeft ? -arrival : arrival) * root.width
-            width: root.width
-            height: root.height
-            visible: index >= root.model.firstInView || index === root.model.firstInView - 1 && root.model.count - 1 === root.model.firstInView
-            enabled: index === root.model.count - 1
-            focus: enabled
-            onLoaded: if (pushed) arrival = 0
-            Component.onCompleted: setSource(page, {"screen": screen})
-
-            Unspoken { item: entry.item as Item; when: !entry.enabled }
-            Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
-            Connections {
-                target: entry.item
-                ignoreUnknownSignals: true
-                function onBack() { root.model.back() }
-            }
+            width: root.width - Theme.safeLeft - Theme.safeRight
+            height: root.height - Theme.safeTop - Math.max(Theme.safeBottom, enabled ? Theme.keyboardHeight : 0)
+            way: root.width
+            below: root.model.firstInView
+            last: root.model.count - 1
+            pulled: swipe.page === entry ? swipe.part : 0
+            onBack: root.model.back()
+        }
+    }
+    EdgeSwipe {
+        id: swipe
+        anchors { top: parent.top; bottom: parent.bottom; left: parent.left }
+        z: 1
+        span: root.width
+        onBegan: {
+            const front = entries.itemAt(entries.count - 1) as StageEntry
+            if (front.pushed && entries.count > 1) swipe.begin(front)
         }
     }
     FocusRing {

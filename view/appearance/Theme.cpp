@@ -65,6 +65,10 @@ void Theme::setLook(const Look& look) {
     if (std::exchange(look_, look) != look) emit changed();
 }
 
+void Theme::setInsets(const Insets& insets) {
+    if (std::exchange(insets_, insets) != insets) emit insetsChanged();
+}
+
 /// Colours that a wallet sets one after the other are judged when it is through with them.
 void Theme::complain() {
     complains_ = false;

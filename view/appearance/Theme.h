@@ -3,6 +3,7 @@
 #include "adapters/WordsAdapter.h"
 #include "appearance/Appearance.h"
 #include "appearance/DeviceLook.h"
+#include "appearance/Insets.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -32,6 +33,14 @@ private:
     Q_PROPERTY(double name READ name CONSTANT FINAL)                                                         \
 public:                                                                                                      \
     static double name() { return points; }                                                                  \
+                                                                                                             \
+private:
+
+/// Of the sides of the view that pages keep clear of, in points.
+#define OMBRIVANE_INSET(name, side)                                                                          \
+    Q_PROPERTY(double name READ name NOTIFY insetsChanged FINAL)                                             \
+public:                                                                                                      \
+    double name() const { return insets_.side; }                                                             \
                                                                                                              \
 private:
 
@@ -95,6 +104,12 @@ class Theme : public QObject {
     OMBRIVANE_MEASURE(wideWidth, 840)
     OMBRIVANE_MEASURE(besideWidth, 360)
 
+    OMBRIVANE_INSET(safeLeft, left)
+    OMBRIVANE_INSET(safeTop, top)
+    OMBRIVANE_INSET(safeRight, right)
+    OMBRIVANE_INSET(safeBottom, bottom)
+    OMBRIVANE_INSET(keyboardHeight, keyboard)
+
     /// In milliseconds.
     Q_PROPERTY(int stateDuration READ stateDuration NOTIFY changed FINAL)
     Q_PROPERTY(int pageDuration READ pageDuration NOTIFY changed FINAL)
@@ -116,6 +131,8 @@ public:
     void setAppearance(const Appearance& appearance);
     /// Takes effect at once.
     void setLook(const Look& look);
+    /// Takes effect at once.
+    void setInsets(const Insets& insets);
 
     bool isDark() const { return look_.dark; }
     double textScale() const { return look_.textScale; }
@@ -136,6 +153,7 @@ public:
     void retire();
 
     Q_SIGNAL void changed();
+    Q_SIGNAL void insetsChanged();
     Q_SIGNAL void fontFamilyChanged();
 
 private:
@@ -145,6 +163,7 @@ private:
 
     Appearance appearance_;
     Look look_;
+    Insets insets_;
     std::array<Colours, 2> colours_{Colours::own(false), Colours::own(true)};
     QStringList complaints_; ///< of the colours as they are now
     QSet<QString> told_;     ///< complaints that the diagnostics have heard

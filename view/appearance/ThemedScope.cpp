@@ -2,6 +2,7 @@
 
 #include "appearance/Theme.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ombrivane::view {
@@ -9,6 +10,7 @@ namespace ombrivane::view {
 ThemedScope::ThemedScope(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemIsFocusScope);
     connect(&DeviceLook::shared(), &DeviceLook::changed, this, &ThemedScope::showLook);
+    connect(&deviceInsets_, &DeviceInsets::changed, this, &ThemedScope::showInsets);
 }
 
 ThemedScope::~ThemedScope() {
@@ -21,6 +23,7 @@ Theme* ThemedScope::theme() {
         theme_ = new Theme(*engine); // owned by the engine
         theme_->setAppearance(appearance_);
         theme_->setLook(look());
+        theme_->setInsets(insets());
     }
     return theme_;
 }
@@ -51,6 +54,32 @@ Look ThemedScope::look() const {
 void ThemedScope::showLook() {
     if (theme_) theme_->setLook(look());
     emit lookChanged();
+}
+
+Insets ThemedScope::insets() const {
+    const Insets& device = deviceInsets_.insets();
+    const auto said = [](const std::optional<double>& points, double otherwise) {
+        return std::max(0.0, points.value_or(otherwise));
+    };
+    return {.left = said(safeLeft_, device.left),
+            .top = said(safeTop_, device.top),
+            .right = said(safeRight_, device.right),
+            .bottom = said(safeBottom_, device.bottom),
+            .keyboard = said(keyboardHeight_, device.keyboard)};
+}
+
+void ThemedScope::setInset(std::optional<double>& inset, std::optional<double> points) {
+    if (std::exchange(inset, points) != points) showInsets();
+}
+
+void ThemedScope::showInsets() {
+    if (theme_) theme_->setInsets(insets());
+    emit insetsChanged();
+}
+
+void ThemedScope::geometryChange(const QRectF& now, const QRectF& before) {
+    QQuickItem::geometryChange(now, before);
+    deviceInsets_.read();
 }
 
 void ThemedScope::setDark(std::optional<bool> dark) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "appearance/AppearanceTable.h"
+#include "appearance/DeviceInsets.h"
 #include "appearance/DeviceLook.h"
 
 #include <QPointer>
@@ -31,6 +32,19 @@ class ThemedScope : public QQuickItem {
     /// Whether nothing moves that needs not.
     Q_PROPERTY(bool reducedMotion READ isMotionReduced WRITE setMotionReduced RESET resetMotionReduced NOTIFY
                    lookChanged FINAL)
+    /// How much of its left side a notch or a bar takes, in points; pages keep clear of it, colours do not.
+    Q_PROPERTY(double safeLeft READ safeLeft WRITE setSafeLeft RESET resetSafeLeft NOTIFY insetsChanged FINAL)
+    /// The same of its upper side.
+    Q_PROPERTY(double safeTop READ safeTop WRITE setSafeTop RESET resetSafeTop NOTIFY insetsChanged FINAL)
+    /// The same of its right side.
+    Q_PROPERTY(
+        double safeRight READ safeRight WRITE setSafeRight RESET resetSafeRight NOTIFY insetsChanged FINAL)
+    /// The same of its lower side.
+    Q_PROPERTY(double safeBottom READ safeBottom WRITE setSafeBottom RESET resetSafeBottom NOTIFY
+                   insetsChanged FINAL)
+    /// How much of its lower end a keyboard on the screen covers, in points.
+    Q_PROPERTY(double keyboardHeight READ keyboardHeight WRITE setKeyboardHeight RESET resetKeyboardHeight
+                   NOTIFY insetsChanged FINAL)
     /// Whether what is else written in regular letters is written in bold ones.
     Q_PROPERTY(bool boldText READ isTextBold WRITE setTextBold RESET resetTextBold NOTIFY lookChanged FINAL)
 
@@ -70,6 +84,37 @@ public:
     /// For QML.
     void resetTextBold() { setTextBold(std::nullopt); }
 
+    /// As the pages keep clear of it: what the host has said, or else what the device says.
+    double safeLeft() const { return insets().left; }
+    /// The same of the upper side.
+    double safeTop() const { return insets().top; }
+    /// The same of the right side.
+    double safeRight() const { return insets().right; }
+    /// The same of the lower side.
+    double safeBottom() const { return insets().bottom; }
+    /// The same of the keyboard.
+    double keyboardHeight() const { return insets().keyboard; }
+    /// Absent, as in the four that follow: as the device says.
+    void setSafeLeft(std::optional<double> points) { setInset(safeLeft_, points); }
+    /// See `setSafeLeft`.
+    void setSafeTop(std::optional<double> points) { setInset(safeTop_, points); }
+    /// See `setSafeLeft`.
+    void setSafeRight(std::optional<double> points) { setInset(safeRight_, points); }
+    /// See `setSafeLeft`.
+    void setSafeBottom(std::optional<double> points) { setInset(safeBottom_, points); }
+    /// See `setSafeLeft`.
+    void setKeyboardHeight(std::optional<double> points) { setInset(keyboardHeight_, points); }
+    /// For QML, as the four that follow: set to `undefined`.
+    void resetSafeLeft() { setSafeLeft(std::nullopt); }
+    /// For QML.
+    void resetSafeTop() { setSafeTop(std::nullopt); }
+    /// For QML.
+    void resetSafeRight() { setSafeRight(std::nullopt); }
+    /// For QML.
+    void resetSafeBottom() { setSafeBottom(std::nullopt); }
+    /// For QML.
+    void resetKeyboardHeight() { setKeyboardHeight(std::nullopt); }
+
     /// Of all that is inside. It outlives this, and everything that was made inside.
     Theme* theme();
 
@@ -77,11 +122,19 @@ public:
     Q_SIGNAL void appearanceChanged();
     /// One of the four that follow the device.
     Q_SIGNAL void lookChanged();
+    /// One of the five that pages keep clear of.
+    Q_SIGNAL void insetsChanged();
+
+protected:
+    void geometryChange(const QRectF& now, const QRectF& before) override;
 
 private:
     /// What the host has said, and what else the device says.
     Look look() const;
     void showLook();
+    Insets insets() const;
+    void setInset(std::optional<double>& inset, std::optional<double> points);
+    void showInsets();
 
     QPointer<AppearanceTable> table_;
     Appearance appearance_;
@@ -89,6 +142,12 @@ private:
     std::optional<double> textScale_;
     std::optional<bool> reducedMotion_;
     std::optional<bool> boldText_;
+    std::optional<double> safeLeft_;
+    std::optional<double> safeTop_;
+    std::optional<double> safeRight_;
+    std::optional<double> safeBottom_;
+    std::optional<double> keyboardHeight_;
+    DeviceInsets deviceInsets_{*this};
     QPointer<Theme> theme_;
 };
 

@@ -20,8 +20,14 @@ Rectangle {
     implicitHeight: grid.implicitHeight + 2 * Theme.gap
     color: Theme.whiteColor
 
+    Rectangle {
+        x: -Theme.safeLeft
+        width: parent.width + Theme.safeLeft + Theme.safeRight
+        height: parent.height + Theme.safeBottom
+        color: Theme.whiteColor
+        Rectangle { width: parent.width; height: 1; color: Theme.hairlineColor }
+    }
     Blocker { anchors.fill: parent }
-    Rectangle { width: parent.width; height: 1; color: Theme.hairlineColor }
     GridLayout {
         id: grid
         anchors.centerIn: parent

@@ -10,7 +10,7 @@ Flickable {
 
     // The height of a header that lies over the column and, where it is a tall one, scrolls away with it.
     property real inset: 0
-    readonly property real covered: inset > Theme.tallHeader ? 0 : inset
+    readonly property real covered: inset > Theme.tallHeader || parent !== null && parent.height < 300 ? 0 : inset
 
     // What lies over its lower end for a while.
     property real footCover: 0
@@ -19,6 +19,24 @@ Flickable {
         const place = item.mapToItem(column, 0, 0).y + column.y
         if (place < contentY + covered + Math.max(0, inset - covered - contentY)) contentY = Math.max(0, place - covered - Theme.gap)
         else if (place + item.height > contentY + height - footCover) contentY = place + item.height - height + footCover + Theme.gap
+    }
+    // The first button below a field, null for none.
+    function buttonAfter(field: Item): MainButton {
+        for (let i = 0, passed = false; i < column.children.length; ++i) {
+            const button = column.children[i] as MainButton
+            if (passed && button !== null && button.visible) return button
+            if (column.children[i] === field) passed = true
+        }
+        return null
+    }
+    // A field with its button; false where there is no room for both.
+    function revealBoth(field: Item, button: MainButton): bool {
+        const from = column.y + field.y
+        const to = column.y + button.y + button.height
+        const spare = Math.min(Theme.gap, (height - covered - footCover - (to - from)) / 2)
+        if (spare < 0) return false
+        contentY = Math.max(to + spare + footCover - height, Math.min(contentY, Math.max(0, from - spare - covered)))
+        return true
     }
     function isMissing(item: Item): bool {
         const field = item as FormField
@@ -41,11 +59,15 @@ Flickable {
     function revealFocus() {
         const focused = area.Window.activeFocusItem
         for (let item = focused; item !== null; item = item.parent) {
-            if (item === column) return area.reveal(focused)
+            if (item.parent !== column) continue
+            const button = Theme.keyboardHeight > 0 ? area.buttonAfter(item) : null
+            if (button === null || !area.revealBoth(item, button)) area.reveal(focused)
+            return
         }
     }
-    // A field that grows, or a message that comes, may cover it.
+    // A field that grows, a message or a keyboard that comes, may cover it.
     onContentHeightChanged: if (!moving) reveals.restart()
+    onHeightChanged: if (!moving) reveals.restart()
     Timer {
         id: reveals
         interval: 0

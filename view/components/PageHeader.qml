@@ -8,15 +8,19 @@ Rectangle {
     property string title: ""
     property string iconName: "arrowLeftIcon"
     property string leaveLabel: Words.back
-    // Of the content that passes under it, in points.
+    // Of the content that passes under it, in points. On a page that a keyboard leaves little of, no header stays.
     property real scrolled: 0
-    readonly property bool goesAway: height > Theme.tallHeader
+    readonly property bool goesAway: height > Theme.tallHeader || parent !== null && parent.height < 300
     signal leave
 
     color: "transparent"
     y: goesAway ? -Math.max(0, Math.min(height, scrolled)) : 0
     implicitHeight: Math.max(56, text.implicitHeight + 16)
 
+    // What leaves the page is not drawn under a notch on its way.
+    opacity: goesAway ? 1 - Math.max(0, Math.min(1, scrolled / height)) : 1
+
+    WayBack { enabled: button.visible; onTaken: header.leave() }
     IconButton {
         id: button
         objectName: "leave"

@@ -24,6 +24,7 @@ Rectangle {
     Behavior on collapse { NumberAnimation { duration: Theme.stateDuration; easing.type: Easing.OutCubic } }
 
     Blocker { anchors.fill: parent }
+    WayBack { onTaken: header.screen.back() }
     Item {
         id: route
         y: -header.collapse * height

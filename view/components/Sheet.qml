@@ -20,10 +20,9 @@ FocusScope {
     Accessible.name: name
     Accessible.focusable: true
 
-    Rectangle {
-        anchors.fill: parent
+    Dim {
         color: sheet.beside ? "transparent" : Theme.dimColor
-        Blocker { anchors.fill: parent; onClicked: sheet.dismissed() }
+        onTapped: sheet.dismissed()
     }
     Rectangle {
         id: panel
@@ -31,12 +30,21 @@ FocusScope {
         readonly property real shownHeight: sheet.beside ? sheet.height : Math.min(sheet.wantedHeight + head, sheet.height - 40)
         x: !sheet.beside ? (parent.width - width) / 2 : Words.rightToLeft ? parent.width - width : 0
         width: sheet.beside ? Theme.besideWidth : Math.min(parent.width, Theme.contentWidth)
-        height: shownHeight + (sheet.beside ? 0 : Theme.cardRadius)
+        height: shownHeight + (sheet.beside ? 0 : Theme.cardRadius) + Theme.safeBottom
         y: parent.height - shownHeight + sheet.shift
         radius: sheet.beside ? 0 : Theme.cardRadius
         color: sheet.ground
 
         Blocker { anchors.fill: parent }
+        Rectangle {
+            visible: sheet.beside
+            x: Words.rightToLeft ? parent.width : -width
+            y: -Theme.safeTop
+            width: Words.rightToLeft ? Theme.safeRight : Theme.safeLeft
+            height: parent.height + Theme.safeTop
+            color: sheet.ground
+        }
+        Rectangle { visible: sheet.beside; width: parent.width; y: -height; height: Theme.safeTop; color: sheet.ground }
         Rectangle { visible: sheet.beside; x: Words.rightToLeft ? -1 : parent.width; width: 1; height: parent.height; color: Theme.hairlineColor }
         Item {
             visible: !sheet.beside

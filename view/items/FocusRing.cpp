@@ -113,7 +113,7 @@ QQuickItem* FocusRing::focused() const {
 /// Before each frame, since whatever the control lies in may have moved.
 void FocusRing::follow() {
     const QQuickItem* control = focused();
-    const bool shown = control != nullptr && control->isVisible();
+    bool shown = control != nullptr && control->isVisible();
     if (control != last_) reveals_ = framesToSettle;
     last_ = control;
     if (shown) {
@@ -123,6 +123,10 @@ void FocusRing::follow() {
         const QRectF place = around.mapRectToItem(parentItem(), QRectF(QPointF(), around.size()))
                                  .adjusted(-reach, -reach, reach, reach)
                                  .intersected(stage);
+        // A page that slides may not be on the stage yet.
+        shown = !place.isEmpty();
+        setVisible(shown);
+        if (!shown) return;
         setPosition(place.topLeft());
         setSize(place.size());
         const double radius = std::min(around.property("radius").toDouble(), around.height() / 2) + reach;

@@ -12,11 +12,7 @@ FocusScope {
     Accessible.role: Accessible.Dialog
     Accessible.name: page.screen.title + " " + page.screen.message
 
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.dimColor
-        Blocker { anchors.fill: parent }
-    }
+    Dim {}
     Rectangle {
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * Theme.margin, 340)

@@ -10,7 +10,9 @@ Item {
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     Icon {
-        width: parent.width
+        x: -Theme.safeLeft
+        y: -Theme.safeTop
+        width: parent.width + Theme.safeLeft + Theme.safeRight
         height: width * 360 / 640
         name: "cloudBackground"
         dark: Theme.dark

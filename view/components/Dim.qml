@@ -1,0 +1,20 @@
+import QtQuick
+import Ombrivane
+
+// Dims what lies below, to the edges of the stage, and takes its taps.
+Rectangle {
+    id: dim
+
+    signal tapped
+
+    anchors {
+        fill: parent
+        leftMargin: -Theme.safeLeft
+        topMargin: -Theme.safeTop
+        rightMargin: -Theme.safeRight
+        bottomMargin: -Math.max(Theme.safeBottom, Theme.keyboardHeight)
+    }
+    color: Theme.dimColor
+
+    Blocker { anchors.fill: parent; onClicked: dim.tapped() }
+}
