@@ -124,6 +124,9 @@ const std::vector<OtherName>& otherNames() {
     static const std::vector<OtherName> names{
         // A word of both languages.
         {"", "continue", "proceed", "continue_"},
+        // What a screen waits for is one part of it.
+        {"", "waitText", "waitText", "wait.waitText"},
+        {"", "waitHint", "waitHint", "wait.waitHint"},
         // A screen's own name is a member of each.
         {"AirportRowAdapter", "name", "name", "name_"},
         // What both kinds of result list have of their models.

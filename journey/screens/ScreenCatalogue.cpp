@@ -101,7 +101,7 @@ void Catalogue::addResults() {
         std::make_shared<DomesticFlightListView>(request(true), nobody));
     add("in the place of a list, when no offer exists or the filter left none",
         std::make_shared<NoFlightRecommendationsView>(false, nullptr));
-    add("in the place of a list, without a connection", std::make_shared<NoInternetConnectionView>());
+    add("in the place of a list, without a connection", std::make_shared<NoInternetConnectionView>(nullptr));
     FlightListViewModel model;
     model.onewayFlights = {offer()};
     add("`openFilter` of a result list",

@@ -79,6 +79,7 @@ void BookingConfirmationView::leave() {
 
 void BookingConfirmationView::issueTicket() {
     using Answer = std::optional<FlightTicketing>;
+    isIssuing_ = true;
     flightTicketingProvider_.issueTicket(
         bookingSummary,
         onMain<Answer>([hold = shared_from_this(), this](Answer ticket, std::optional<Error> error) {
@@ -88,6 +89,7 @@ void BookingConfirmationView::issueTicket() {
 
 void BookingConfirmationView::ticketIssued(std::optional<FlightTicketing> ticket,
                                            const std::optional<Error>& error) {
+    isIssuing_ = false;
     if (error || !ticket) {
         task_ = mainQueue().after(messageDuration, [this] {
             if (!viewIsGone()) AppState::shared().resetNavigation();
@@ -100,6 +102,12 @@ void BookingConfirmationView::ticketIssued(std::optional<FlightTicketing> ticket
     reportBooking();
     flightTicketingPassengers = ticket->passengers;
     flightTicketing = std::move(ticket);
+}
+
+std::optional<Awaited> BookingConfirmationView::awaited() const {
+    if (showProgressView) return Awaited{Text::ticketFetching, Text::waitForTicket};
+    if (isIssuing_) return Awaited{Text::ticketIssuing, Text::waitForTicket};
+    return std::nullopt;
 }
 
 void BookingConfirmationView::reportBooking() {

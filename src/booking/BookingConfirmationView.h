@@ -7,6 +7,7 @@
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
+#include "parts/Wait.h"
 #include "platform/Platform.h"
 #include "records/FlightBooking.h"
 #include "records/FlightTicketing.h"
@@ -72,13 +73,20 @@ private:
     void reportBooking();
     void fetchDocument();
     std::vector<TicketPassengerBlock> makePassengerBlocks() const;
+    std::optional<Awaited> awaited() const;
 
+    Fields unkeyed_;
+    Published<bool> isIssuing_{unkeyed_, "isIssuing"};
     std::function<std::vector<TicketFlightBlock>()> flights_;
     CompletionCallback completionCallback_;
     FlightTicketingProvider flightTicketingProvider_;
     DownloadTicketProvider downloadTicketProvider_;
     WorkItem task_;
     CustomSnackBarView snackBar_{showSnackBar};
+
+public:
+    /// What is said of a wait, and when.
+    Wait wait{fields, [this] { return awaited(); }};
 };
 
 template <class Trip> class BookingConfirmationOf final : public BookingConfirmationView {

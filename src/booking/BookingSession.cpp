@@ -66,6 +66,21 @@ std::string BookingSession::fareNoticeText() const {
     return former.empty() ? "" : said(Text::sessionFareChanged, {{"price", former}});
 }
 
+/// The fare rules behind this screen hold the flight; the next session begins with empty forms.
+Text BookingSession::whatIsKept() const {
+    if (showProgressView) return Text::sessionExpiredReserving;
+    const bool entered = emergencyContact.get() || !passengersList->empty();
+    return entered ? Text::sessionExpiredEntered : Text::sessionExpiredUntouched;
+}
+
+std::optional<Awaited> BookingSession::awaited() const {
+    if (showSessionExpiredAlert) return std::nullopt;
+    if (showProgressView && isUploading_) return Awaited{Text::sessionUploading, Text::waitForUpload};
+    if (showProgressView) return Awaited{Text::sessionReserving, Text::waitForReservation};
+    if (isAsking_) return Awaited{Text::sessionCheckingFare, Text::waitOrGoBack};
+    return std::nullopt;
+}
+
 SessionPhase BookingSession::phase() const {
     return phaseOf({showSessionExpiredAlert, showProgressView, showPaymentView, isLoading});
 }
@@ -136,6 +151,7 @@ void BookingSession::sayMissing(Text message) {
 void BookingSession::proceed() {
     if (!emergencyContact.get()) return sayMissing(Text::sessionContactMissing);
     if (!everySlotIsFilled()) return sayMissing(Text::sessionPassengersMissing);
+    isUploading_ = false;
     showProgressView = true;
     reporter_.sent(EventKind::reservationSent);
     reserve();
@@ -163,6 +179,7 @@ void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
     if (!booking) return failReservation(noReservation());
     if (!documentsRequired()) return handOver(*booking);
     willUpload();
+    isUploading_ = true;
     upload(*booking);
 }
 

@@ -14,6 +14,7 @@
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
+#include "parts/Wait.h"
 #include "platform/Platform.h"
 #include "records/KeyedRecords.h"
 #include "records/UniquePassanger.h"
@@ -99,6 +100,8 @@ public:
     Derived<bool> showsFoot{fields, "showsFoot", [this] { return !isLoading && !showPaymentView; }};
     Caption continueText{fields, "continueText", Text::continueOn};
     Caption expiredTitle{fields, "expiredTitle", Text::sessionExpired};
+    /// What has become of what was entered, once the session has expired.
+    Derived<std::string> expiredText{fields, "expiredText", [this] { return said(whatIsKept()); }};
     Caption expiredButtonText{fields, "expiredButtonText", Text::sessionCheckFares};
 
     Action<> back{*this, "back", [this] { dismiss(); }, [this] { return allowsNow(SessionControl::back); }};
@@ -151,6 +154,8 @@ private:
     std::optional<std::int64_t> fareMove() const;
     std::string formerTotalText() const;
     std::string fareNoticeText() const;
+    Text whatIsKept() const;
+    std::optional<Awaited> awaited() const;
     bool allowsNow(SessionControl control) const { return allows(phase(), control); }
     bool everySlotIsFilled() const;
     void tick();
@@ -168,8 +173,11 @@ private:
     void tellOpened() const;
     void tellReserved(bool booked, const std::optional<Error>& error) const;
 
-    bool isAsking_ = false; ///< an availability is under way
     Reporter reporter_;
+    /// Steps that no key tells of.
+    Fields unkeyed_;
+    Published<bool> isAsking_{unkeyed_, "isAsking"};       ///< an availability is under way
+    Published<bool> isUploading_{unkeyed_, "isUploading"}; ///< of a reservation that was made
     CompletionCallback completionCallback_;
     FlightBookingProvider flightBookingProvider_;
     PassengerDocumentsProvider passengerDocumentsProvider_;
@@ -194,6 +202,10 @@ private:
                                                    errorMessage,
                                                    showSnackBar,
                                                    Text::paymentVerify});
+
+public:
+    /// What is said of a wait, and when.
+    Wait wait{fields, [this] { return awaited(); }};
 
 protected:
     /// The payment in place of the content, while its flag is raised.

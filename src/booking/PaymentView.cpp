@@ -1,5 +1,6 @@
 #include "booking/PaymentView.h"
 
+#include "base/ErrorDomains.h"
 #include "offers/OfferFormat.h"
 #include "platform/OnMain.h"
 #include "state/AppState.h"
@@ -61,7 +62,19 @@ void PaymentView::fail(const std::optional<Error>& error) {
     showSnackBar = true;
 }
 
+std::optional<Awaited> PaymentView::awaited() const {
+    if (!showProgressView) return std::nullopt;
+    if (isConfirming_) return Awaited{Text::paymentConfirming, Text::waitForPayment};
+    return Awaited{Text::paymentOrdering, Text::waitOrGoBack};
+}
+
+void PaymentView::type(const std::string& text) {
+    otpText = text;
+    otpError = "";
+}
+
 void PaymentView::generateOrder() {
+    isConfirming_ = false;
     showProgressView = true;
     using Answer = std::optional<PaymentSummary>;
     paymentProvider_.generateOrder(
@@ -76,6 +89,8 @@ void PaymentView::generateOrder() {
 }
 
 void PaymentView::confirmOrder() {
+    isConfirming_ = true;
+    otpError = "";
     showProgressView = true;
     using Answer = std::optional<BookingSummary>;
     paymentProvider_.confirmOrder(
@@ -83,6 +98,7 @@ void PaymentView::confirmOrder() {
         transactionID(),
         otpText,
         onMain<Answer>([hold = shared_from_this(), this](Answer summary, std::optional<Error> error) {
+            if (error && error->domain == errorDomain::service) otpError = error->localizedDescription;
             if (error) return fail(error);
             bookingSummary = std::move(summary);
             showProgressView = false;

@@ -4,6 +4,7 @@
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
 #include "keyed/Screen.h"
+#include "parts/Wait.h"
 #include "records/FlightBooking.h"
 #include "records/KeyedRecords.h"
 #include "records/PaymentSummary.h"
@@ -43,6 +44,10 @@ public:
     Published<std::string> buttonText{fields, "buttonText"};
     Published<std::string> otpText{fields, "otpText"};
     Published<bool> showProgressView{fields, "showProgressView"};
+    /// Why the password was refused, in the service's words, until another one is typed or sent.
+    Published<std::string> otpError{fields, "otpError"};
+    /// Whether what is shown of the order is its own and no sample.
+    Derived<bool> hasOrder{fields, "hasOrder", [this] { return paymentSummary->has_value(); }};
 
     Caption title{fields, "title", Text::sessionTitle};
     Derived<std::string> route{fields, "route", [this] { return routeText(); }};
@@ -54,11 +59,12 @@ public:
     Caption otpPlaceholder{fields, "otpPlaceholder", Text::paymentEnterOtp};
     Action<std::string> typeOtp{*this,
                                 "typeOtp",
-                                [this](const std::string& text) { otpText = text; },
+                                [this](const std::string& text) { type(text); },
                                 [this] { return !showProgressView; }};
     Action<> button{*this, "button", [this] { confirmOrder(); }, [this] { return !showProgressView; }};
 
 private:
+    void type(const std::string& text);
     void generateOrder();
     void confirmOrder();
     void fail(const std::optional<Error>& error);
@@ -69,8 +75,16 @@ private:
     std::string bookingReferenceID() const;
     std::string transactionID() const;
 
+    std::optional<Awaited> awaited() const;
+
+    Fields unkeyed_;
+    Published<bool> isConfirming_{unkeyed_, "isConfirming"}; ///< the order that was opened
     SpokenField buttonWords_;
     PaymentProvider paymentProvider_;
+
+public:
+    /// What is said of a wait, and when.
+    Wait wait{fields, [this] { return awaited(); }};
 };
 
 } // namespace ombrivane

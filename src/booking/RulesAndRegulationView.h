@@ -6,6 +6,7 @@
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
+#include "parts/Wait.h"
 #include "records/KeyedRecords.h"
 #include "richtext/KeyedRuleParagraph.h"
 #include "services/RestrictionProvider.h"
@@ -61,6 +62,11 @@ public:
     Derived<std::vector<RuleParagraph>> paragraphs{fields, "paragraphs", [this] { return rules(); }};
     Caption cancelText{fields, "cancelText", Text::cancel};
     Caption continueText{fields, "continueText", Text::continueOn};
+    /// What is said of a wait, and when.
+    Wait wait{fields, [this]() -> std::optional<Awaited> {
+                  if (!showProgressView) return std::nullopt;
+                  return Awaited{Text::rulesFetching, Text::waitOrGoBack};
+              }};
     Action<double> measured{*this, "measured", [this](double height) { size = height; }};
     Action<> cancel{*this,
                     "cancel",

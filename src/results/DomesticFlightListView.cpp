@@ -163,7 +163,9 @@ void DomesticFlightListView::proceed() {
         flightListVM.index = returnTab;
         return;
     }
-    if (exceedsBalance(*totalCost(), AppState::shared().walletBalance)) return refuse(insufficientFund);
+    const std::int64_t cost = *totalCost();
+    if (exceedsBalance(cost, AppState::shared().walletBalance))
+        return refuse(insufficientFund, balanceText(cost));
     showRules();
 }
 

@@ -32,10 +32,14 @@ public:
 /// The last search failed for connectivity.
 class NoInternetConnectionView final : public Screen {
 public:
-    NoInternetConnectionView() : Screen("NoInternetConnectionView") {}
+    /// @param callback searches once more
+    explicit NoInternetConnectionView(std::function<void()> callback) :
+        Screen("NoInternetConnectionView"), button(*this, "button", std::move(callback)) {}
 
     Caption title{fields, "title", Text::resultsOfflineTitle};
     Caption text{fields, "text", Text::resultsOffline};
+    Caption buttonText{fields, "buttonText", Text::resultsTryAgain};
+    Action<> button;
 };
 
 } // namespace ombrivane

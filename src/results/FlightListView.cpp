@@ -95,7 +95,8 @@ std::optional<std::string> FlightListView::totalCurrency() const {
 
 void FlightListView::proceed() {
     const auto cost = totalCost();
-    if (cost && exceedsBalance(*cost, AppState::shared().walletBalance)) return refuse(insufficientBalance);
+    if (cost && exceedsBalance(*cost, AppState::shared().walletBalance))
+        return refuse(insufficientBalance, balanceText(*cost));
     showRules();
 }
 

@@ -4,6 +4,7 @@
 #include "dates/CustomRoundTripDatePickerView.h"
 #include "dates/DateFormatter.h"
 #include "offers/OfferFormat.h"
+#include "results/WholeNumber.h"
 #include "services/CustomError.h"
 #include "services/ItineraryType.h"
 
@@ -53,6 +54,7 @@ void ResultsScreen::search(bool roundTrip) {
     query.infants = infants;
     query.flightClass = flightClass;
     reporter_.sent(EventKind::searchSent);
+    wait.restart();
     sendSearch(query, roundTrip);
 }
 
@@ -96,9 +98,26 @@ std::int64_t ResultsScreen::travellers() const {
     return count;
 }
 
-void ResultsScreen::refuse(Text message) {
+void ResultsScreen::refuse(Text message, std::string detail) {
     errorMessage = said(message);
+    errorDetail = std::move(detail);
     model_->showSnackBar = true;
+}
+
+std::string ResultsScreen::balanceText(std::int64_t cost) const {
+    const auto& balance = AppState::shared().walletBalance.get();
+    if (!balance) return "";
+    const std::int64_t held = wholeNumber(*balance, "the wallet's balance");
+    const std::string currency = totalCurrency().value_or("");
+    return said(Text::resultsBalance,
+                {{"balance", OfferFormat::price(currency, held)},
+                 {"missing", OfferFormat::price(currency, differenceOf(cost, held))}});
+}
+
+/// A search that failed in no way that this screen has words for stays awaited.
+std::optional<Awaited> ResultsScreen::awaited() const {
+    if (!model_->isLoading || model_->noInternetConnection || model_->flightsListIsEmpty) return std::nullopt;
+    return Awaited{Text::resultsSearching, Text::waitOrGoBack};
 }
 
 void ResultsScreen::stepDeparture(int days) {

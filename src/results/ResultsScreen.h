@@ -7,6 +7,7 @@
 #include "keyed/Link.h"
 #include "keyed/Screen.h"
 #include "parts/CustomSnackBarView.h"
+#include "parts/Wait.h"
 #include "platform/OnMain.h"
 #include "results/EmptyStates.h"
 #include "results/OfferListView.h"
@@ -78,6 +79,10 @@ public:
     Caption totalLabel{fields, "totalLabel", Text::totalFare};
     Derived<std::string> total{fields, "total", [this] { return totalText(); }};
     Caption continueText{fields, "continueText", Text::continueOn};
+    /// What stands beneath the message: the balance and what it lacks; empty where there is nothing to add.
+    Published<std::string> errorDetail{fields, "errorDetail"};
+    /// What is said of a wait, and when.
+    Wait wait{fields, [this] { return awaited(); }};
 
     Action<> back{*this, "back", [this] { dismiss(); }};
     Action<> edit{*this, "edit", [this] { dismiss(); }};
@@ -139,8 +144,10 @@ protected:
     OfferSelection selection();
     /// For how many was searched.
     std::int64_t travellers() const;
-    /// Says why the way on is closed.
-    void refuse(Text message);
+    /// Says why the way on is closed, and in `detail` by how much.
+    void refuse(Text message, std::string detail = "");
+    /// The wallet's balance, and how much more `cost` is.
+    std::string balanceText(std::int64_t cost) const;
     void showRules() { model_->rulesAndRegulationViewIsActive = true; }
 
 private:
@@ -152,6 +159,7 @@ private:
     void follow(double points);
     static std::string dateText(Day day);
     std::string totalText() const;
+    std::optional<Awaited> awaited() const;
     void widenFilter();
     std::shared_ptr<Screen> content() const;
     std::shared_ptr<Screen> makeReturnCalendar();
@@ -166,7 +174,8 @@ private:
     /// What the calendar writes for the departure; the header shows the date itself.
     Fields unkeyed_;
     Published<std::string> departDateText_{unkeyed_, "departDateText"};
-    std::shared_ptr<NoInternetConnectionView> noInternet_ = std::make_shared<NoInternetConnectionView>();
+    std::shared_ptr<NoInternetConnectionView> noInternet_ =
+        std::make_shared<NoInternetConnectionView>([this] { search(model_->hasReturnDate); });
     std::shared_ptr<NoFlightRecommendationsView> noFlights_ =
         std::make_shared<NoFlightRecommendationsView>(false, [] { AppState::shared().resetNavigation(); });
     std::shared_ptr<NoFlightRecommendationsView> nothingLeft_ =

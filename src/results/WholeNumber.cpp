@@ -24,6 +24,12 @@ std::int64_t sumOf(std::int64_t one, std::int64_t other) {
     return one > 0 ? INT64_MAX : INT64_MIN;
 }
 
+std::int64_t differenceOf(std::int64_t one, std::int64_t other) {
+    std::int64_t difference = 0;
+    if (!__builtin_sub_overflow(one, other, &difference)) return difference;
+    return one > other ? INT64_MAX : INT64_MIN;
+}
+
 bool exceedsBalance(std::int64_t amount, const std::optional<double>& walletBalance) {
     return walletBalance && amount > wholeNumber(*walletBalance, "the wallet's balance");
 }

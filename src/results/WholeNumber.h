@@ -16,6 +16,9 @@ double amountOf(std::int64_t amount);
 /// The sum of two amounts, or the amount next to it that there is.
 std::int64_t sumOf(std::int64_t one, std::int64_t other);
 
+/// By how much `one` is more than `other`, or the amount next to it that there is.
+std::int64_t differenceOf(std::int64_t one, std::int64_t other);
+
 /// Whether `amount` is more than the wallet holds, its balance truncated to whole units; without a balance
 /// there is no limit.
 bool exceedsBalance(std::int64_t amount, const std::optional<double>& walletBalance);

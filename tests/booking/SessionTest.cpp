@@ -143,6 +143,38 @@ TEST_P(SessionTest, TheWholeRoadHandsOverAndCloses) {
               documents && session == "RTBookingDetailsView" ? 1 : 0);
 }
 
+TEST_P(SessionTest, AWaitSaysWhatForAndWhereItIsLongTheWayOut) {
+    constexpr const char* orGoBack = "This takes longer than usual. You can wait, or go back.";
+    wallet.toGate();
+    wallet.expectWait("RulesAndRegulationView", "Fetching the fare rules", orGoBack);
+    wallet.answer();
+    wallet.expectNoWait("RulesAndRegulationView");
+    wallet.tap("continue");
+    wallet.expectWait(session, "Checking the latest fare", orGoBack);
+    wallet.answer();
+    wallet.expectNoWait(session);
+    wallet.fillContact();
+    wallet.fillTraveller();
+    for (const bool refuses : {true, false}) {
+        wallet.tap("continue");
+        wallet.expectWait(session,
+                          "Reserving the flight",
+                          "This takes longer than usual. Please wait, and do not book again. If you leave, "
+                          "the reservation goes on.");
+        if (!refuses) break;
+        wallet.answer(Json::parse(refused));
+        wallet.expectNoWait(session);
+    }
+    wallet.answer();
+    if (!documents) return;
+    wallet.expectWait(session,
+                      "Sending the documents",
+                      "This takes longer than usual. The flight is reserved already. Please wait, and do not "
+                      "book again.");
+    wallet.fail();
+    wallet.expectNoWait(session);
+}
+
 TEST_P(SessionTest, AFareThatMovedIsToldWithWhatItWas) {
     wallet.toGate();
     const std::string list = trip.domestic ? "DomesticFlightListView.total" : "FlightListView.total";
@@ -319,6 +351,8 @@ TEST_P(SessionTest, TheClockRunsInEveryPhaseToZeroAndExpiryLeadsToAFreshSession)
         wallet.tap(covered);
     EXPECT_EQ(wallet.top(), session);
     EXPECT_EQ(wallet.get("expiredTitle"), "Session Expired");
+    EXPECT_EQ(wallet.get("expiredText"),
+              "Your search and your flight are kept. Only the fare is checked anew.");
     wallet.tap("checkLatestFares");
     EXPECT_EQ(wallet.top(), "RulesAndRegulationView");
     wallet.answer();
@@ -380,6 +414,14 @@ TEST_P(SessionTest, WhileItReservesNothingElseCanBeTapped) {
     world.pass(601s);
     ASSERT_EQ(phase(), "expired");
     expectNothingTaken();
+    wallet.expectNoWait(session);
+    EXPECT_EQ(wallet.get("expiredText"),
+              "The reservation that you sent is still under way. Please wait for its answer before you book "
+              "again.");
+    wallet.fail();
+    EXPECT_EQ(wallet.get("expiredText"),
+              "Your search and your flight are kept. The fare is checked anew, and the contact and the "
+              "passengers have to be entered again.");
 }
 
 TEST_P(SessionTest, WhatIsHiddenOrCoveredDoesNothing) {

@@ -140,6 +140,24 @@ void Wallet::fail(std::size_t index) {
 
 Json Wallet::get(const std::string& path) const { return journey::follow(navigator(), path).member->read(); }
 
+void Wallet::expectWait(const std::string& screen, const char* what, const char* wayOut) {
+    using std::chrono::milliseconds;
+    expectNoWait(screen);
+    world.pass(milliseconds(999));
+    expectNoWait(screen);
+    world.pass(milliseconds(1));
+    EXPECT_EQ(get(screen + ".waitText"), what);
+    world.pass(milliseconds(6999));
+    EXPECT_EQ(get(screen + ".waitHint"), "") << what;
+    world.pass(milliseconds(1));
+    EXPECT_EQ(get(screen + ".waitHint"), wayOut) << what;
+}
+
+void Wallet::expectNoWait(const std::string& screen) {
+    EXPECT_EQ(get(screen + ".waitText"), "");
+    EXPECT_EQ(get(screen + ".waitHint"), "");
+}
+
 std::string Wallet::waitingFor(std::size_t index) const {
     return world.network->outstanding() > index ? operationOf(world.network->waiting(index)) : "";
 }

@@ -74,6 +74,9 @@ public:
     void fail(std::size_t index = 0);
 
     Json get(const std::string& path) const;
+    /// A wait that begins now is told by `screen`: in words after a second, with a way out after eight.
+    void expectWait(const std::string& screen, const char* what, const char* wayOut);
+    void expectNoWait(const std::string& screen);
     bool enabled(const std::string& path) const { return get(path).at("enabled").get<bool>(); }
 
     /// The stations of the road, each from the one before.

@@ -161,6 +161,12 @@ TEST_F(DomesticFlightListViewTest, TheOneSnackBarSaysTheMessageOfItsLastReason) 
     chooseBoth();
     screen->continue_();
     EXPECT_EQ(message(), "You don't have sufficient fund.");
+    EXPECT_EQ(screen->errorDetail.get(), "Your balance is NPR 1. NPR 8,999 more is needed.");
+    screen->tapDepartingFlights();
+    tapItem(0);
+    screen->tapReturningFlights();
+    EXPECT_EQ(message(), "Please select a flight first.");
+    EXPECT_EQ(screen->errorDetail.get(), "");
 }
 
 TEST_F(DomesticFlightListViewTest, ASumThatNoNumberHoldsIsMoreThanTheWalletHas) {

@@ -76,6 +76,57 @@ TEST_F(FlightListViewTest, EachFailureHasItsReaction) {
     EXPECT_FALSE(screen->showsFloatingBar.get());
 }
 
+TEST_F(FlightListViewTest, WithoutAConnectionTheSearchThatFailedIsSentOnceMore) {
+    for (const bool roundTrip : {false, true}) {
+        world.reachability->word = 0;
+        open(roundTrip);
+        world.queue->drain();
+        screen->nextDeparture();
+        world.queue->drain();
+        ASSERT_EQ(content(), "NoInternetConnectionView");
+        const auto offline = Navigator::withParts(screen).back();
+        world.reachability->word = reachableFlag;
+        offline->fields.find("button")->trigger({});
+        EXPECT_TRUE(model().isLoading);
+        EXPECT_EQ(content(), roundTrip ? "RoundTripFlightListView" : "OneWayFlightListView");
+        EXPECT_EQ(sent("depart_date"), "2026-12-02");
+        EXPECT_EQ(sent("return_date"), roundTrip ? "2026-12-09" : "-");
+    }
+}
+
+/// Also over a search that nobody answers, or that failed in a way for which this screen has no words: its
+/// state stays.
+TEST_F(FlightListViewTest, ASearchSaysThatItIsOneAndWhereItIsLongTheWayOut) {
+    const auto expectTold = [this](const char* what, const char* wayOut) {
+        EXPECT_EQ(screen->wait.waitText.get(), what);
+        EXPECT_EQ(screen->wait.waitHint.get(), wayOut);
+    };
+    constexpr const char* searching = "Searching for flights";
+    constexpr const char* orGoBack = "This takes longer than usual. You can wait, or go back.";
+    open();
+    expectTold("", "");
+    world.pass(7999ms);
+    expectTold(searching, "");
+    screen->nextDeparture();
+    world.pass(1000ms);
+    expectTold(searching, "");
+    world.pass(7000ms);
+    expectTold(searching, orGoBack);
+    EXPECT_TRUE(model().isLoading);
+    answer(three()); // to the first of the two
+    world.answer(offers::refusal("No flights."));
+    expectTold(searching, orGoBack);
+    for (const bool exists : {true, false}) {
+        screen->nextDeparture();
+        world.pass(8000ms);
+        expectTold(searching, orGoBack);
+        exists ? answer(three()) : world.answer(offers::refusal(nothingFound));
+        expectTold("", "");
+        world.pass(8000ms);
+        expectTold("", "");
+    }
+}
+
 TEST_F(FlightListViewTest, ANewSearchStartsFromLoadingWhateverTheLastOneBrought) {
     open();
     world.answer(offers::refusal(nothingFound));
@@ -225,20 +276,23 @@ TEST_F(FlightListViewTest, TheWalletsBalanceIsTruncatedAndOnlyMoreThanItStops) {
     struct Case {
         std::optional<double> balance;
         std::int64_t cost;
-        bool passes;
+        const char* lacks; ///< what stands beneath the refusal, nothing where it passes
     };
+    constexpr auto most = std::numeric_limits<std::int64_t>::max();
     const Case cases[] = {
-        {1000.9, 1000, true},
-        {1000.9, 1001, false},
-        {std::nullopt, 999'999'999, true},
-        {0.99, 1, false},
-        {0.0, 0, true},
-        {-0.5, 0, true},
-        {-1.0, 0, false},
-        {9e18, 1000, true},
+        {1000.9, 1000, nullptr},
+        {1000.9, 3001, "Your balance is NPR 1,000. NPR 2,001 more is needed."},
+        {std::nullopt, 999'999'999, nullptr},
+        {0.99, 1, "Your balance is NPR 0. NPR 1 more is needed."},
+        {0.0, 0, nullptr},
+        {-0.5, 0, nullptr},
+        {-1.0, 0, "Your balance is NPR -1. NPR 1 more is needed."},
+        {-5.0, most, "Your balance is NPR -5. NPR 9,223,372,036,854,775,807 more is needed."},
+        {9e18, 1000, nullptr},
     };
     for (const bool roundTrip : {false, true}) {
-        for (const auto& [balance, cost, passes] : cases) {
+        for (const auto& [balance, cost, lacks] : cases) {
+            const bool passes = lacks == nullptr;
             appState.walletBalance = balance;
             open(roundTrip);
             answer(listOf({{.cost = cost}}, roundTrip ? offers::roundTrip : offers::oneWay));
@@ -247,6 +301,7 @@ TEST_F(FlightListViewTest, TheWalletsBalanceIsTruncatedAndOnlyMoreThanItStops) {
             EXPECT_EQ(top(), passes ? "RulesAndRegulationView" : "FlightListView")
                 << balance.value_or(-2) << " " << cost;
             EXPECT_EQ(message(), passes ? "" : "You don't have sufficient balance.");
+            EXPECT_EQ(screen->errorDetail.get(), passes ? "" : lacks);
             world.pass(3s);
             EXPECT_EQ(message(), "");
         }

@@ -36,7 +36,8 @@ public:
     /// Presses a key by its name; what has the focus then is in the window and has the ring around it.
     void press(const std::string& key) {
         const int code = QMetaEnum::fromType<Qt::Key>().keyToValue(("Key_" + key).c_str());
-        QTest::keyClick(&window_.window(), static_cast<Qt::Key>(code));
+        const auto shift = key == "Backtab" ? Qt::ShiftModifier : Qt::NoModifier;
+        QTest::keyClick(&window_.window(), static_cast<Qt::Key>(code), shift);
         expectRingInView(key);
     }
     /// Goes with Tab to the next control of a name. A list is one stop on the way.

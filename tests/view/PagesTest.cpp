@@ -162,8 +162,10 @@ void expectPicture(Window& window, const char* name, const char* file) {
 /// What a customer cannot see is said: that something is awaited, what is wrong, that the time is short. A
 /// form that was not saved leads to the first field that is missing.
 TEST(PagesTest, WhatHappensIsSaidAloudAndTheFirstMissingFieldHasTheFocus) {
+    const std::string wayOut = "This takes longer than usual. You can wait, or go back.";
     const std::map<std::string, std::string> expected{
         {"awaited", "Fetching the fare rules"},
+        {"awaited-long", wayOut},
         {"message", "Please fill the details for emergency contact."},
         {"marked", "Please fill the marked fields."},
         {"undocumented", "Please fill the marked fields."},
@@ -178,6 +180,7 @@ TEST(PagesTest, WhatHappensIsSaidAloudAndTheFirstMissingFieldHasTheFocus) {
             window.settle();
             const auto said = announced(window);
             EXPECT_NE(std::count(said.begin(), said.end(), expected.at(name)), 0) << name;
+            EXPECT_EQ(std::count(said.begin(), said.end(), wayOut), name == "awaited-long" ? 1 : 0) << name;
             if (name == "message") {
                 EXPECT_EQ(spoken(window, "contactLine"), "Emergency contact, missing");
                 EXPECT_TRUE(window.item("contactLine")->hasActiveFocus());
@@ -271,13 +274,21 @@ TEST(PagesTest, WhatIsAwaitedIsShownAsShapesAndEachLegHasItsLine) {
         }
         if (name == "session-awaited") expectNoSample(window, "Baggage Information");
         if (name == "payment-awaited") expectNoSample(window, "Payment");
+        if (name == "payment") expectNoSample(window, "Kathmandu – Doha");
+        if (name == "payment-refused") {
+            const QQuickItem* otp = window.item("otp");
+            EXPECT_TRUE(otp->hasActiveFocus());
+            EXPECT_EQ(otp->property("selectedText"), "000000");
+            EXPECT_EQ(spoken(window, "otp"), "Enter OTP, Invalid OTP.");
+            EXPECT_EQ(window.item("otpProblem")->property("text"), "Invalid OTP.");
+        }
         if (name == "ticket-awaited") expectNoSample(window, "Booking Confirmed");
         if (name == "details") expectLegsWithLines(window, 2);
         ++looks;
         if (const char* folder = std::getenv("OMBRIVANE_PICTURES"); folder != nullptr)
             window.window().grabWindow().save(QString("%1/%2.png").arg(folder, name.c_str()));
     });
-    EXPECT_EQ(looks, 5);
+    EXPECT_EQ(looks, 7);
 }
 
 TEST(PagesTest, APictureThatFailedIsFetchedAgainWhenItAppears) {

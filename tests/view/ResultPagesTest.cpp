@@ -54,6 +54,48 @@ TEST(ResultPagesTest, AWideWindowShowsTheFilterBesideTheListAndANarrowOneOverIt)
     }
 }
 
+/// Beneath the sentence stands by how much; and without a connection the search can be sent again.
+TEST(ResultPagesTest, ARefusedOfferSaysWhatIsMissingAndALostConnectionIsTriedAgain) {
+    constexpr const char* lines = "play journeys/steps/abroad.steps\n"
+                                  "play journeys/steps/one-way.steps\n"
+                                  "tap FlightListView.rows[0].tap\n"
+                                  "tap continue\n"
+                                  "look refused\n"
+                                  "reachability 0\n"
+                                  "tap FlightListView.nextDeparture\n"
+                                  "wait model.noInternetConnection true\n"
+                                  "look offline\n"
+                                  "wait model.isLoading false\n"
+                                  "expect model.noInternetConnection false\n";
+    for (const auto& [width, textScale] : {std::pair(390, 1.0), std::pair(320, 2.0)}) {
+        SCOPED_TRACE(width);
+        int looks = 0;
+        WalkPorts ports;
+        Window window(width, 844);
+        window.setLook(false, textScale);
+        window.session().walletBalance = 100;
+        std::istringstream script(lines);
+        walk(ports, window, script, [&](const std::string& name) {
+            ++looks;
+            window.settle();
+            expectSound(window);
+            if (name == "refused") {
+                const QQuickItem* detail = window.item("snackDetail");
+                ASSERT_NE(detail, nullptr);
+                const QString told = detail->property("text").toString();
+                EXPECT_TRUE(told.startsWith("Your balance is NPR 100.")) << told.toStdString();
+            } else {
+                ports.reachability->say(reachableFlag);
+                for (QQuickItem* item : window.visibleItems()) {
+                    if (item->objectName() == "action") item->forceActiveFocus();
+                }
+                QTest::keyClick(&window.window(), Qt::Key_Return);
+            }
+        });
+        EXPECT_EQ(looks, 2);
+    }
+}
+
 /// Cards are used again as the list is scrolled: each shows the offer of its place, there and back again.
 TEST(ResultPagesTest, EveryRowShowsItsOwnOfferWhileTheListIsScrolled) {
     WalkPorts ports;

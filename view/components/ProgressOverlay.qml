@@ -2,27 +2,40 @@ import QtQuick
 import Ombrivane
 
 // Something is under way and nothing else can be done meanwhile.
-Rectangle {
+Item {
     id: overlay
 
     required property string message
-
-    color: Theme.dimColor
+    property string waitText: ""
+    property string waitHint: ""
 
     Aloud { text: overlay.visible ? overlay.message : "" }
-    Blocker { anchors.fill: parent }
+    Dim {}
     Rectangle {
+        objectName: "progress"
         anchors.centerIn: parent
-        width: Math.min(parent.width - 2 * Theme.margin, 280)
-        height: text.implicitHeight + 64
+        width: Math.min(parent.width - 2 * Theme.margin, 320)
+        height: column.implicitHeight + 64
         radius: Theme.cardRadius
         color: Theme.whiteColor
-        PlainText {
-            id: text
+        Column {
+            id: column
             anchors { left: parent.left; right: parent.right; top: parent.top; margins: 20 }
-            horizontalAlignment: Text.AlignHCenter
-            text: overlay.message
-            font.weight: Font.Medium
+            spacing: 8
+            PlainText {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: overlay.message
+                font.weight: Font.Medium
+            }
+            WaitWords {
+                width: parent.width
+                visible: overlay.waitText !== ""
+                alignment: Text.AlignHCenter
+                weight: Font.Normal
+                text: overlay.waitText
+                hint: overlay.visible ? overlay.waitHint : ""
+            }
         }
         ProgressLine {
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 20 }

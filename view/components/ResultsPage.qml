@@ -45,6 +45,7 @@ FocusScope {
             id: content
             readonly property ResultsContent shown: item as ResultsContent
             anchors.fill: parent
+            clip: true
             focus: true
         }
         // Never over a price or an arrival, which stand at the end of each card: beside the cards where there is room, else
@@ -106,6 +107,13 @@ FocusScope {
             onClicked: page.results.proceed()
             Behavior on arrival { NumberAnimation { duration: Theme.pageDuration; easing.type: Easing.OutCubic } }
         }
+        WaitPanel {
+            z: 1
+            anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
+            width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+            text: page.results.waitText
+            hint: page.results.waitHint
+        }
         SnackBar {
             z: 2
             anchors {
@@ -115,6 +123,7 @@ FocusScope {
             }
             width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
             message: page.results.errorMessage
+            detail: page.results.errorDetail
             shown: page.results.showSnackBar
         }
     }

@@ -7,6 +7,8 @@ Item {
 
     required property string message
     required property bool shown
+    // Beneath the message, where there is more to say.
+    property string detail: ""
     property real arrival: shown ? 1 : 0
 
     objectName: "snackBar"
@@ -14,17 +16,18 @@ Item {
     visible: arrival > 0
     opacity: arrival
 
-    Aloud { text: bar.shown ? bar.message : "" }
+    Aloud { text: !bar.shown ? "" : bar.detail !== "" ? bar.message + " " + bar.detail : bar.message }
     Behavior on arrival { NumberAnimation { duration: Theme.reducedMotion ? 0 : 250; easing.type: Easing.OutCubic } }
 
     TextMetrics { id: natural; font.family: Theme.fontFamily; font.pixelSize: Theme.bodySize; text: bar.message }
+    TextMetrics { id: further; font.family: Theme.fontFamily; font.pixelSize: Theme.bodySize; text: bar.detail }
     Rectangle {
         id: panel
         objectName: "snackPanel"
         x: (parent.width - width) / 2
         y: Theme.reducedMotion ? 0 : (1 - bar.arrival) * (height + Theme.margin)
         width: Math.min(parent.width, Theme.contentWidth)
-        height: Math.max(Theme.fieldHeight, text.implicitHeight + 24)
+        height: Math.max(Theme.fieldHeight, words.implicitHeight + 24)
         radius: Theme.fieldRadius
         color: Theme.blackColor
         Icon {
@@ -36,18 +39,33 @@ Item {
             name: "xmark.circle"
             color: Theme.whiteColor
         }
-        PlainText {
-            id: text
-            // Two lines, in smaller letters where they are large: a message is not to take the page. A third one only
-            // where the smallest letters need it.
+        Column {
+            id: words
             anchors { left: icon.right; leftMargin: 12; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
-            readonly property real fitting: Math.floor(Theme.bodySize * 1.75 * width / Math.max(1, natural.advanceWidth))
-            font.pixelSize: Math.max(15, Math.min(Theme.bodySize, fitting))
-            maximumLineCount: fitting < 15 ? 3 : 2
-            elide: Text.ElideRight
-            text: bar.message
-            color: Theme.whiteColor
-            Accessible.ignored: true
+            spacing: 2
+            PlainText {
+                id: line
+                // Two lines, in smaller letters where they are large: a message is not to take the page. A third one
+                // only where the smallest letters need it.
+                readonly property real fitting: Math.floor(Theme.bodySize * 1.75 * width / Math.max(1, natural.advanceWidth))
+                width: parent.width
+                font.pixelSize: Math.max(15, Math.min(Theme.bodySize, fitting))
+                maximumLineCount: fitting < 15 ? 3 : 2
+                elide: Text.ElideRight
+                text: bar.message
+                color: Theme.whiteColor
+                Accessible.ignored: true
+            }
+            PlainText {
+                objectName: "snackDetail"
+                width: parent.width
+                visible: text !== ""
+                readonly property real fitting: Math.floor(Theme.bodySize * 1.75 * width / Math.max(1, further.advanceWidth))
+                font.pixelSize: Math.max(13, Math.min(Theme.captionSize, fitting))
+                text: bar.detail
+                color: Theme.whiteColor
+                Accessible.ignored: true
+            }
         }
     }
 }

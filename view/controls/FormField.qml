@@ -10,8 +10,10 @@ T.TextField {
     required property string iconName
     required property string placeholder
     required property string value
-    property alias mark: fieldMark.mark
-    readonly property alias missing: fieldMark.missing
+    // What is wrong with what stands in it; a refused value is no missing one.
+    property string problem: ""
+    property string mark: "formBorderColor"
+    readonly property bool missing: fieldMark.missing && problem === ""
     readonly property alias inOrder: fieldMark.inOrder
     readonly property bool raised: length > 0 || preeditText !== ""
 
@@ -41,13 +43,14 @@ T.TextField {
     EnterKey.type: Qt.EnterKeyNext
     onAccepted: goOn()
     Accessible.role: Accessible.EditableText
-    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
+    Accessible.name: problem !== "" ? Words.fill(Words.fieldWithValue, {field: placeholder, value: problem})
+                   : missing ? Words.fill(Words.fieldIsMissing, {field: placeholder}) : placeholder
 
     background: Rectangle {
         radius: Theme.fieldRadius
         color: Theme.formBackgroundColor
-        border.width: field.missing ? 2 : 1
-        border.color: field.missing ? Theme.primaryColor
+        border.width: fieldMark.missing ? 2 : 1
+        border.color: fieldMark.missing ? Theme.primaryColor
                     : field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
         Icon {
             anchors { left: parent.left; leftMargin: 14 }
@@ -68,6 +71,6 @@ T.TextField {
             spread: 1.1
             Accessible.ignored: true
         }
-        FieldMark { id: fieldMark }
+        FieldMark { id: fieldMark; mark: field.problem !== "" ? "primaryColor" : field.mark }
     }
 }

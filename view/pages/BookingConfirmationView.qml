@@ -16,6 +16,7 @@ Item {
         onLeave: page.screen.back()
     }
     PageColumn {
+        footCover: waiting.visible ? waiting.height + Theme.margin : 0
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
         Icon {
             Layout.alignment: Qt.AlignHCenter
@@ -30,7 +31,6 @@ Item {
             MainButton { objectName: "download"; Layout.fillWidth: true; iconName: "fileIcon"; text: page.screen.downloadText; onClicked: page.screen.downloadTicket() }
             IconButton { objectName: "share"; iconName: "shareIcon"; label: Words.ticketShare; onClicked: page.screen.share() }
         }
-        ProgressLine { Layout.fillWidth: true; visible: page.screen.isLoading; label: Words.ticketWait }
         Repeater {
             model: page.screen.flightBlocks
             Card {
@@ -73,10 +73,19 @@ Item {
             }
         }
     }
+    WaitPanel {
+        id: waiting
+        anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        text: page.screen.showProgressView ? "" : page.screen.waitText
+        hint: page.screen.showProgressView ? "" : page.screen.waitHint
+    }
     ProgressOverlay {
         anchors.fill: parent
         visible: page.screen.showProgressView
         message: Words.ticketWait
+        waitText: page.screen.waitText
+        waitHint: page.screen.waitHint
     }
     SnackBar {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }

@@ -9,7 +9,8 @@ Item {
     required property SessionAdapter screen
     // By progress, or by the end of the session.
     readonly property bool isCovered: pays || screen.showProgressView || screen.showSessionExpiredAlert
-    readonly property bool pays: screen.payment !== null && screen.payment.showProgressView
+    readonly property PaymentAdapter order: screen.payment
+    readonly property bool pays: order !== null && order.showProgressView
 
     readonly property bool cramped: height < 560 * Math.min(1.5, Theme.textScale)
 
@@ -60,7 +61,7 @@ Item {
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: moved.visible && !page.cramped ? moved.top : foot.visible ? foot.top : parent.bottom }
         visible: !page.screen.showPaymentView
         enabled: page.screen.lendsInput
-        footCover: page.screen.showSnackBar ? snack.implicitHeight + Theme.margin : 0
+        footCover: page.screen.showSnackBar ? snack.implicitHeight + Theme.margin : waiting.visible ? waiting.height + Theme.margin : 0
         // Where there is little height, with what is read first.
         Notice {
             Layout.fillWidth: true
@@ -156,17 +157,15 @@ Item {
                 ContactRow { Layout.fillWidth: true }
             }
         }
-        ProgressLine {
-            Layout.fillWidth: true
-            visible: page.screen.isLoading
-            label: Words.sessionCheckingFare
-        }
     }
     Loader {
         id: payment
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
         active: page.screen.payment !== null
-        sourceComponent: PaymentCard { screen: page.screen.payment }
+        sourceComponent: PaymentCard {
+            screen: page.screen.payment
+            session: page.screen
+        }
     }
     Notice {
         id: moved
@@ -195,8 +194,17 @@ Item {
     }
     ProgressOverlay {
         anchors.fill: parent
-        visible: page.pays
+        visible: page.pays && !page.screen.showSessionExpiredAlert
         message: Words.paymentWait
+        waitText: page.order !== null ? page.order.waitText : ""
+        waitHint: page.order !== null ? page.order.waitHint : ""
+    }
+    WaitPanel {
+        id: waiting
+        anchors { bottom: parent.bottom; bottomMargin: Theme.margin; horizontalCenter: parent.horizontalCenter }
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
+        text: page.screen.showProgressView ? "" : page.screen.waitText
+        hint: page.screen.showProgressView ? "" : page.screen.waitHint
     }
     SnackBar {
         id: snack
@@ -206,40 +214,24 @@ Item {
     }
     ProgressOverlay {
         anchors.fill: parent
-        visible: page.screen.showProgressView
+        visible: page.screen.showProgressView && !page.screen.showSessionExpiredAlert
         message: page.screen.progressMessage
+        waitText: page.screen.waitText
+        waitHint: page.screen.waitHint
     }
     Rectangle {
         anchors.fill: parent
         visible: page.screen.showSessionExpiredAlert
         color: Theme.canvasColor
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: page.screen.expiredTitle
         Blocker { anchors.fill: parent }
-        ColumnLayout {
-            anchors.centerIn: parent
-            width: Math.min(parent.width - 2 * Theme.margin, 320)
-            spacing: Theme.margin
-            Icon {
-                Layout.alignment: Qt.AlignHCenter
-                implicitWidth: 160
-                implicitHeight: 160
-                name: "sessionExpired"
-                dark: Theme.dark
-            }
-            PlainText {
-                Layout.fillWidth: true
-                horizontalAlignment: Text.AlignHCenter
-                text: page.screen.expiredTitle
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.DemiBold
-            }
-            MainButton {
-                objectName: "checkLatestFares"
-                Layout.fillWidth: true
-                text: page.screen.expiredButtonText
-                onClicked: page.screen.checkLatestFares()
-            }
+        EndState {
+            anchors.fill: parent
+            imageName: "sessionExpired"
+            title: page.screen.expiredTitle
+            text: page.screen.showSessionExpiredAlert ? page.screen.expiredText : ""
+            action: page.screen.expiredButtonText
+            actionName: "checkLatestFares"
+            onActed: page.screen.checkLatestFares()
         }
     }
 }

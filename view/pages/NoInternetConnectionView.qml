@@ -1,7 +1,7 @@
 import QtQuick
 import Ombrivane
 
-// The search failed for connectivity; a step of the date tries again.
+// The search failed for connectivity, and is sent once more by its control or by a step of the date.
 EmptyState {
     id: page
 
@@ -10,4 +10,6 @@ EmptyState {
     imageName: "noInternet"
     title: screen.title
     text: screen.text
+    action: screen.buttonText
+    onActed: screen.button()
 }

@@ -55,7 +55,6 @@ ResultsContent {
         list.pin()
     }
 
-    Aloud { text: page.screen.isLoading ? Words.loading : "" }
     KeyList {
         id: list
         objectName: "offers"

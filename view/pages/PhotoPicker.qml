@@ -25,7 +25,11 @@ Sheet {
     PlainText {
         id: hint
         anchors { top: parent.top; left: parent.left; right: parent.right; leftMargin: Theme.margin; rightMargin: Theme.margin }
-        text: preview.status === Image.Error ? Words.pictureCannotBeShown : Words.pictureDragCorners
+        text: {
+            if (preview.status === Image.Error) return Words.pictureCannotBeShown
+            if (preview.status === Image.Loading) return Words.loading
+            return preview.status === Image.Ready ? Words.pictureDragCorners : Words.pictureNone
+        }
         color: Theme.placeHolderColor
     }
     Item {

@@ -7,13 +7,14 @@ Item {
     id: page
 
     required property RulesAdapter screen
+    signal back
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     PageHeader {
         id: header
         width: parent.width
         title: page.screen.title
-        onLeave: page.screen.cancel()
+        onLeave: page.back()
     }
     ListView {
         id: list
@@ -77,11 +78,12 @@ Item {
             visible: page.screen.showProgressView
             running: visible
         }
-        ProgressLine {
-            width: parent.width
-            visible: page.screen.showProgressView
-            label: Words.rulesFetching
-        }
+    }
+    WaitPanel {
+        anchors { bottom: foot.top; bottomMargin: Theme.gap; horizontalCenter: parent.horizontalCenter }
+        width: foot.width
+        text: page.screen.waitText
+        hint: page.screen.waitHint
     }
     GridLayout {
         id: foot

@@ -57,6 +57,8 @@ Item {
         }
         RowLayout {
             Layout.fillWidth: true
+            Accessible.role: Accessible.Grouping
+            Accessible.name: Words.gender
             Choice { objectName: "male"; Layout.fillWidth: true; text: Words.genderMale; marked: page.screen.gender === "Male"; onClicked: page.screen.chooseGender("Male") }
             Choice { objectName: "female"; Layout.fillWidth: true; text: Words.genderFemale; marked: page.screen.gender === "Female"; onClicked: page.screen.chooseGender("Female") }
         }
@@ -102,6 +104,8 @@ Item {
             visible: page.screen.showsDocuments
             Layout.fillWidth: true
             spacing: 8
+            Accessible.role: Accessible.Grouping
+            Accessible.name: Words.documentKind
             Repeater {
                 model: page.screen.documentTypes
                 Choice {

@@ -26,6 +26,8 @@ class ConfirmationAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_INTENT(back, core().back)
     OMBRIVANE_INTENT(downloadTicket, core().downloadTicket)
     OMBRIVANE_INTENT(share, core().share)
+    OMBRIVANE_TEXT(waitText, core().wait.waitText)
+    OMBRIVANE_TEXT(waitHint, core().wait.waitHint)
 };
 
 } // namespace ombrivane::view

@@ -14,6 +14,8 @@ class NoInternetAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_SCREEN(NoInternetAdapter, ScreenAdapter, NoInternetConnectionView)
     OMBRIVANE_TEXT(title, core().title)
     OMBRIVANE_TEXT(text, core().text)
+    OMBRIVANE_TEXT(buttonText, core().buttonText)
+    OMBRIVANE_INTENT(button, core().button)
 };
 
 } // namespace ombrivane::view

@@ -15,6 +15,8 @@ class PaymentAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_TEXT(buttonText, core().buttonText)
     OMBRIVANE_TEXT(otpText, core().otpText)
     OMBRIVANE_FLAG(showProgressView, core().showProgressView)
+    OMBRIVANE_TEXT(otpError, core().otpError)
+    OMBRIVANE_FLAG(hasOrder, core().hasOrder)
     OMBRIVANE_TEXT(route, core().route)
     OMBRIVANE_TEXT(date, core().date)
     OMBRIVANE_TEXT(referenceLabel, core().referenceLabel)
@@ -24,6 +26,8 @@ class PaymentAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_TEXT(otpPlaceholder, core().otpPlaceholder)
     OMBRIVANE_INPUT(typeOtp, core().typeOtp)
     OMBRIVANE_INTENT(button, core().button)
+    OMBRIVANE_TEXT(waitText, core().wait.waitText)
+    OMBRIVANE_TEXT(waitHint, core().wait.waitHint)
 };
 
 } // namespace ombrivane::view

@@ -20,6 +20,8 @@ class RulesAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_PARAGRAPHS(paragraphs, core().paragraphs)
     OMBRIVANE_TEXT(cancelText, core().cancelText)
     OMBRIVANE_TEXT(continueText, core().continueText)
+    OMBRIVANE_TEXT(waitText, core().wait.waitText)
+    OMBRIVANE_TEXT(waitHint, core().wait.waitHint)
     OMBRIVANE_AMOUNT(measured, core().measured)
     OMBRIVANE_INTENT(cancel, core().cancel)
     OMBRIVANE_ENABLED(cancel, core().cancel)

@@ -33,12 +33,15 @@ class SessionProperties : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_FLAG(showsFoot, core().showsFoot)
     OMBRIVANE_TEXT(continueText, core().continueText)
     OMBRIVANE_TEXT(expiredTitle, core().expiredTitle)
+    OMBRIVANE_TEXT(expiredText, core().expiredText)
     OMBRIVANE_TEXT(expiredButtonText, core().expiredButtonText)
     OMBRIVANE_INTENT(back, core().back)
     OMBRIVANE_ENABLED(back, core().back)
     OMBRIVANE_INTENT(proceed, core().continue_)
     OMBRIVANE_ENABLED(proceed, core().continue_)
     OMBRIVANE_INTENT(checkLatestFares, core().checkLatestFares)
+    OMBRIVANE_TEXT(waitText, core().wait.waitText)
+    OMBRIVANE_TEXT(waitHint, core().wait.waitHint)
 };
 
 } // namespace ombrivane::view
