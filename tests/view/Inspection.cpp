@@ -135,7 +135,8 @@ void expectSound(Window& window) {
         expectInside(window, *item);
     }
     expectApart(texts);
-    EXPECT_GT(controls, 0);
+    // What is under way takes no input.
+    if (window.item("progress") == nullptr) EXPECT_GT(controls, 0);
 }
 
 } // namespace ombrivane::view
