@@ -165,6 +165,7 @@ Item {
         sourceComponent: PaymentCard {
             screen: page.screen.payment
             session: page.screen
+            footCover: page.screen.showSnackBar ? snack.implicitHeight + Theme.margin : 0
         }
     }
     Notice {
