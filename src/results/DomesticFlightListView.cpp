@@ -1,5 +1,6 @@
 #include "results/DomesticFlightListView.h"
 
+#include "offers/OfferFormat.h"
 #include "results/FilterBottomSheetView.h"
 #include "results/WholeNumber.h"
 
@@ -31,6 +32,27 @@ std::shared_ptr<OneWayFlightListView> DomesticFlightListView::makeList(const Fie
             flightListVM.isLoading, flightListVM.scrollToTop, selection, [this] { return travellers(); }},
         title,
         true);
+}
+
+std::string DomesticFlightListView::timeOf(const Choice& chosen) {
+    return chosen ? chosen->oneWay().flightSummary.timeOfDeparture : "";
+}
+
+std::string DomesticFlightListView::priceOf(const Choice& chosen) {
+    return chosen ? OfferFormat::price(chosen->currency(), chosen->totalCost()) : "";
+}
+
+std::string DomesticFlightListView::tell(Text tab, const Choice& chosen) {
+    if (!chosen)
+        return said(Text::fieldWithValue, {{"field", said(tab)}, {"value", said(Text::resultsChoose)}});
+    return said(Text::resultsTabChosen,
+                {{"tab", said(tab)}, {"time", timeOf(chosen)}, {"price", priceOf(chosen)}});
+}
+
+std::string DomesticFlightListView::part(Text words, const Choice& chosen) const {
+    if (!flightListVM.hasReturnDate || !flightListVM.flight.get() || !flightListVM.returnFlight.get())
+        return "";
+    return said(words, {{"price", priceOf(chosen)}});
 }
 
 OfferSelection DomesticFlightListView::departureSelection() {

@@ -21,6 +21,27 @@ public:
     Derived<bool> showsTabs{fields, "showsTabs", [this] { return flightListVM.hasReturnDate.get(); }};
     Caption departingTitle{fields, "departingTitle", Text::resultsDeparting};
     Caption returningTitle{fields, "returningTitle", Text::resultsReturning};
+    /// When the chosen offer of a tab departs and what it costs; empty, and empty, while none is chosen.
+    Derived<std::string> departingTime{
+        fields, "departingTime", [this] { return timeOf(flightListVM.flight); }};
+    Derived<std::string> departingPrice{
+        fields, "departingPrice", [this] { return priceOf(flightListVM.flight); }};
+    Derived<std::string> returningTime{
+        fields, "returningTime", [this] { return timeOf(flightListVM.returnFlight); }};
+    Derived<std::string> returningPrice{
+        fields, "returningPrice", [this] { return priceOf(flightListVM.returnFlight); }};
+    /// What a tab says while nothing is chosen on it.
+    Caption chooseText{fields, "chooseText", Text::resultsChoose};
+    /// A tab with its state, for assistive technology.
+    Derived<std::string> departingLabel{
+        fields, "departingLabel", [this] { return tell(Text::resultsDeparting, flightListVM.flight); }};
+    Derived<std::string> returningLabel{
+        fields, "returningLabel", [this] { return tell(Text::resultsReturning, flightListVM.returnFlight); }};
+    /// The parts of the total, once it has two.
+    Derived<std::string> departurePart{
+        fields, "departurePart", [this] { return part(Text::resultsDeparturePart, flightListVM.flight); }};
+    Derived<std::string> returnPart{
+        fields, "returnPart", [this] { return part(Text::resultsReturnPart, flightListVM.returnFlight); }};
     Action<> tapDepartingFlights{*this,
                                  "tapDepartingFlights",
                                  [this] { flightListVM.index = departureTab; },
@@ -50,6 +71,12 @@ private:
                            CompletionCallback completionCallback);
     std::shared_ptr<OneWayFlightListView> makeList(const Field<OneWayOffers>& shown,
                                                    const OfferSelection& selection, Text title);
+    using Choice = std::optional<AnyFlight>;
+    static std::string timeOf(const Choice& chosen);
+    static std::string priceOf(const Choice& chosen);
+    static std::string tell(Text tab, const Choice& chosen);
+    /// `words` with the price of one of the two chosen offers; empty while there are not two.
+    std::string part(Text words, const Choice& chosen) const;
     OfferSelection departureSelection();
     OfferSelection returnSelection();
     void tapReturnTab();

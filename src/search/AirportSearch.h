@@ -55,6 +55,8 @@ public:
     Published<std::string> errorMessage{fields, "errorMessage"};
     Caption placeholder;
     Caption heading{fields, "heading", Text::airportsPopular};
+    /// What stands in the search field. Its key is that of the kind of screen.
+    Published<std::string> text;
     Rows rows{*this,
               "rows",
               [this] { return airports->size(); },
@@ -78,8 +80,6 @@ protected:
     virtual std::vector<Airport> shown(std::vector<Airport> found) const { return found; }
     virtual void choose(const Airport& airport) = 0;
     virtual void leave() = 0;
-
-    Published<std::string> text;
 
 private:
     void searchFor(const std::string& query);

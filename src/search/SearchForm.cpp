@@ -18,6 +18,15 @@ std::string SearchForm::shownDate(const std::string& text, Day date) {
     return text.empty() ? "" : formatDay(date, dayPattern::form);
 }
 
+std::string SearchForm::shownCity(const std::string& city, const std::string& text) {
+    return city.empty() ? text : city;
+}
+
+std::string SearchForm::airportIn(const std::string& text, const std::string& city, const std::string& code) {
+    const std::string start = AirportSearch::describe({"", city, code, std::nullopt});
+    return text.starts_with(start) ? text.substr(start.size()) : "";
+}
+
 void SearchForm::chooseNationality() {
     if (!model_.countries->empty()) {
         model_.showNationalitySheet = !model_.showNationalitySheet.get();
@@ -42,14 +51,17 @@ void SearchForm::chooseNationality() {
         }));
 }
 
-void SearchForm::refuse(Text message) {
+void SearchForm::refuseMissing(Text message) {
     errorMessage = said(message);
+    marksMissing = true;
     model_.showAlert = true;
 }
 
 void SearchForm::checkAndSearch() {
-    if (model_.isMissingFields()) return refuse(Text::searchSelectAllFields);
-    if (traits_.hasReturnDate && model_.isMissingReturnDate()) return refuse(Text::searchSelectReturnDate);
+    if (model_.isMissingFields()) return refuseMissing(Text::searchSelectAllFields);
+    if (traits_.hasReturnDate && model_.isMissingReturnDate())
+        return refuseMissing(Text::searchSelectReturnDate);
+    marksMissing = false;
     if (model_.departCityCode.get() == model_.destCityCode.get()) {
         model_.showDestinationSameAlert = true;
     } else if (model_.isDomestic()) {

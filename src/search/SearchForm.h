@@ -52,8 +52,26 @@ public:
 
     Derived<std::string> origin{fields, "origin", [this] { return model_.originText.get(); }};
     Caption originPlaceholder{fields, "originPlaceholder", Text::searchEnterOrigin};
+    /// The origin in parts, as its field shows it: a city is found faster than a line that starts with a
+    /// code.
+    Derived<std::string> originCity{
+        fields, "originCity", [this] { return shownCity(model_.departCity, model_.originText); }};
+    Derived<std::string> originCode{fields, "originCode", [this] { return model_.departCityCode.get(); }};
+    Derived<std::string> originAirport{fields, "originAirport", [this] {
+                                           return airportIn(
+                                               model_.originText, model_.departCity, model_.departCityCode);
+                                       }};
     Derived<std::string> destination{fields, "destination", [this] { return model_.destinationText.get(); }};
     Caption destinationPlaceholder{fields, "destinationPlaceholder", Text::searchEnterDestination};
+    /// The destination in parts, as the origin.
+    Derived<std::string> destinationCity{
+        fields, "destinationCity", [this] { return shownCity(model_.destCity, model_.destinationText); }};
+    Derived<std::string> destinationCode{
+        fields, "destinationCode", [this] { return model_.destCityCode.get(); }};
+    Derived<std::string> destinationAirport{
+        fields, "destinationAirport", [this] {
+            return airportIn(model_.destinationText, model_.destCity, model_.destCityCode);
+        }};
     Derived<std::string> departureDate{fields, "departureDate", [this] {
                                            return shownDate(model_.departureDateText, model_.departureDate);
                                        }};
@@ -67,6 +85,22 @@ public:
     Derived<std::string> travellers{
         fields, "travellers", [this] { return shownTravellers(model_.travellerText); }};
     Derived<bool> showsReturnDate{fields, "showsReturnDate", [this] { return traits_.hasReturnDate; }};
+    /// A search was refused for a field that is missing, and none has gone through since: what is still
+    /// missing is marked.
+    Published<bool> marksMissing{fields, "marksMissing"};
+    Derived<bool> originIsMissing{
+        fields, "originIsMissing", [this] { return marksMissing && model_.departCity->empty(); }};
+    Derived<bool> destinationIsMissing{
+        fields, "destinationIsMissing", [this] { return marksMissing && model_.destCity->empty(); }};
+    Derived<bool> departureDateIsMissing{fields, "departureDateIsMissing", [this] {
+                                             return marksMissing && model_.departureDateText->empty();
+                                         }};
+    Derived<bool> returnDateIsMissing{fields, "returnDateIsMissing", [this] {
+                                          return marksMissing && traits_.hasReturnDate &&
+                                                 model_.isMissingReturnDate();
+                                      }};
+    Derived<bool> nationalityIsMissing{
+        fields, "nationalityIsMissing", [this] { return marksMissing && model_.nationality->empty(); }};
     Derived<bool> isFetchingCountries{
         fields, "isFetchingCountries", [this] { return model_.showProgressView.get(); }};
 
@@ -83,9 +117,13 @@ public:
 private:
     /// A date of the form, which is shown once its text has been chosen.
     static std::string shownDate(const std::string& text, Day date);
+    /// The city, or the whole text of a place that has none.
+    static std::string shownCity(const std::string& city, const std::string& text);
+    /// What the text of a place says beyond code and city; empty where it is put together otherwise.
+    static std::string airportIn(const std::string& text, const std::string& city, const std::string& code);
     void chooseNationality();
     void checkAndSearch();
-    void refuse(Text message);
+    void refuseMissing(Text message);
     SearchRequest request() const;
     std::shared_ptr<Screen> makeOriginSearch();
     std::shared_ptr<Screen> makeDestinationSearch();

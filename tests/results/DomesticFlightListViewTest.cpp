@@ -16,7 +16,7 @@ protected:
     void openRound(std::int64_t going = 4000, std::int64_t coming = 5000) {
         open(true);
         answer(
-            Json::array({listOf({{"b", going + 10, "Lotus"}, {"a", going}}),
+            Json::array({listOf({{"b", going + 10, "Lotus"}, {"a", going, "Saffron", "06:40"}}),
                          listOf({{"y", coming + 10, "Rhino"}, {"x", coming, "Saffron", "10:15", "USD"}})}));
     }
     void chooseBoth() {
@@ -103,17 +103,33 @@ TEST_F(DomesticFlightListViewTest, EachListChoosesInItsOwnFields) {
     EXPECT_FALSE(model().flightSelected) << "that one is the one-way list's";
 }
 
-TEST_F(DomesticFlightListViewTest, TheTotalIsOfWhatIsChosen) {
+TEST_F(DomesticFlightListViewTest, TabsTellWhatIsChosenAndTheTotalItsParts) {
+    const auto tabs = [this] { return screen->departingLabel.get() + " | " + screen->returningLabel.get(); };
+    const auto chips = [this] {
+        return screen->departingTime.get() + " " + screen->departingPrice.get() + " | " +
+               screen->returningTime.get() + " " + screen->returningPrice.get();
+    };
+    const auto sum = [this] {
+        return screen->total.get() + " = " + screen->departurePart.get() + screen->returnPart.get();
+    };
     openRound();
-    EXPECT_EQ(screen->total.get(), "");
+    EXPECT_EQ(tabs(), "Departing Flights, Choose | Returning Flights, Choose");
+    EXPECT_EQ(chips(), "  |  ");
+    EXPECT_EQ(sum(), " = ");
     tapItem(0);
-    EXPECT_EQ(screen->total.get(), "NPR 4,000");
+    EXPECT_EQ(tabs(), "Departing Flights, chosen: 06:40, NPR 4,000 | Returning Flights, Choose");
+    EXPECT_EQ(chips(), "06:40 NPR 4,000 |  ");
+    EXPECT_EQ(sum(), "NPR 4,000 = ");
     screen->tapReturningFlights();
     tapItem(0);
-    EXPECT_EQ(screen->total.get(), "NPR 9,000") << "in the currency of the departure";
+    EXPECT_EQ(screen->returningLabel.get(), "Returning Flights, chosen: 10:15, USD 5,000");
+    EXPECT_EQ(screen->returningTime.get() + screen->returningPrice.get(), "10:15USD 5,000");
+    EXPECT_EQ(sum(), "NPR 9,000 = Departure NPR 4,000+ Return USD 5,000")
+        << "in the currency of the departure";
     screen->tapDepartingFlights();
     tapItem(0);
-    EXPECT_EQ(screen->total.get(), "USD 5,000");
+    EXPECT_EQ(sum(), "USD 5,000 = ");
+    EXPECT_EQ(chips(), "  | 10:15 USD 5,000");
 }
 
 TEST_F(DomesticFlightListViewTest, ContinueLeadsToTheReturnTabThenChecksTheSum) {

@@ -117,6 +117,82 @@ TEST_F(SearchFormTest, ASearchIsRefusedInTheOrderOfTheChecksOrTakesItsRoad) {
     EXPECT_EQ(model.destCity.get(), "Doha") << "no check clears a field";
 }
 
+/// Which fields of a form are marked, by the initial letters of their keys.
+std::string marked(SearchForm& form) {
+    std::string letters;
+    for (const auto* flag : {&form.originIsMissing,
+                             &form.destinationIsMissing,
+                             &form.departureDateIsMissing,
+                             &form.returnDateIsMissing,
+                             &form.nationalityIsMissing}) {
+        letters += flag->get() ? flag->key()[0] : '-';
+    }
+    return letters;
+}
+
+TEST_F(SearchFormTest, ARefusedSearchMarksWhatIsMissingUntilItIsFilled) {
+    struct Step {
+        std::function<void()> change;
+        std::string marks; ///< of the round-trip form
+    };
+    SearchForm& round = form(TabBarItem::roundTrip);
+    const auto search = [&] {
+        round.search();
+        if (const auto alert = topAs<AlertView>()) alert->button();
+    };
+    const Step steps[] = {
+        {[] {}, "-----"}, // nobody has searched
+        {search, "oddrn"},
+        {[&] { model.destCity = "Doha"; }, "o-drn"},
+        {[&] { model.swapLocations(); }, "-ddrn"},
+        {[&] { fill(); }, "---r-"},
+        {search, "---r-"},
+        {[&] { model.returnDateText = "x"; }, "-----"},
+        {[&] { model.nationality = ""; }, "----n"},
+        {[&] { model.nationality = "NP"; }, "-----"},
+        {search, "-----"}, // it goes through
+        {[&] { appState.resetNavigation(), model.destCity = ""; }, "-----"},
+    };
+    int number = 0;
+    for (const auto& [change, marks] : steps) {
+        change();
+        EXPECT_EQ(marked(round), marks) << "step " << number++;
+        EXPECT_EQ(marked(*main->oneWay), "-----") << "the other form was not asked";
+    }
+    SearchForm& oneWay = form(TabBarItem::oneWay);
+    model.returnDateText = "";
+    oneWay.search();
+    EXPECT_EQ(marked(oneWay), "-d---") << "one way has no return date";
+}
+
+TEST_F(SearchFormTest, APlaceIsShownInItsParts) {
+    struct Case {
+        const char* text;
+        const char* city;
+        const char* code;
+        std::string parts;
+    };
+    for (const auto& [text, city, code, parts] :
+         {Case{"", "", "", "||"},
+          Case{"DOH - Doha, Hamad, the new one", "Doha", "DOH", "Doha|DOH|Hamad, the new one"},
+          Case{"DOH - Doha, ", "Doha", "DOH", "Doha|DOH|"},
+          Case{"Doha", "Doha", "DOH", "Doha|DOH|"}, // a wallet's own words
+          Case{"", "Doha", "DOH", "Doha|DOH|"},
+          Case{"Doha", "", "", "Doha||"}}) {
+        model.destinationText = text;
+        model.destCity = city;
+        model.destCityCode = code;
+        SearchForm& shown = *main->oneWay;
+        EXPECT_EQ(shown.destinationCity.get() + "|" + shown.destinationCode.get() + "|" +
+                      shown.destinationAirport.get(),
+                  parts);
+        model.swapLocations();
+        EXPECT_EQ(shown.originCity.get() + "|" + shown.originCode.get() + "|" + shown.originAirport.get(),
+                  parts);
+        model.swapLocations();
+    }
+}
+
 TEST_F(SearchFormTest, TheListGetsWhatTheFormHolds) {
     fill();
     model.adult = "3";
