@@ -129,6 +129,8 @@ const std::vector<OtherName>& otherNames() {
         {"", "waitHint", "waitHint", "wait.waitHint"},
         // A screen's own name is a member of each.
         {"AirportRowAdapter", "name", "name", "name_"},
+        // What is looked for; each of the two screens has a key of its own for it.
+        {"AirportSearchAdapter", "originText", "typed", "text"},
         // What both kinds of result list have of their models.
         {"ResultsAdapter", "flightListVM", "", "model()"},
         // In a page `index` is the place of a row.

@@ -4,6 +4,7 @@
 #include "items/Announcement.h"
 #include "items/PictureItem.h"
 #include "keyed/Navigator.h"
+#include "search/MainViewModel.h"
 
 #include <gtest/gtest.h>
 
@@ -14,13 +15,43 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace ombrivane::view {
 namespace {
 
 std::string top(Window& window) { return std::string(window.session().navigator()->top()->name()); }
 
+/// The name by which assistive technology calls the item.
+std::string spoken(Window& window, const char* name) {
+    QQuickItem* item = window.item(name);
+    const auto* accessible = item != nullptr ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    return accessible != nullptr ? accessible->text(QAccessible::Name).toStdString() : "nothing";
+}
+
+/// Of the form's fields those of these names are marked, in colour and in words.
+void expectMarked(Window& window, const std::set<std::string>& names) {
+    for (const char* name : {"origin", "destination", "departureDate", "nationality", "travellers"}) {
+        const QQuickItem* field = window.item(name);
+        ASSERT_NE(field, nullptr) << name;
+        const bool expected = names.contains(name);
+        const auto* frame = field->property("background").value<QQuickItem*>();
+        const QColor border = QQmlProperty::read(frame, "border.color").value<QColor>();
+        EXPECT_EQ(border == QColor("#C8372D"), expected) << name;
+        const auto marks = field->childItems();
+        EXPECT_EQ(std::any_of(marks.begin(),
+                              marks.end(),
+                              [](const QQuickItem* item) {
+                                  return item->isVisible() && item->property("name") == "warningIcon";
+                              }),
+                  expected)
+            << name;
+        EXPECT_EQ(spoken(window, name).ends_with(", missing"), expected) << name;
+    }
+}
+
 TEST(PagesTest, theSearchFormAnswersClicks) {
+    const WalkPorts ports;
     Window window;
     window.open();
     ASSERT_TRUE(window.waitForScreen("MainView"));
@@ -32,6 +63,13 @@ TEST(PagesTest, theSearchFormAnswersClicks) {
     expectSound(window);
     window.click("dismiss");
     ASSERT_TRUE(window.waitFor([&] { return top(window) == "OmbrivaneView"; }));
+    EXPECT_TRUE(window.waitFor([&] { return window.item("origin")->hasActiveFocus(); }));
+    expectSound(window);
+    expectMarked(window, {"origin", "destination", "departureDate", "nationality"});
+    MainViewModel::shared().departCity = "Kathmandu";
+    MainViewModel::shared().departCityCode = "KTM";
+    expectMarked(window, {"destination", "departureDate", "nationality"});
+    EXPECT_EQ(spoken(window, "origin"), "Enter Origin, Kathmandu");
 
     window.click("tab2"); // not available: the form stays
     ASSERT_TRUE(window.waitForScreen("AlertView"));
@@ -42,6 +80,81 @@ TEST(PagesTest, theSearchFormAnswersClicks) {
     window.click("tab0");
 }
 
+bool isInside(Window& window, const QQuickItem& item) {
+    return QRectF(QPointF(), window.window().size()).contains(placeOf(item));
+}
+
+/// The button is wholly in the window from the start; a field that has the focus is never below it; and a
+/// form that has room is seen at once, in two columns where the window lies.
+TEST(PagesTest, TheSearchButtonIsInReachAtEverySize) {
+    struct Case {
+        int width;
+        int height;
+        double textScale;
+        bool seenAtOnce;
+        bool twoColumns;
+    };
+    for (const Case& look : {Case{390, 844, 1, true, false},
+                             Case{320, 568, 1, false, false},
+                             Case{320, 568, 2, false, false},
+                             Case{844, 390, 1, true, true},
+                             Case{844, 390, 2, false, true},
+                             Case{1024, 768, 1, true, true},
+                             Case{839, 1024, 1, true, false}}) {
+        SCOPED_TRACE(testing::Message() << look.width << " x " << look.height << " at " << look.textScale);
+        const WalkPorts ports;
+        Window window(look.width, look.height);
+        window.setLook(false, look.textScale);
+        window.open();
+        ASSERT_TRUE(window.waitForScreen("MainView"));
+        window.click("tab1");
+        ASSERT_TRUE(window.waitFor([&] { return window.item("returnDate") != nullptr || !look.seenAtOnce; }));
+        window.settle();
+        expectSound(window);
+        const QQuickItem* search = window.item("search");
+        ASSERT_NE(search, nullptr);
+        EXPECT_TRUE(isInside(window, *search));
+        const QQuickItem* origin = window.item("origin");
+        ASSERT_NE(origin, nullptr);
+        EXPECT_EQ(placeOf(*origin).right() <= placeOf(*search).left(), look.twoColumns);
+        for (const char* name : {"destination", "departureDate", "nationality", "travellers"}) {
+            if (!look.seenAtOnce) break;
+            const QQuickItem* field = window.item(name);
+            ASSERT_NE(field, nullptr) << name;
+            EXPECT_TRUE(isInside(window, *field)) << name;
+            EXPECT_TRUE(look.twoColumns || placeOf(*field).bottom() <= placeOf(*search).top()) << name;
+        }
+        // By the keys through the whole form.
+        int fields = 0;
+        for (int i = 0; i < 20; ++i) {
+            QTest::keyClick(&window.window(), Qt::Key_Tab);
+            const QQuickItem* focused = window.window().activeFocusItem();
+            if (focused == search) break;
+            if (focused == nullptr || !focused->property("missing").isValid()) continue;
+            ++fields;
+            EXPECT_TRUE(window.waitFor([&] {
+                return isInside(window, *focused) && !placeOf(*focused).intersects(placeOf(*search));
+            })) << focused->objectName().toStdString();
+        }
+        EXPECT_EQ(fields, 6);
+    }
+}
+
+/// The field and its screen have one text, whoever writes it.
+void expectFieldOf(Window& window, const char* screen, const char* key) {
+    Member* text = window.session().navigator()->find(screen)->fields.find(key);
+    ASSERT_TRUE(window.waitFor([&] { return window.item("search") != nullptr; }));
+    const QQuickItem* field = window.item("search");
+    text->write("Ne");
+    EXPECT_TRUE(window.waitFor([&] { return field->property("text").toString() == "Ne"; }));
+    QTest::keyClick(&window.window(), 'p');
+    EXPECT_EQ(text->read(), "Nep");
+    window.click("clear");
+    EXPECT_EQ(text->read(), "");
+    const Member* loading = window.session().navigator()->find(screen)->fields.find("isLoading");
+    EXPECT_TRUE(window.waitFor([&] { return loading == nullptr || loading->read() == false; }));
+}
+
 TEST(PagesTest, anAirportAndTheTravellersAreChosenByHand) {
     Window window(320, 640);
     window.open();
@@ -49,6 +162,7 @@ TEST(PagesTest, anAirportAndTheTravellersAreChosenByHand) {
 
     window.click("origin");
     ASSERT_TRUE(window.waitForScreen("SelectOriginFlightView"));
+    expectFieldOf(window, "SelectOriginFlightView", "originText");
     window.click("row");
     ASSERT_TRUE(window.waitForScreen("SelectDestinationFlightView"));
     expectSound(window);
@@ -66,6 +180,7 @@ TEST(PagesTest, anAirportAndTheTravellersAreChosenByHand) {
     window.click("nationality");
     ASSERT_TRUE(window.waitForScreen("NationalityBottomSheetView"));
     expectSound(window);
+    expectFieldOf(window, "NationalityBottomSheetView", "nationalityText");
     EXPECT_TRUE(window.session().stage()->back());
     EXPECT_EQ(top(window), "OmbrivaneView");
 }
@@ -136,13 +251,6 @@ void expectKeyboardAt(Window& window, const char* name) {
     const QQuickItem* message = window.item("snackPanel");
     const double end = message != nullptr ? message->mapToScene(QPointF()).y() : window.window().height();
     EXPECT_LT(top + focused->height(), end) << "under the message, or out of the window";
-}
-
-/// The name by which assistive technology calls the item.
-std::string spoken(Window& window, const char* name) {
-    QQuickItem* item = window.item(name);
-    const auto* accessible = item != nullptr ? QAccessible::queryAccessibleInterface(item) : nullptr;
-    return accessible != nullptr ? accessible->text(QAccessible::Name).toStdString() : "nothing";
 }
 
 /// The item shows, all over, the picture of `file`, whose middle has one colour.

@@ -184,6 +184,16 @@ public:
     std::vector<std::string> lines;
 };
 
+/// The sky is a breath of the wallet's colour on its canvas.
+void expectSky(const QColor& sky, const char* colour, const char* canvas) {
+    constexpr double share = 0.12;
+    const QColor tint(colour), ground(canvas);
+    const auto mixed = [](int front, int back) { return back + share * (front - back); };
+    EXPECT_NEAR(sky.red(), mixed(tint.red(), ground.red()), 3);
+    EXPECT_NEAR(sky.green(), mixed(tint.green(), ground.green()), 3);
+    EXPECT_NEAR(sky.blue(), mixed(tint.blue(), ground.blue()), 3);
+}
+
 TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
     WalkPorts ports;
     const auto diagnostics = std::make_shared<HeardDiagnostics>();
@@ -203,6 +213,8 @@ TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
     const QImage shown = window.window().grabWindow();
     EXPECT_EQ(shown.pixelColor(4, 840), QColor("#FFF8E7"));
     EXPECT_EQ(shown.pixelColor(394, 840), QColor("#0E1116"));
+    expectSky(shown.pixelColor(4, 4), "#8E1B4E", "#FFF8E7");
+    expectSky(shown.pixelColor(394, 4), "#4FD1C0", "#0E1116");
     const auto themeOf = [&](const QString& name) {
         std::map<const Theme*, int> themes;
         collectThemes(view(name), themes);

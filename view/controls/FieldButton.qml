@@ -2,34 +2,15 @@ import QtQuick
 import Ombrivane
 
 // A field of a form that opens something: its placeholder rises to a label once it has a value.
-Pressable {
+FieldFrame {
     id: field
 
-    required property string iconName
-    required property string placeholder
-    property string value: ""
-    property alias mark: fieldMark.mark
-    readonly property alias missing: fieldMark.missing
-    readonly property alias inOrder: fieldMark.inOrder
-    property bool framed: true
-    property real leastHeight: Theme.fieldHeight
-
-    implicitHeight: Math.max(leastHeight, texts.implicitHeight + 12)
-    Accessible.name: missing ? Words.fill(Words.fieldIsMissing, {field: placeholder})
-                             : value !== "" ? Words.fill(Words.fieldWithValue, {field: placeholder, value: value}) : placeholder
-
-    background: Rectangle {
-        radius: Theme.fieldRadius
-        color: field.down ? Theme.segmentColor : (field.framed ? Theme.formBackgroundColor : "transparent")
-        border.width: field.missing ? 2 : (field.framed ? 1 : 0)
-        border.color: field.missing ? Theme.primaryColor
-                    : field.inOrder ? Theme.secondaryColor : Theme.formBorderColor
-    }
+    implicitHeight: Math.max(Theme.fieldHeight, texts.implicitHeight + 12)
     contentItem: Item {
         Icon {
             id: icon
             anchors { left: parent.left; leftMargin: 14 }
-            visible: field.width >= 180 * Theme.textScale
+            visible: !field.tight
             width: visible ? 22 : 0
             height: 22
             anchors.verticalCenter: parent.verticalCenter
@@ -63,5 +44,4 @@ Pressable {
             }
         }
     }
-    FieldMark { id: fieldMark }
 }

@@ -18,6 +18,8 @@ namespace {
 
 /// The one colour of every icon's drawing, which is exchanged for the wanted one.
 constexpr const char* drawnColour = "#14181F";
+/// What a drawing that fades away has in the colour of what lies behind it.
+constexpr const char* drawnGround = "#F3F5F9";
 /// The drawings that point the way.
 constexpr std::array<std::string_view, 6> pointing{
     "arrowLeftIcon", "chevronLeftIcon", "chevronRightIcon", "paperPlaneIcon", "segmentPlane", "toIcon"};
@@ -32,6 +34,7 @@ QByteArray contents(const QString& path) {
 struct PictureKey {
     QString name;
     QRgb color;
+    QRgb ground;
     bool dark;
     double width;
     double height;
@@ -42,7 +45,8 @@ struct PictureKey {
 };
 
 std::size_t qHash(const PictureKey& key, std::size_t seed) {
-    return qHashMulti(seed, key.name, key.color, key.dark, key.width, key.height, key.scale, key.mirrored);
+    return qHashMulti(
+        seed, key.name, key.color, key.ground, key.dark, key.width, key.height, key.scale, key.mirrored);
 }
 
 /// Drawn pictures, by thread, since each window may draw in a thread of its own. The same few icons are
@@ -73,6 +77,13 @@ void IconItem::setColor(const QColor& color) {
     update();
 }
 
+void IconItem::setGround(const QColor& ground) {
+    if (ground == ground_) return;
+    ground_ = ground;
+    emit groundChanged();
+    update();
+}
+
 void IconItem::setDark(bool dark) {
     if (dark == dark_) return;
     dark_ = dark;
@@ -84,6 +95,7 @@ QByteArray IconItem::drawing() const {
     QByteArray svg = dark_ ? contents(QString(folder) + "dark/" + name_ + ".svg") : QByteArray();
     if (svg.isEmpty()) svg = contents(QString(folder) + name_ + ".svg");
     if (color_.alpha() > 0) svg.replace(drawnColour, color_.name(QColor::HexRgb).toLatin1());
+    if (ground_.alpha() > 0) svg.replace(drawnGround, ground_.name(QColor::HexRgb).toLatin1());
     return svg;
 }
 
@@ -91,6 +103,7 @@ QImage IconItem::picture(double scale) const {
     const QRectF place = boundingRect();
     const PictureKey key{name_,
                          color_.rgba(),
+                         ground_.rgba(),
                          dark_,
                          place.width(),
                          place.height(),

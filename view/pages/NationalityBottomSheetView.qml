@@ -18,6 +18,7 @@ Sheet {
         anchors { top: parent.top; left: parent.left; right: parent.right; margins: Theme.margin; topMargin: 0 }
         focus: true
         placeholder: page.screen.placeholder
+        text: page.screen.nationalityText
         onTextEdited: page.screen.type(text)
         onAccepted: list.goTo(0)
         Keys.onDownPressed: list.goTo(list.currentIndex)

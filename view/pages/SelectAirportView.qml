@@ -25,6 +25,7 @@ Item {
             width: parent.width
             focus: true
             placeholder: page.screen.placeholder
+            text: page.screen.typed
             onTextEdited: page.screen.type(text)
             onAccepted: list.goTo(0)
             Keys.onDownPressed: list.goTo(list.currentIndex)

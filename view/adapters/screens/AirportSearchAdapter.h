@@ -20,6 +20,7 @@ class AirportSearchAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_TEXT(errorMessage, core().errorMessage)
     OMBRIVANE_TEXT(placeholder, core().placeholder)
     OMBRIVANE_TEXT(heading, core().heading)
+    OMBRIVANE_TEXT(typed, core().text)
     OMBRIVANE_ROWS(rows, core().rows)
     OMBRIVANE_INPUT(type, core().type)
     OMBRIVANE_INTENT(close, core().close)

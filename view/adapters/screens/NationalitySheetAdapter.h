@@ -13,6 +13,7 @@ class NationalitySheetAdapter : public ombrivane::view::ScreenAdapter {
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
     OMBRIVANE_SCREEN(NationalitySheetAdapter, ScreenAdapter, NationalityBottomSheetView)
+    OMBRIVANE_TEXT(nationalityText, core().nationalityText)
     OMBRIVANE_TEXT(placeholder, core().placeholder)
     OMBRIVANE_ROWS(rows, core().rows)
     OMBRIVANE_INPUT(type, core().type)
