@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QQmlProperty>
 #include <QTest>
 
@@ -213,7 +214,66 @@ TEST(ResultPagesTest, AFingerStopsTheMovementOfTheListWhichElseEndsAtItsItem) {
     EXPECT_EQ(looks, 2);
 }
 
-/// With little height or large letters offers stay in sight, also below the total of what is chosen.
+/// The filter lies over no offer: it stands beside them, or in a bar that ends the list.
+void expectFilterAside(Window& window) {
+    const QQuickItem* filter = window.item("filter");
+    ASSERT_NE(filter, nullptr);
+    const QRectF button = placeOf(*filter);
+    double end = window.window().height();
+    for (const char* bar : {"floatingBar", "total"}) {
+        const QQuickItem* item = window.item(bar);
+        if (item != nullptr && placeOf(*item).width() >= window.width())
+            end = std::min(end, placeOf(*item).top());
+    }
+    for (const QQuickItem* offer : offersOf(window)) {
+        const QRectF seen = placeOf(*offer).intersected(QRectF(0, 0, window.width(), end));
+        EXPECT_FALSE(seen.intersects(button)) << seen.bottom() << " over " << button.top();
+    }
+}
+
+/// The last offer can be scrolled clear of what stands at the foot.
+void expectLastOfferFree(Window& window, QQuickItem& list) {
+    list.setProperty("pinned", false);
+    QMetaObject::invokeMethod(&list, "positionViewAtEnd");
+    list.setProperty("contentY",
+                     list.property("originY").toDouble() + list.property("contentHeight").toDouble() +
+                         list.property("bottomMargin").toDouble() - list.height());
+    window.settle();
+    const auto offers = offersOf(window);
+    ASSERT_FALSE(offers.empty());
+    for (const char* bar : {"floatingBar", "total"}) {
+        const QQuickItem* item = window.item(bar);
+        if (item == nullptr || placeOf(*item).width() < window.width()) continue;
+        EXPECT_LE(placeOf(*offers.back()).bottom(), placeOf(*item).top()) << bar;
+    }
+}
+
+/// The name by which assistive technology calls the item, wherever it is scrolled to.
+std::string heardName(Window& window, const char* name) {
+    for (QQuickItem* item : window.visibleItems()) {
+        if (item->objectName() != name) continue;
+        return QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name).toStdString();
+    }
+    return "nothing";
+}
+
+/// What was chosen on each tab, there and in the total.
+void expectSteps(Window& window, bool chosen) {
+    EXPECT_EQ(heardName(window, "departingFlights"),
+              chosen ? "Departing Flights, chosen: 13:20, NPR 3,856" : "Departing Flights, Choose");
+    EXPECT_EQ(heardName(window, "returningFlights"),
+              chosen ? "Returning Flights, chosen: 09:35, NPR 4,059" : "Returning Flights, Choose");
+    const auto items = window.visibleItems();
+    const auto count = [&](const char* name) {
+        return std::count_if(
+            items.begin(), items.end(), [&](const auto* item) { return item->objectName() == name; });
+    };
+    EXPECT_EQ(count("tick"), chosen ? 2 : 0);
+    EXPECT_EQ(count("open"), chosen ? 0 : 2);
+}
+
+/// With little height or large letters offers stay in sight, also below the total of what is chosen; nothing
+/// lies over them, and a duration is never parted.
 TEST(ResultPagesTest, AShortPageKeepsOffersInSight) {
     struct Case {
         int width;
@@ -221,7 +281,10 @@ TEST(ResultPagesTest, AShortPageKeepsOffersInSight) {
         double textScale;
         bool startsInSight;
     };
-    for (const Case& look : {Case{844, 390, 1, true}, Case{320, 568, 2, false}, Case{390, 844, 1, true}}) {
+    for (const Case& look : {Case{844, 390, 1, true},
+                             Case{320, 568, 2, false},
+                             Case{320, 640, 1, true},
+                             Case{390, 844, 1, true}}) {
         SCOPED_TRACE(look.width);
         int looks = 0;
         WalkPorts ports;
@@ -237,6 +300,12 @@ TEST(ResultPagesTest, AShortPageKeepsOffersInSight) {
                 if (item->objectName() != "date" || look.width != 390) continue;
                 EXPECT_EQ(item->property("lineCount").toInt(), 1);
             }
+            for (const QQuickItem* item : window.visibleItems()) {
+                if (item->objectName() != "duration") continue;
+                EXPECT_EQ(item->property("lineCount").toInt(), 1);
+            }
+            expectSteps(window, name == "chosen");
+            expectFilterAside(window);
             constexpr double enough = 90;
             if (name == "list") {
                 EXPECT_NE(window.item("dateIcon"), nullptr);
@@ -251,10 +320,14 @@ TEST(ResultPagesTest, AShortPageKeepsOffersInSight) {
                 const QQuickItem* header = window.item("resultsHeader");
                 const double top = header != nullptr ? placeOf(*header).bottom() : 0;
                 EXPECT_GE(placeOf(*window.item("total")).top() - top, look.height / 3.0);
+                const bool room = look.textScale == 1;
+                EXPECT_EQ(heardName(window, "firstPart"), room ? "Departure NPR 3,856" : "nothing");
+                EXPECT_EQ(heardName(window, "secondPart"), room ? "+ Return NPR 4,059" : "nothing");
             }
             if (const char* folder = std::getenv("OMBRIVANE_PICTURES"); folder != nullptr)
                 window.window().grabWindow().save(
                     QString("%1/short-%2-%3.png").arg(folder).arg(look.width).arg(name.c_str()));
+            expectLastOfferFree(window, *list);
         });
         EXPECT_EQ(looks, 2);
     }

@@ -1,20 +1,22 @@
 import QtQuick
 import Ombrivane
 
-// A round control that lies over a list; a dot marks what is on.
+// A round control of a list, or with a word a pill; a dot marks what is on.
 Pressable {
     id: button
 
     required property string iconName
     required property string label
     property bool on: false
+    property bool compact: false
+    readonly property real size: compact ? Theme.target : 56
 
-    implicitWidth: 56
-    implicitHeight: 56
+    implicitWidth: text !== "" ? word.width + 64 : size
+    implicitHeight: text !== "" ? Math.max(size, word.height + 12) : size
     Accessible.name: label
 
     background: Rectangle {
-        radius: 28
+        radius: height / 2
         color: button.down ? Theme.segmentColor : Theme.whiteColor
         border.width: button.on ? 2 : 1
         border.color: button.on ? Theme.secondaryColor : Theme.formBorderColor
@@ -30,6 +32,21 @@ Pressable {
         }
     }
     contentItem: Item {
-        Icon { anchors.centerIn: parent; width: 24; height: 24; name: button.iconName; color: Theme.blackColor }
+        Row {
+            anchors.centerIn: parent
+            spacing: 8
+            Icon { anchors.verticalCenter: parent.verticalCenter; width: 24; height: 24; name: button.iconName; color: Theme.blackColor }
+            PlainText {
+                id: word
+                anchors.verticalCenter: parent.verticalCenter
+                visible: button.text !== ""
+                width: Math.ceil(implicitWidth)
+                wrapMode: Text.NoWrap
+                text: button.text
+                font.weight: Font.Medium
+                spread: 1.1
+                Accessible.ignored: true
+            }
+        }
     }
 }

@@ -10,10 +10,16 @@ Rectangle {
     property string label: ""
     property string value: ""
     property bool emphasised: false
+    // What the value is the sum of.
+    property string firstPart: ""
+    property string secondPart: ""
     required property string action
     property string actionIcon: ""
     // Without its label, where there is little height.
     property bool terse: false
+    // A place ahead of the value for controls of `leadingWidth`.
+    readonly property alias leading: controls
+    property real leadingWidth: 0
     readonly property bool narrow: width < 340 * Theme.textScale
     signal clicked
 
@@ -38,6 +44,12 @@ Rectangle {
         RowLayout {
             Layout.fillWidth: true
             spacing: 10
+            Item {
+                id: controls
+                visible: bar.leadingWidth > 0
+                implicitWidth: bar.leadingWidth
+                implicitHeight: Theme.target
+            }
             Icon {
                 visible: bar.iconName !== ""
                 implicitWidth: 24
@@ -63,6 +75,27 @@ Rectangle {
                     color: Theme.blackColor
                     font.pixelSize: bar.emphasised ? Theme.priceSize : Theme.bodySize
                     font.weight: bar.emphasised ? Font.DemiBold : Font.Medium
+                }
+                Flow {
+                    width: parent.width
+                    visible: bar.firstPart !== "" && !(bar.terse && bar.narrow)
+                    spacing: 4
+                    PlainText {
+                        objectName: "firstPart"
+                        width: Math.min(Math.ceil(implicitWidth), parent.width)
+                        text: bar.firstPart
+                        spread: 1.2
+                        color: Theme.placeHolderColor
+                        font.pixelSize: Theme.smallSize
+                    }
+                    PlainText {
+                        objectName: "secondPart"
+                        width: Math.min(Math.ceil(implicitWidth), parent.width)
+                        text: bar.secondPart
+                        spread: 1.2
+                        color: Theme.placeHolderColor
+                        font.pixelSize: Theme.smallSize
+                    }
                 }
             }
         }

@@ -76,7 +76,9 @@ Column {
         id: times
         width: item.width
         height: Math.ceil(item.narrow ? arrivalDate.y + arrivalDate.height : departureDate.y + Math.max(departureDate.height, arrivalDate.height))
-        readonly property real line: Math.max(departure.height, flight.height)
+        // A duration is never parted: where it is wider than what the times leave, it stands above these.
+        readonly property bool wideDuration: !item.narrow && duration.implicitWidth > flight.width
+        readonly property real line: Math.max(departure.height + (wideDuration ? duration.height : 0), flight.height)
         FlightTime {
             id: departure
             anchors.left: parent.left
@@ -96,9 +98,12 @@ Column {
         Column {
             id: flight
             anchors { left: item.narrow ? parent.left : departure.right; leftMargin: item.narrow ? 0 : 10; right: item.narrow ? parent.right : arrival.left; rightMargin: item.narrow ? 0 : 10 }
-            y: item.narrow ? departureDate.y + departureDate.height + 4 : times.line - height
+            y: item.narrow ? departureDate.y + departureDate.height + 4 : times.wideDuration ? 0 : times.line - height
             CardText {
-                width: parent.width
+                id: duration
+                objectName: "duration"
+                x: Math.round((parent.width - width) / 2)
+                width: Math.min(item.width, Math.max(parent.width, Math.ceil(implicitWidth)))
                 horizontalAlignment: Text.AlignHCenter
                 text: item.journey.duration
                 color: Theme.placeHolderColor

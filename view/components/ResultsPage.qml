@@ -7,7 +7,12 @@ FocusScope {
 
     required property ResultsAdapter results
     default property alias tabs: header.tabs
+    // What the total is the sum of.
+    property alias firstPart: foot.firstPart
+    property alias secondPart: foot.secondPart
     readonly property real footShown: foot.arrival * foot.height
+    // What the bars at the foot take of the list.
+    readonly property real barsShown: footShown + (floating.visible && !floating.beside ? floating.height : 0)
     // A wide window moves the list aside for its filter.
     readonly property bool besideFilter: width >= Theme.wideWidth && results.showFilterBottomSheet
 
@@ -28,7 +33,7 @@ FocusScope {
         target: content.shown
         when: content.shown !== null
         property: "bottomInset"
-        value: page.footShown + (floating.visible && !floating.beside ? floating.height + Theme.gap : 0)
+        value: page.barsShown
     }
     Item {
         anchors { left: parent.left; leftMargin: page.besideFilter ? Theme.besideWidth : 0; right: parent.right; top: parent.top; bottom: parent.bottom }
@@ -48,46 +53,52 @@ FocusScope {
             clip: true
             focus: true
         }
-        // Never over a price or an arrival, which stand at the end of each card: beside the cards where there is room, else
-        // in the middle, where a card has its plane; with large letters in a bar of their own.
+        // Never over an offer: beside the cards where there is room, else in a bar of its own, or where two bars would leave
+        // little of the list, in that of the total.
         Rectangle {
             id: floating
             z: 1
             readonly property real sideRoom: (parent.width - Theme.contentWidth) / 2
-            readonly property bool beside: sideRoom >= buttons.width + 2 * Theme.gap
-            readonly property bool docked: parent.width < 300 * Theme.textScale
+            readonly property bool beside: sideRoom >= 56 + 2 * Theme.gap
+            readonly property bool inFoot: !beside && page.results.showContinueButton && page.height < 640 * Math.min(1.5, Theme.textScale)
             objectName: "floatingBar"
-            // A bar of its own gives way to the total: both would leave nothing of the list.
-            visible: page.results.showsFloatingBar && !(docked && page.results.showContinueButton)
-            anchors.right: beside ? parent.right : undefined
-            anchors.rightMargin: sideRoom - width - Theme.gap
-            anchors.horizontalCenter: beside ? undefined : parent.horizontalCenter
+            visible: page.results.showsFloatingBar && !inFoot
+            anchors.right: parent.right
+            anchors.rightMargin: beside ? sideRoom - width - Theme.gap : 0
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: page.footShown + (docked ? 0 : Theme.gap)
-            width: docked ? parent.width : buttons.width
-            height: docked ? buttons.height + 8 : buttons.height
-            color: docked ? Theme.canvasColor : "transparent"
-            Rectangle { visible: floating.docked; width: parent.width; height: 1; color: Theme.hairlineColor }
-            Grid {
-                id: buttons
-                anchors.centerIn: parent
-                columns: floating.docked ? 2 : 1
-                spacing: 8
-                FloatingButton {
-                    objectName: "scrollUp"
-                    visible: page.results.showsScrollUp
-                    iconName: "scrollupIcon"
-                    label: Words.resultsBackToTop
-                    onClicked: page.results.scrollUp()
-                }
-                FloatingButton {
-                    objectName: "filter"
-                    visible: page.results.showsFloatingBar
-                    iconName: "filterIcon"
-                    label: page.results.filterIsOn ? Words.filterIsOn : Words.filterIsOff
-                    on: page.results.filterIsOn
-                    onClicked: page.results.openFilter()
-                }
+            anchors.bottomMargin: page.footShown + (beside ? Theme.gap : 0)
+            width: beside ? buttons.width : parent.width
+            height: buttons.height + (beside ? 0 : 8)
+            color: beside ? "transparent" : Theme.canvasColor
+            Rectangle { visible: !floating.beside; width: parent.width; height: 1; color: Theme.hairlineColor }
+        }
+        Grid {
+            id: buttons
+            parent: floating.inFoot ? foot.leading : floating
+            anchors { horizontalCenter: parent.horizontalCenter; verticalCenter: parent.verticalCenter }
+            // In a bar the filter stays in the middle, whatever comes and goes beside it.
+            anchors.horizontalCenterOffset: floating.beside || floating.inFoot || !scrollUp.visible ? 0 : -(scrollUp.width + spacing) / 2
+            columns: floating.beside ? 1 : 2
+            spacing: floating.inFoot ? 4 : 8
+            FloatingButton {
+                id: scrollUp
+                objectName: "scrollUp"
+                visible: page.results.showsScrollUp
+                compact: !floating.beside
+                iconName: "scrollupIcon"
+                label: Words.resultsBackToTop
+                onClicked: page.results.scrollUp()
+            }
+            FloatingButton {
+                id: filter
+                objectName: "filter"
+                visible: page.results.showsFloatingBar
+                compact: !floating.beside
+                text: compact && !floating.inFoot ? Words.filterIsOff : ""
+                iconName: "filterIcon"
+                label: page.results.filterIsOn ? Words.filterIsOn : Words.filterIsOff
+                on: page.results.filterIsOn
+                onClicked: page.results.openFilter()
             }
         }
         FootBar {
@@ -95,6 +106,7 @@ FocusScope {
             objectName: "total"
             z: 2
             terse: page.cramped
+            leadingWidth: floating.inFoot ? buttons.width : 0
             property real arrival: page.results.showContinueButton ? 1 : 0
             y: parent.height - page.footShown
             width: parent.width
@@ -118,7 +130,7 @@ FocusScope {
             z: 2
             anchors {
                 bottom: parent.bottom
-                bottomMargin: page.footShown + Theme.gap
+                bottomMargin: page.barsShown + Theme.gap
                 horizontalCenter: parent.horizontalCenter
             }
             width: Math.min(parent.width - 2 * Theme.margin, Theme.contentWidth)
