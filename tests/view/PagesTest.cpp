@@ -29,6 +29,11 @@ std::string spoken(Window& window, const char* name) {
     return accessible != nullptr ? accessible->text(QAccessible::Name).toStdString() : "nothing";
 }
 
+void keepPicture(Window& window, const QString& name) {
+    if (const char* folder = std::getenv("OMBRIVANE_PICTURES"); folder != nullptr)
+        window.window().grabWindow().save(QString("%1/%2.png").arg(folder, name));
+}
+
 /// Of the form's fields those of these names are marked, in colour and in words.
 void expectMarked(Window& window, const std::set<std::string>& names) {
     for (const char* name : {"origin", "destination", "departureDate", "nationality", "travellers"}) {
@@ -69,6 +74,7 @@ TEST(PagesTest, theSearchFormAnswersClicks) {
     MainViewModel::shared().departCity = "Kathmandu";
     MainViewModel::shared().departCityCode = "KTM";
     expectMarked(window, {"destination", "departureDate", "nationality"});
+    keepPicture(window, "form-marked");
     EXPECT_EQ(spoken(window, "origin"), "Enter Origin, Kathmandu");
 
     window.click("tab2"); // not available: the form stays
@@ -124,6 +130,7 @@ TEST(PagesTest, TheSearchButtonIsInReachAtEverySize) {
             EXPECT_TRUE(isInside(window, *field)) << name;
             EXPECT_TRUE(look.twoColumns || placeOf(*field).bottom() <= placeOf(*search).top()) << name;
         }
+        keepPicture(window, QString("form-%1-%2").arg(look.width).arg(look.textScale));
         // By the keys through the whole form.
         int fields = 0;
         for (int i = 0; i < 20; ++i) {
@@ -393,8 +400,7 @@ TEST(PagesTest, WhatIsAwaitedIsShownAsShapesAndEachLegHasItsLine) {
         if (name == "ticket-awaited") expectNoSample(window, "Booking Confirmed");
         if (name == "details") expectLegsWithLines(window, 2);
         ++looks;
-        if (const char* folder = std::getenv("OMBRIVANE_PICTURES"); folder != nullptr)
-            window.window().grabWindow().save(QString("%1/%2.png").arg(folder, name.c_str()));
+        keepPicture(window, name.c_str());
     });
     EXPECT_EQ(looks, 7);
 }

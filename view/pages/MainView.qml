@@ -23,8 +23,9 @@ Item {
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     Icon {
+        // Its plane flies free of the cards.
         x: -Theme.safeLeft
-        y: -Theme.safeTop
+        y: (page.twoColumns ? header.height / 2 - 0.148 * width : 0) - Theme.safeTop
         width: parent.width + Theme.safeLeft + Theme.safeRight
         height: width * 360 / 640
         name: "cloudBackground"
