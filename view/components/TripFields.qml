@@ -9,8 +9,7 @@ ColumnLayout {
     required property SearchFormAdapter screen
 
     function firstMissing(): Item {
-        const fields = [departure, returning, nationality]
-        return fields.find(field => field.visible && field.missing) ?? null
+        return departure.missing ? departure : returning.missing ? returning : nationality.missing ? nationality : null
     }
 
     spacing: Theme.gap
