@@ -62,7 +62,7 @@ ResultsContent {
         coveredBottom: page.bottomInset
         Accessible.name: page.screen.title
         anchors.fill: parent
-        // Until the customer scrolls, the list stays at its top while header, strip and insets take their places.
+        // Until the customer scrolls or goes on by keys, the list stays at its top while header, strip and insets take their places.
         property bool pinned: true
         function pin() { if (pinned) contentY = originY - topMargin }
         topMargin: page.topInset
@@ -121,6 +121,7 @@ ResultsContent {
                 onPressed: list.currentIndex = place.index
             }
         }
+        onCurrentIndexChanged: if (activeFocus) pinned = currentIndex === 0
         onOriginYChanged: pin()
         onTopMarginChanged: pin()
         onContentHeightChanged: pin()
