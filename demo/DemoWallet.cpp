@@ -93,7 +93,6 @@ void DemoWallet::installPlatform() {
 
 void DemoWallet::makeWindow() {
     engine_ = std::make_unique<QQmlApplicationEngine>();
-    engine_->addImportPath("qrc:/com.framework.Ombrivane/qml");
     engine_->addImportPath("qrc:/com.framework.Ombrivane/demo");
     engine_->setInitialProperties(
         {{"balance", options_.walletBalance}, {"width", options_.width}, {"height", options_.height}});

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The wallet's own page, drawn like the component: a balance, one tile, the receipts.
 ThemedScope {

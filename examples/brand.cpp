@@ -16,7 +16,6 @@ int main(int count, char** values) {
     int result = 1;
     {
         QQmlApplicationEngine engine;
-        engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
         engine.load(QUrl("qrc:/wallet/" EXAMPLE_WALLET ".qml"));
         if (engine.rootObjects().isEmpty()) return 1;
         if (count > 3)

@@ -32,7 +32,6 @@ int main(int count, char** values) {
     int result = 1;
     {
         QQmlApplicationEngine engine;
-        engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
         engine.loadData(wallet);
         if (engine.rootObjects().isEmpty()) return 1;
         if (count > 3)

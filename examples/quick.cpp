@@ -23,9 +23,8 @@ int main(int count, char** values) {
     });
 
     QQuickView window;
-    window.engine()->addImportPath("qrc:/com.framework.Ombrivane/qml");
     window.setResizeMode(QQuickView::SizeRootObjectToView);
-    window.setSource(QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/OmbrivaneView.qml"));
+    window.setSource(QUrl("qrc:/qt-project.org/imports/Ombrivane/OmbrivaneView.qml"));
     auto* session = window.findChild<ombrivane::view::OmbrivaneSession*>();
     session->clientId = "wallet";
     session->clientSecret = "wallet-secret";

@@ -28,9 +28,8 @@ int main(int count, char** values) {
     QVBoxLayout layout(&wallet);
     QLabel balance("Balance: NPR 250,000");
     QQuickWidget flights;
-    flights.engine()->addImportPath("qrc:/com.framework.Ombrivane/qml");
     flights.setResizeMode(QQuickWidget::SizeRootObjectToView);
-    flights.setSource(QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/OmbrivaneView.qml"));
+    flights.setSource(QUrl("qrc:/qt-project.org/imports/Ombrivane/OmbrivaneView.qml"));
     layout.addWidget(&balance);
     layout.addWidget(&flights, 1);
     auto* session = flights.rootObject()->findChild<ombrivane::view::OmbrivaneSession*>();

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // Shows the stack of screens. What is covered takes no input and is told to nobody.
 FocusScope {

@@ -25,7 +25,6 @@ Window {
 } // namespace
 
 Scene::Scene() {
-    engine_.addImportPath("qrc:/com.framework.Ombrivane/qml");
     QQmlComponent component(&engine_);
     component.setData(source, QUrl("qrc:/bench/Scene.qml"));
     root_.reset(component.create());

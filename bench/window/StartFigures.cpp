@@ -109,7 +109,6 @@ void startOnce(const QString& kind) {
     Device device;
     if (kind == "awaited") device.service().setFaults({"/get-token latency=300"});
     QQmlEngine engine;
-    engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
     const Start figures = start(engine, kind == "bare" ? bareWindow : componentWindow);
     fmt::print("{:.3f} {:.3f} {:.3f} {:.3f}\n",
                figures.firstFrame,

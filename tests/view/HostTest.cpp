@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QQmlComponent>
 #include <QTest>
 
@@ -177,9 +178,7 @@ public:
             if (kind == itemSignals) item_.release()->deleteLater();
             item_.reset();
         };
-        engine_.addImportPath("qrc:/com.framework.Ombrivane/qml");
-        QQmlComponent component(&engine_,
-                                QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/OmbrivaneView.qml"));
+        QQmlComponent component(&engine_, QUrl("qrc:/qt-project.org/imports/Ombrivane/OmbrivaneView.qml"));
         item_.reset(component.create());
         session = item_->findChild<OmbrivaneSession*>();
         session->clientId = "wallet";
@@ -227,7 +226,6 @@ TEST(HostTest, ACppHostMayDropDestroyAndOpenAgainInsideOfTheCallbackAndEverySign
 
 TEST(HostTest, AbsentAndEmptyAreToldApart) {
     QQmlEngine engine;
-    engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
     const auto given = [&engine](const char* properties) {
         QQmlComponent component(&engine);
         component.setData(QByteArray("import Ombrivane\nOmbrivaneView {") + properties + "}",
@@ -259,6 +257,64 @@ TEST(HostTest, AbsentAndEmptyAreToldApart) {
     bound->setProperty("known", QVariant());
     EXPECT_EQ(sessionOf(bound).phone, std::nullopt);
     EXPECT_EQ(sessionOf(bound).walletBalance, std::nullopt);
+}
+
+TEST(HostTest, TheImportBringsTheNamesOfTheWalletsSideAndNoOther) {
+    QQmlEngine engine;
+    const auto isKnown = [&engine](const QByteArray& line) {
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport Ombrivane\nItem {" + line + "}", QUrl());
+        return component.isReady();
+    };
+    for (const char* name : {"OmbrivaneView", "OmbrivaneSession", "Appearance", "Reservations", "HostEvents"})
+        EXPECT_TRUE(isKnown(QByteArray("Component {") + name + " {} }")) << name;
+    EXPECT_TRUE(isKnown("property int kind: ErrorKind.TimedOut"));
+
+    QFile table(":/qt-project.org/imports/Ombrivane/Private/qmldir");
+    ASSERT_TRUE(table.open(QFile::ReadOnly));
+    QByteArrayList names{"Theme", "ThemedScope", "Words", "StageModel", "Icon", "Picture", "Announcement"};
+    for (const auto& line : table.readAll().split('\n')) {
+        const auto words = line.split(' ');
+        if (words.size() == 3 && words.at(2).endsWith(".qml")) names.append(words.at(0));
+    }
+    EXPECT_GT(names.size(), 80);
+    for (const auto& name : names)
+        EXPECT_FALSE(isKnown("Component {" + name + " {} }")) << name.toStdString();
+}
+
+TEST(HostTest, AWalletInQmlIsToldOfWhatHappensAndOfErrorsByTheirKind) {
+    WalkPorts ports;
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData(R"(
+import QtQuick
+import Ombrivane
+Item {
+    property var events: []
+    property var calls: []
+    property int kind: -1
+    property bool isRefusal: kind === ErrorKind.CredentialsRefused
+    property alias view: view
+    HostEvents {
+        onHappened: event => events = events.concat(event.event + " " + (event.closedBy ?? event.screen ?? ""))
+        onCallEnded: call => calls = calls.concat(call.endpoint + " " + call.status + " " + call.error)
+    }
+    OmbrivaneView {
+        id: view
+        clientId: "wallet"; clientSecret: "wrong"
+        onFailed: (message, domain, code, kind) => parent.kind = kind
+        Component.onCompleted: open()
+    }
+})",
+                      QUrl());
+    const std::unique_ptr<QObject> item(component.create());
+    ASSERT_NE(item, nullptr) << component.errorString().toStdString();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item->property("kind").toInt() >= 0; }, 20000));
+    EXPECT_TRUE(item->property("isRefusal").toBool()) << item->property("kind").toInt();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !item->property("calls").toList().isEmpty(); }, 20000));
+    EXPECT_EQ(item->property("events").toStringList(),
+              (QStringList{"opened ", "screenShown OmbrivaneView", "closed error"}));
+    EXPECT_EQ(item->property("calls").toStringList(), QStringList{"/get-token 200 credentialsRefused"});
 }
 
 } // namespace

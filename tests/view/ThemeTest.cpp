@@ -34,7 +34,8 @@ TEST(ThemeTest, EachFaceHasTheLettersOfLatinNamesAndTheSignsOfTexts) {
     for (char16_t letter = 0x1ea0; letter <= 0x1ef9; ++letter) // of Vietnamese names
         wanted += QChar(letter);
     wanted += u"ǎǐǒǔǖșțȘȚǍẞẀẁẂẃẄẅỲỳ\u0300\u0301\u0302\u0303\u0308\u030a\u030c\u0327\u0328";
-    wanted += u"₹€£¥¢₽₩₪₫฿₺«»‹›“”„‘’‚–—…•·°×−±§©®™№½¼¾←→↑↓≤≥≠≈¡"
+    wanted += u"₹€£¥¢₽₩₪₫฿₺«»‹›“”„‘’‚–—…•·°×−±§©®™№½¼¾←→↑↓≤≥≠≈"
+              u"¡"
               u"¿";
     for (const char* name : {"Light", "Regular", "Medium", "SemiBold"}) {
         QFile file(QString(":/com.framework.Ombrivane/fonts/FiraSans-%1.ttf").arg(name));
@@ -264,7 +265,6 @@ TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
 
 TEST(ThemeTest, ATableRefusesARoleThatThereIsNot) {
     QQmlEngine engine;
-    engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
     for (const char* line : {"light.primary: 'red'", "cornerRadius: 4", "fontFaces: ['qrc:/brand.ttf']"}) {
         QQmlComponent component(&engine);
         component.setData(QByteArray("import Ombrivane\nAppearance {") + line + "}", QUrl());
@@ -289,7 +289,6 @@ struct DeviceKept {
 
 TEST(ThemeTest, AViewFollowsTheDeviceUnlessItsHostSaysOtherwise) {
     QQmlEngine engine;
-    engine.addImportPath("qrc:/com.framework.Ombrivane/qml");
     const auto make = [&engine](const char* properties) {
         QQmlComponent component(&engine);
         component.setData(QByteArray("import Ombrivane\nOmbrivaneView {") + properties + "}", QUrl());

@@ -51,7 +51,6 @@ Window::Window(int width, int height) : Window(source, width, height) {
 Window::Window(const char* wallet, int width, int height) {
     collected = &warnings_;
     qInstallMessageHandler(collect);
-    engine_.addImportPath("qrc:/com.framework.Ombrivane/qml");
     QQmlComponent component(&engine_);
     component.setData(wallet, QUrl("qrc:/test/Window.qml"));
     root_.reset(component.create());

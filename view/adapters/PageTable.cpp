@@ -105,7 +105,7 @@ std::unique_ptr<ScreenAdapter> makeAdapter(const std::shared_ptr<Screen>& screen
 QUrl pageOf(const Screen& screen) {
     const char* page = rowOf(screen).page;
     if (page == nullptr) return {};
-    return QUrl("qrc:/com.framework.Ombrivane/qml/Ombrivane/pages/" + QString(page) + ".qml");
+    return QUrl("qrc:/qt-project.org/imports/Ombrivane/Private/pages/" + QString(page) + ".qml");
 }
 
 } // namespace ombrivane::view

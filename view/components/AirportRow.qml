@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One airport: city and country, code, name.
 ListEntry {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What may be carried along: an icon and a weight.
 Row {

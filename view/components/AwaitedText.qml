@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // Shapes of a text that is not there yet, under the shimmer; `lines` are the lengths of its lines in parts of the width.
 Shimmer {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // A card of a page with its title; what it holds stands one below the other, as shapes while it is awaited.
 Rectangle {

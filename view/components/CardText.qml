@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A text of a card, which its control reads out as a whole.
 PlainText {

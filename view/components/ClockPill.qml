@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
-import Ombrivane
+import Ombrivane.Private
 
 // The time that the price is held, with a ring that empties; in the last minute in the colour of what asks for a look, announced once.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One line of what is to be filled in: done with a tick, to do with the way to it, marked where it was left out.
 Pressable {

@@ -1,6 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The part of a picture that is kept, in a frame whose corners are dragged or moved by the arrow keys.
 Item {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A field for a date within limits, which are told as "yyyy-MM-dd"; it shows the date as `value`.
 FieldButton {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The sheet of whichever date field was opened last. What lies below takes no input while it is `shown`.
 FocusScope {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // Three wheels for a date within its limits.
 Sheet {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A travel date with the day before and the day after.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One day of a month: chosen days are filled and bold, the days between them lie on a band. A month has many days, of
 // which few are more than their number: what lies under it is made for those alone.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // Dims what lies below, to the edges of the stage, and takes its taps.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A finger that comes from the leading edge takes the page in front away, as the page's own control back does, and only
 // while that control does. The page follows the finger.

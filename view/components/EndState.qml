@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // Where a page has come to an end: one picture, a title, one sentence and one action. It is said aloud.
 Flickable {

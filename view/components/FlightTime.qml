@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // When and where a journey starts or ends, and how many days later that is.
 Item {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A round control of a list, or with a word a pill; a dot marks what is on.
 Pressable {

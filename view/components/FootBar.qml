@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The bar at the foot of a page: what was chosen so far, and the action that goes on with it.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A text of a row in which what was looked for is underlined. The row reads it out as a whole.
 PlainText {

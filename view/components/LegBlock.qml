@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One leg of the flight details, with the connection before it. Placed by hand: nested layouts keep the heights that
 // their texts had before they got their width.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The mark of an airline; a plane stands in its place until it has arrived.
 Item {

@@ -1,6 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One month: its title and its days in seven columns.
 Column {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What the customer should know before going on, and has nothing to do about: said once, and then it stays. A part of
 // it may be struck through.

@@ -1,6 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One offer: a tap chooses it and unfolds its segments, another takes both back.
 ListEntry {

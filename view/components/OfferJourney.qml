@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One journey of an offer card: airline and price, times around the plane on its line, dates, what is included.
 // Placed by hand: a card is laid out anew for each row that comes into view, and layouts would be most of that.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The unfolded segments of a journey, as a vertical line with dots at the airports and breaks at the connections.
 Rectangle {

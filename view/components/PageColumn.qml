@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The scrolling content of a page, at most as wide as reads well. What has the focus stays in view.
 Flickable {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A control that leaves, and the title. One that takes much of its page goes away as the page is `scrolled`.
 Rectangle {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The wallet payment in place of a session's cards. As long as no order tells of itself, the booking that was opened does.
 PageColumn {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A field for one end of a journey: the city large with the code of its airport, whose name stands beneath.
 FieldFrame {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // From where and to where, with the control between them that exchanges the two.
 Rectangle {

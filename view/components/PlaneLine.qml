@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The plane over its line, straight for a direct flight and dotted for a connection, with a mark for each connection.
 Item {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // Something is under way; told to assistive technology as well.
 Item {

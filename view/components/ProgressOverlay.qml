@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // Something is under way and nothing else can be done meanwhile.
 Item {

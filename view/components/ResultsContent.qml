@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What stands below the header of a result list: it reaches under the header and the bars, and keeps clear of them.
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // Over a result list: the route, which goes away as the list is scrolled, and the dates, which stay.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What both result lists share: header, the part that changes, the floating controls, the total and the message.
 FocusScope {

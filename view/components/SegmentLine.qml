@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // One segment: its carrier, the two airports on a line, and the connection that follows.
 Column {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A sheet from the foot of the stage: handle, content, the rest dims. It takes the focus when it opens. A swipe, a tap
 // outside, its control, Escape and Back close it; a tap inside does not.

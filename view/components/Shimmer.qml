@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What is not there yet: shapes stand in the places of the content, and a band of light sweeps over them from before
 // their leading edge to beyond their trailing one.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A message that comes from the lower edge and goes by itself.
 Item {

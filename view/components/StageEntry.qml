@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One screen of the stack: a pushed page slides in and fills the stage, a sheet or an alert lies over what is there. It
 // keeps clear of notches, of bars and, in front, of the keyboard; the ground of a page runs under all of these.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A tab of a choice in steps: what it leads to, and beneath it what was chosen there, with a tick, or that it is to be chosen.
 MarkedTab {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // An airline with a price, which leads to its offer in the list below.
 ListEntry {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The tabs of the search; the highlight slides to the chosen one.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // At the foot of a page that shows shapes: what they stand for. It comes with its words.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What is waited for and, when it takes long, the way out, which is said aloud once.
 Column {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // Says its text aloud when it changes, and is found by assistive technology as long as it has one.
 Announcement {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One of a few choices that exclude each other.
 MarkedRadio {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
-import Ombrivane
+import Ombrivane.Private
 
 // The picture of a document as a field: the outline of a page while there is none, then the picture itself. A tap picks
 // one, or another.

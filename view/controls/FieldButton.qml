@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A field of a form that opens something: its placeholder rises to a label once it has a value.
 FieldFrame {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // What fields share that open something: frame, mark and name; whoever extends it gives it its content.
 Pressable {

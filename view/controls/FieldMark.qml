@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // At the end of a field: whether it is missing or in order.
 Icon {

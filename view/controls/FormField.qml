@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Ombrivane
+import Ombrivane.Private
 
 // A field that the customer types into: its placeholder rises to a label once it has a value, and a marked one also
 // shows an icon and says that it is missing.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // An icon as a control: 24 points in a target of 48.
 Pressable {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // An icon that leads out of the component. By hand, since no template of the toolkit is told as a link.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A list that is one stop of the Tab key: arrow keys go from row to row, Page Up and Page Down by what is in sight, Home
 // and End to the first and the last. Only its current row takes the focus: `focusPolicy` of a row asks `isCurrentItem`.

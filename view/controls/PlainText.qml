@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The one text item of all pages: what comes from outside is never read as markup.
 Text {

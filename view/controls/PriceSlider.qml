@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Ombrivane
+import Ombrivane.Private
 
 // A ceiling between two bounds.
 T.Slider {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Ombrivane
+import Ombrivane.Private
 
 // A line in which the customer types what to look for.
 T.TextField {

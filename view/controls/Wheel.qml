@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // A wheel of entries of which the one in the middle is chosen: by a flick, a tap on an entry, or the arrow keys.
 ListView {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // One entry of a wheel, which reads it out as a whole.
 PlainText {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // A booking session: route and clock stay on top, the cards in reading order, the total and Continue at the foot.
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The domestic results: on a round trip two tabs, the way out and the way back.
 ResultsPage {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // What narrows a result list; nothing is filtered before it is applied.
 Sheet {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The first screen: title bar, tab bar and the form of the chosen tab. Where there is width, from where and to where stand
 // beside when and for whom.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // No offer exists, or the filter left none.
 EmptyState {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The search failed for connectivity, and is sent once more by its control or by a step of the date.
 EmptyState {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The offers of one direction, with the strip of airlines above them.
 ResultsContent {

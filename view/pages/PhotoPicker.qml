@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Dialogs
 import QtQuick.Layouts
-import Ombrivane
+import Ombrivane.Private
 
 // The picker of a desktop: a file, then the part of it that is kept.
 Sheet {

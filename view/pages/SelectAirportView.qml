@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The choice of an airport, for the origin and for the destination.
 Item {

@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The choice of the travel dates, for one way and for a round trip: six months under the fixed names of the days.
 FocusScope {

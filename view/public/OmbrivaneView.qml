@@ -1,5 +1,5 @@
 import QtQuick
-import Ombrivane
+import Ombrivane.Private
 
 // The component as one item: give it its arguments, and `open` shows it.
 ThemedScope {
