@@ -44,12 +44,12 @@ protected:
                                     [this](const EndedCall& call) { calls_.push_back(call.json()); });
 };
 
-using Words = std::vector<std::string>;
+using Told = std::vector<std::string>;
 
 TEST_F(EventsTest, ABookingTellsItsStationsInTheirOrder) {
     wallet.wholeRoad();
     expectOneOpening();
-    Words screens;
+    Told screens;
     for (const Event& event : events_) {
         if (event.kind == EventKind::screenShown) screens.push_back(event.screen);
     }
@@ -58,17 +58,17 @@ TEST_F(EventsTest, ABookingTellsItsStationsInTheirOrder) {
     EXPECT_EQ(std::count(screens.begin(), screens.end(), "OWBookingDetailsView"), 3)
         << "come to, and come back to from two forms";
     EXPECT_EQ(told(),
-              (Words{"opened",
-                     "searchSent",
-                     "searchAnswered 1",
-                     "bookingOpened",
-                     "fareMoved 1000 115889",
-                     "reservationSent",
-                     "reservationAnswered",
-                     "uploadSent",
-                     "uploadAnswered",
-                     "closed reservation"}));
-    Words endpoints;
+              (Told{"opened",
+                    "searchSent",
+                    "searchAnswered 1",
+                    "bookingOpened",
+                    "fareMoved 1000 115889",
+                    "reservationSent",
+                    "reservationAnswered",
+                    "uploadSent",
+                    "uploadAnswered",
+                    "closed reservation"}));
+    Told endpoints;
     for (const Json& call : calls_) {
         endpoints.push_back(call["endpoint"]);
         EXPECT_GT(call["bytes"].get<std::size_t>(), 0U);
@@ -93,7 +93,7 @@ TEST_F(EventsTest, AReservationWhoseAnswerSaysNothingIsUnknown) {
     for (const auto& row : rows) {
         wallet.tap("continue");
         row.answer();
-        EXPECT_EQ(told(), (Words{"reservationSent", row.told}));
+        EXPECT_EQ(told(), (Told{"reservationSent", row.told}));
     }
     EXPECT_EQ(calls_.back()["error"], "answerNotUnderstood");
 }
@@ -101,20 +101,20 @@ TEST_F(EventsTest, AReservationWhoseAnswerSaysNothingIsUnknown) {
 TEST_F(EventsTest, TheEndSaysWhoseDoingItWas) {
     wallet.show();
     wallet.fail();
-    EXPECT_EQ(told(), (Words{"opened", "closed error timedOut"}));
+    EXPECT_EQ(told(), (Told{"opened", "closed error timedOut"}));
     const std::string first = HostEvents::shared().opening();
 
     wallet.show();
     EXPECT_NE(HostEvents::shared().opening(), first);
     wallet.answer();
     wallet.tap("back");
-    EXPECT_EQ(told(), (Words{"opened", "closed customer"}));
+    EXPECT_EQ(told(), (Told{"opened", "closed customer"}));
 
     wallet.show();
     wallet.drop();
-    EXPECT_EQ(told(), (Words{"opened", "closed host"})) << "once";
+    EXPECT_EQ(told(), (Told{"opened", "closed host"})) << "once";
     wallet.settle();
-    EXPECT_EQ(told(), Words{});
+    EXPECT_EQ(told(), Told{});
 }
 
 TEST_F(EventsTest, WhatIsReservedAfterTheViewHasGoneBelongsToItsOpening) {
@@ -128,14 +128,14 @@ TEST_F(EventsTest, WhatIsReservedAfterTheViewHasGoneBelongsToItsOpening) {
     ASSERT_FALSE(events_.empty());
     for (const Event& event : events_)
         EXPECT_EQ(event.opening, opening) << nameOf(event.kind);
-    EXPECT_EQ(told(), (Words{"reservationAnswered", "uploadSent", "uploadAnswered"}));
+    EXPECT_EQ(told(), (Told{"reservationAnswered", "uploadSent", "uploadAnswered"}));
 }
 
 TEST_F(EventsTest, TheExpiryIsToldOnce) {
     wallet.toSession();
     told();
     world.pass(std::chrono::seconds(700));
-    EXPECT_EQ(told(), Words{"expired"});
+    EXPECT_EQ(told(), Told{"expired"});
 }
 
 TEST_F(EventsTest, AListenerThatThrowsOrHasGoneDisturbsNobody) {

@@ -136,7 +136,9 @@ void expectSound(Window& window) {
     }
     expectApart(texts);
     // What is under way takes no input.
-    if (window.item("progress") == nullptr) EXPECT_GT(controls, 0);
+    if (window.item("progress") == nullptr) {
+        EXPECT_GT(controls, 0);
+    }
 }
 
 } // namespace ombrivane::view
