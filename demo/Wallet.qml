@@ -1,5 +1,6 @@
 import QtQuick
 import Ombrivane
+import Ombrivane.Private
 
 // The demo's own window: the wallet's page, and the component over it while it is open.
 Window {

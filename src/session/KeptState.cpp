@@ -119,7 +119,7 @@ std::optional<KeptState> KeptState::read(const std::string& state) {
     constexpr std::size_t checkLength = 16;
     if (!state.starts_with(head) || state.size() <= head.size() + checkLength) return std::nullopt;
     const std::string text = state.substr(head.size() + checkLength + 1);
-    if (state.compare(head.size(), checkLength, checkOf(text)) != 0) return std::nullopt;
+    if (state.compare(head.size(), checkLength + 1, checkOf(text) + " ") != 0) return std::nullopt;
     try {
         Json kept = Json::parse(text);
         check(kept);

@@ -94,7 +94,7 @@ TEST_P(KeptStateTest, WhatIsDamagedOrAnotherVersionsIsRefused) {
 }
 
 TEST_P(KeptStateTest, TheNextCustomerFindsNothingOfTheLast) {
-    wallet.balance = 7;
+    wallet.balance = 1e9;
     wallet.toSession();
     wallet.drop();
     OmbrivaneView::forget();
