@@ -34,10 +34,8 @@ TEST(ThemeTest, EachFaceHasTheLettersOfLatinNamesAndTheSignsOfTexts) {
     for (char16_t letter = 0x1ea0; letter <= 0x1ef9; ++letter) // of Vietnamese names
         wanted += QChar(letter);
     wanted += u"ǎǐǒǔǖșțȘȚǍẞẀẁẂẃẄẅỲỳ\u0300\u0301\u0302\u0303\u0308\u030a\u030c\u0327\u0328";
-    wanted += u"₹€£¥¢₽₩₪₫฿₺«»‹›“”„‘’‚–—…•·°×−±§©®™№½¼¾←→↑↓≤≥≠"
-              u"≈"
-              u"¡"
-              u"¿";
+    wanted += u"₹€£¥¢₽₩₪₫฿₺«»‹›“”„‘’‚–—…";
+    wanted += u"•·°×−±§©®™№½¼¾←→↑↓≤≥≠≈¡¿";
     for (const char* name : {"Light", "Regular", "Medium", "SemiBold"}) {
         QFile file(QString(":/com.framework.Ombrivane/fonts/FiraSans-%1.ttf").arg(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));

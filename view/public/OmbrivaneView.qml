@@ -25,8 +25,8 @@ ThemedScope {
 
     function open() { session.open() }
     function drop() { session.drop() }
-    function saveState() { return session.saveState() }
-    function restoreState(state) { return session.restoreState(state) }
+    function saveState(): string { return session.saveState() }
+    function restoreState(state: string): bool { return session.restoreState(state) }
     function forget() { session.forget() }
 
     OmbrivaneSession {
