@@ -12,6 +12,8 @@ install(FILES ${PROJECT_BINARY_DIR}/OmbrivaneConfig.cmake ${PROJECT_BINARY_DIR}/
 install(EXPORT OmbrivaneCore NAMESPACE Ombrivane:: DESTINATION ${package_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
     DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# Where it is unpacked to is found from where it lies.
+file(RELATIVE_PATH from_pkgconfig_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/ombrivane-core.pc.in ${PROJECT_BINARY_DIR}/ombrivane-core.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/ombrivane-core.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 include(Sbom)
