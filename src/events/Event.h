@@ -42,7 +42,7 @@ enum class ClosedBy : std::uint8_t {
 /// Something that happened, for a host's own figures and logs: no name, number, address, word or token of a
 /// customer is in it.
 struct OMBRIVANE_API Event {
-    EventKind kind = EventKind::opened;
+    EventKind kind = EventKind::opened;                 ///< what happened
     std::string opening = {};                           ///< the same for all events of one opening
     std::string screen = {};                            ///< as `docs/screens.md` names it
     std::optional<std::size_t> offers = {};             ///< how many came; of a special round both ways

@@ -17,11 +17,11 @@ public:
     /// Of `item`, which outlives this.
     explicit DeviceInsets(QQuickItem& item);
 
-    const Insets& insets() const { return insets_; }
+    const Insets& insets() const { return insets_; } ///< as they were read last
     /// Looks again; for what tells nobody when it changes, such as the place of the item.
     void read();
 
-    Q_SIGNAL void changed();
+    Q_SIGNAL void changed(); ///< other ones were read
 
 private:
     void watch(QQuickWindow* window);

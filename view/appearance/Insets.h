@@ -7,10 +7,10 @@ namespace ombrivane::view {
 /// How much of the sides of a view is not its own, in points: notches and bars, and at the lower end the
 /// keyboard on the screen.
 struct Insets {
-    double left = 0;
-    double top = 0;
-    double right = 0;
-    double bottom = 0;
+    double left = 0;     ///< in points
+    double top = 0;      ///< in points
+    double right = 0;    ///< in points
+    double bottom = 0;   ///< in points
     double keyboard = 0; ///< from the view's lower end upwards, what `bottom` tells included
 
     /// Member by member.

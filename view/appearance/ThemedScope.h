@@ -126,7 +126,7 @@ public:
     Q_SIGNAL void insetsChanged();
 
 protected:
-    void geometryChange(const QRectF& now, const QRectF& before) override;
+    void geometryChange(const QRectF& now, const QRectF& before) override; ///< the insets follow
 
 private:
     /// What the host has said, and what else the device says.
