@@ -314,7 +314,7 @@ Item {
     ASSERT_TRUE(QTest::qWaitFor([&] { return !item->property("calls").toList().isEmpty(); }, 20000));
     EXPECT_EQ(item->property("events").toStringList(),
               (QStringList{"opened ", "screenShown OmbrivaneView", "closed error"}));
-    EXPECT_EQ(item->property("calls").toStringList(), QStringList{"/get-token 200 credentialsRefused"});
+    EXPECT_EQ(item->property("calls").toStringList(), QStringList{"/get-token 401 credentialsRefused"});
 }
 
 } // namespace
