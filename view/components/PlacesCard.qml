@@ -38,7 +38,13 @@ Rectangle {
             mark: card.screen.originIsMissing ? "primaryColor" : "formBorderColor"
             onClicked: card.screen.tapOrigin()
         }
-        Rectangle { Layout.fillWidth: true; Layout.leftMargin: 48; implicitHeight: 1; color: Theme.hairlineColor }
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.leftMargin: 48
+            Layout.rightMargin: card.border.width
+            implicitHeight: 1
+            color: Theme.hairlineColor
+        }
         PlaceField {
             id: destination
             objectName: "destination"
