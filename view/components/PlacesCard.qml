@@ -41,7 +41,7 @@ Rectangle {
         Rectangle {
             Layout.fillWidth: true
             Layout.leftMargin: 48
-            Layout.rightMargin: card.border.width
+            Layout.rightMargin: 1 // of the border
             implicitHeight: 1
             color: Theme.hairlineColor
         }
