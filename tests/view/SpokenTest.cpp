@@ -6,9 +6,12 @@
 #include <QAccessible>
 #include <QFile>
 #include <QMetaEnum>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QRegularExpression>
 
 #include <cstdlib>
+#include <memory>
 
 namespace ombrivane::view {
 namespace {
@@ -159,6 +162,41 @@ TEST(SpokenTest, EveryPageIsToldAsItIsKeptWheneverAssistiveTechnologyComes) {
         file.write(pages.toUtf8());
     else
         expectSame(pages, QString::fromUtf8(file.readAll()));
+}
+
+/// What becomes an offer while something covers it is told once nothing does; what is a shape by then is not.
+TEST(SpokenTest, WhatIsCoveredIsNotToldWhateverItBecomes) {
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData(R"(
+        import QtQuick
+        import Ombrivane.Private
+        Item {
+            id: page
+            property bool covered: true
+            Unspoken { item: page; when: page.covered }
+            component Row: Item {
+                property bool awaited
+                readonly property bool told: !Accessible.ignored
+                Accessible.role: Accessible.ListItem
+                Accessible.ignored: awaited
+            }
+            Row { objectName: "shape"; awaited: true }
+            Row { objectName: "offer"; awaited: false }
+        })",
+                      QUrl());
+    const std::unique_ptr<QObject> page(component.create());
+    ASSERT_NE(page, nullptr) << component.errorString().toStdString();
+    auto* shape = page->findChild<QObject*>("shape");
+    auto* offer = page->findChild<QObject*>("offer");
+    shape->setProperty("awaited", false);
+    offer->setProperty("awaited", true);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    EXPECT_FALSE(shape->property("told").toBool());
+    EXPECT_FALSE(offer->property("told").toBool());
+    page->setProperty("covered", false);
+    EXPECT_TRUE(shape->property("told").toBool());
+    EXPECT_FALSE(offer->property("told").toBool());
 }
 
 } // namespace

@@ -7,6 +7,7 @@ ListEntry {
     id: card
 
     required property OfferAdapter row
+    readonly property bool awaited: row.isPlaceholder
 
     objectName: "offer"
     implicitHeight: column.implicitHeight + 2 * Theme.gap
@@ -15,7 +16,7 @@ ListEntry {
     enabled: row.tapEnabled
     Accessible.name: row.label
     Accessible.description: row.detailsText
-    Accessible.ignored: row.isPlaceholder
+    Accessible.ignored: awaited
     onClicked: row.tap()
 
     background: Rectangle {
@@ -25,7 +26,7 @@ ListEntry {
         border.color: card.row.isChosen ? Theme.secondaryColor : Theme.hairlineColor
     }
     contentItem: Shimmer {
-        running: card.row.isPlaceholder
+        running: card.awaited
         Column {
             id: column
             x: Theme.margin

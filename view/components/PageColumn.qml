@@ -68,7 +68,7 @@ Flickable {
     // A field that grows, a message or a keyboard that comes, may cover it.
     onContentHeightChanged: if (!moving) reveals.restart()
     onHeightChanged: if (!moving) reveals.restart()
-    Timer {
+    Delay {
         id: reveals
         interval: 0
         onTriggered: area.revealFocus()

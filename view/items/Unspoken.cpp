@@ -48,9 +48,13 @@ void Unspoken::updateSoon() {
 
 void Unspoken::hush(QQuickItem& item) {
     watches_.push_back(connect(&item, &QQuickItem::childrenChanged, this, &Unspoken::updateSoon));
-    if (QObject* told = toldOf(item); told != nullptr && !told->property("ignored").toBool()) {
-        told->setProperty("ignored", true);
-        hushed_.emplace_back(told);
+    if (QObject* told = toldOf(item); told != nullptr) {
+        if (!told->property("ignored").toBool()) {
+            told->setProperty("ignored", true);
+            hushed_.emplace_back(told);
+        }
+        // A row that is used for another offer says anew whether it is told.
+        watches_.push_back(connect(told, SIGNAL(ignoredChanged()), this, SLOT(updateSoon())));
     }
     for (QQuickItem* child : item.childItems())
         hush(*child);

@@ -26,7 +26,7 @@ public:
 
 private:
     void update();
-    void updateSoon();
+    Q_SLOT void updateSoon();
     void hush(QQuickItem& item);
     void release();
 

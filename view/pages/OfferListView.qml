@@ -131,7 +131,7 @@ ResultsContent {
         }
         onMovementEnded: pinned = atYBeginning
     }
-    Timer {
+    Delay {
         id: arrival
         interval: 300
         running: !page.screen.isLoading

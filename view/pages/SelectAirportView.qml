@@ -36,7 +36,7 @@ Item {
             label: Words.loading
         }
         // An answer that comes at once wants no sign of having been awaited.
-        Timer {
+        Delay {
             id: patience
             property bool over: false
             interval: 500

@@ -139,7 +139,7 @@ Item {
         }
     }
     // Also while the message of an earlier refusal stands; the page has gone where nothing was refused.
-    Timer {
+    Delay {
         id: refusal
         interval: 0
         onTriggered: if (page.screen.showSnackBar) fields.showFirstMissing()
