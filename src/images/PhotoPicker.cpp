@@ -2,6 +2,7 @@
 
 #include "base/Attempted.h"
 #include "base/Fault.h"
+#include "keyed/Deeds.h"
 #include "platform/Platform.h"
 
 #include <memory>
@@ -21,6 +22,7 @@ void PhotoPicker::appear() {
 void PhotoPicker::disappear() { platform().photos->dismiss(); }
 
 void PhotoPicker::didFinishPicking(const PhotoLibrary::Picked& picked) {
+    Deeds::tell(*this, "picked", {!picked.cancelled});
     if (!picked.cancelled && picked.editedImage) {
         // A picture that cannot be compressed is none; the customer may pick another.
         std::optional<std::string> jpeg;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Fault.h"
+#include "keyed/Deeds.h"
 #include "keyed/Derived.h"
 #include "keyed/Fields.h"
 #include "keyed/Keyed.h"
@@ -32,7 +33,11 @@ public:
 
     void operator()(Arguments... arguments) {
         const auto hold = owner_.weak_from_this().lock();
-        if (isEnabled()) guarded([&] { run_(arguments...); });
+        if (!isEnabled()) return;
+        if (Deeds::areHeard())
+            Deeds::tell(owner_, key(), {Keyed<std::decay_t<Arguments>>::toJson(arguments)...});
+        const ActionUnderWay underWay;
+        guarded([&] { run_(arguments...); });
     }
 
     Json read() const override { return Json{{"enabled", isEnabled()}}; }

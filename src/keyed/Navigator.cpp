@@ -1,5 +1,7 @@
 #include "keyed/Navigator.h"
 
+#include "keyed/Deeds.h"
+
 #include <algorithm>
 
 namespace ombrivane {
@@ -67,6 +69,7 @@ std::vector<std::shared_ptr<Screen>> Navigator::withParts(const std::shared_ptr<
 
 bool Navigator::back() {
     if (stack_.size() < 2) return false;
+    if (Deeds::areHeard()) Deeds::tell(*top(), {});
     stack_.back().link->flag().set(false);
     return true;
 }

@@ -28,6 +28,7 @@ std::shared_ptr<Screen> Rows::row(std::size_t index) const {
     const auto held = std::make_shared<RowWithHosts>();
     held->row = make_(index);
     held->row->setHost(owner_.weak_from_this());
+    held->row->setPlace({key(), index});
     for (auto host = held->row->host(); host; host = host->host())
         held->hosts.push_back(host);
     return {held, held->row.get()};

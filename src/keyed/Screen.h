@@ -3,6 +3,7 @@
 #include "base/Api.h"
 #include "keyed/Fields.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -60,6 +61,16 @@ public:
     /// The screen inside of which this one is shown, nullptr for one on the stack itself.
     std::shared_ptr<Screen> host() const { return host_.lock(); }
 
+    /// Where a row stood in a list of its host when it was made.
+    struct Place {
+        std::string_view list = {}; ///< the key of the list; empty for what is no row
+        std::size_t index = 0;
+    };
+    /// For a list: where this row of it stands.
+    void setPlace(Place place) { place_ = place; }
+    /// Where this row was made.
+    const Place& place() const { return place_; }
+
     /// All that it holds and shows, by key. Declared first, so that it outlives its members.
     Fields fields;
 
@@ -74,6 +85,7 @@ private:
     std::function<void()> dismissal_;
     std::shared_ptr<Navigator*> shownBy_; ///< what it points to is nullptr once the navigator has gone
     std::weak_ptr<Screen> host_;
+    Place place_;
     bool hosted_ = false;
     bool covered_ = false;
 };

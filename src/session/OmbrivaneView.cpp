@@ -2,6 +2,7 @@
 
 #include "events/HostEvents.h"
 #include "keyed/Navigator.h"
+#include "recording/Recorder.h"
 #include "services/Frame.h"
 #include "session/EntryView.h"
 #include "session/KeptState.h"
@@ -22,6 +23,7 @@ struct OmbrivaneView::Parts {
         if (!leaving) return;
         const bool ownsFlags = leaving->drop();
         screens = {};
+        if (recorder) recorder->letGo();
         navigator.reset();
         if (ownsFlags) AppState::shared().resetNavigation();
     }
@@ -40,8 +42,11 @@ struct OmbrivaneView::Parts {
     EntryArguments arguments;
     CompletionCallback callback;
     Dismissal dismissal;
-    std::optional<KeptState> kept;    ///< for the next time that it is shown
-    std::shared_ptr<EntryView> entry; ///< while it is shown
+    bool records = false;
+    std::unique_ptr<Recorder> recorder; ///< of the opening that was shown last
+    std::optional<KeptState> kept;      ///< for the next time that it is shown
+    std::string keptText;               ///< the same as it was given
+    std::shared_ptr<EntryView> entry;   ///< while it is shown
     std::unique_ptr<Navigator> navigator;
     std::string shown;    ///< the name of what lies on top
     Subscription screens; ///< to what comes into view
@@ -71,9 +76,11 @@ void OmbrivaneView::onClose(std::function<void()> dismiss, std::function<void()>
 void OmbrivaneView::show() {
     parts_->leave();
     parts_->shown.clear();
+    const std::string form = parts_->kept ? parts_->keptText : KeptState::save(nullptr);
     parts_->entry = std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal);
     if (parts_->kept) parts_->entry->takeUp(*std::exchange(parts_->kept, std::nullopt));
     parts_->navigator = std::make_unique<Navigator>(parts_->entry);
+    if (parts_->records) parts_->recorder = std::make_unique<Recorder>(*parts_->navigator, form);
     parts_->screens = parts_->navigator->observe([parts = parts_.get()] { parts->cameIntoView(); });
     parts_->navigator->start(); // in which the host may let go of this view
 }
@@ -83,13 +90,22 @@ std::string OmbrivaneView::saveState() const { return KeptState::save(parts_->na
 bool OmbrivaneView::restoreState(const std::string& state) {
     auto kept = KeptState::read(state);
     const bool isGood = kept.has_value();
-    if (isGood) parts_->kept = std::move(kept);
+    if (isGood) {
+        parts_->kept = std::move(kept);
+        parts_->keptText = state;
+    }
     return isGood;
 }
 
 bool OmbrivaneView::isState(const std::string& state) { return KeptState::read(state).has_value(); }
 
 void OmbrivaneView::forget() { forgetCustomer(); }
+
+void OmbrivaneView::record() { parts_->records = true; }
+
+std::string OmbrivaneView::recording() const {
+    return parts_->recorder ? parts_->recorder->journey() : std::string();
+}
 
 Navigator* OmbrivaneView::navigator() const { return parts_->navigator.get(); }
 

@@ -56,6 +56,15 @@ public:
     /// number, form, nationality). Travellers and pictures go with their view. No view may be shown.
     static void forget();
 
+    /// Records each opening from the next `show` on, for whoever looks into a customer's trouble: what the
+    /// customer does, how long it takes and what becomes of every request. Off unless this is called.
+    void record();
+    /// The recording of the opening that was shown last, as a journey that plays again against the sandbox
+    /// (docs/journeys.md); empty where nothing was recorded. What a customer typed, and days of birth and of
+    /// expiry, are replaced by others of the same shape, and no picture, token or answer is in it. The
+    /// component keeps it nowhere else; also good after `closed`.
+    std::string recording() const;
+
     /// The stack of screens; empty until the view is shown.
     Navigator* navigator() const;
 

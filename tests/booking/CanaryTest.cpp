@@ -35,6 +35,7 @@ protected:
         failWith(booking.dump().substr(0, booking.dump().size() / 2));
         failWith("asha@example.com PA1234567");
         texts.push_back(wallet.get("phase").get<std::string>());
+        texts.push_back(wallet.recording());
         wallet.tap("continue");
         wallet.settle();
         for (const auto& word : wallet.heard)

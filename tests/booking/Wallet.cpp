@@ -49,6 +49,7 @@ void Wallet::show() {
         hear("close", number == shows_);
         if (number == shows_) letGo();
     });
+    view_->record();
     if (!restoring.empty()) view_->restoreState(std::exchange(restoring, ""));
     event([this] {
         view_->show();

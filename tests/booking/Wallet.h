@@ -54,6 +54,7 @@ public:
     void show();
     void drop();
     std::string saveState() const { return view_->saveState(); }
+    std::string recording() const { return view_->recording(); }
     bool isShown() const { return view_ && view_->navigator() != nullptr; }
     /// Throws where nothing is shown.
     Navigator& navigator() const;

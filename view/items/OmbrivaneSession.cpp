@@ -138,6 +138,7 @@ void OmbrivaneSession::resetSupportLandLine() {
 void OmbrivaneSession::drop() {
     opened_.reset();
     stage_.follow(nullptr);
+    if (view_ && records) recorded_ = view_->recording();
     view_.reset();
 }
 
@@ -151,9 +152,14 @@ bool OmbrivaneSession::restoreState(const QString& state) {
     return isGood;
 }
 
+QString OmbrivaneSession::recording() const {
+    return QString::fromStdString(view_ && records ? view_->recording() : recorded_);
+}
+
 void OmbrivaneSession::forget() {
     drop();
     kept_.clear();
+    recorded_.clear();
     OmbrivaneView::forget();
 }
 
@@ -189,6 +195,7 @@ void OmbrivaneSession::open() {
                                             given(phone),
                                             given(environment),
                                             callback());
+    if (records) view_->record();
     view_->restoreState(std::exchange(kept_, std::string()));
     const QPointer<OmbrivaneSession> self(this);
     view_->onClose([self] {

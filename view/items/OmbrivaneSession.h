@@ -39,6 +39,8 @@ class OmbrivaneSession : public QObject {
                    resetSupportWhatsapp FINAL)
     Q_PROPERTY(QString supportLandLine READ givenSupportLandLine WRITE setSupportLandLine RESET
                    resetSupportLandLine FINAL)
+    // Whether each opening from the next one on is recorded.
+    Q_PROPERTY(bool records MEMBER records FINAL)
     Q_PROPERTY(ombrivane::view::StageModel* stage READ stage CONSTANT FINAL)
 
 public:
@@ -61,6 +63,8 @@ public:
     Q_INVOKABLE QString saveState() const;
     /// As `OmbrivaneView::restoreState`, for the next `open`.
     Q_INVOKABLE bool restoreState(const QString& state);
+    /// As `OmbrivaneView::recording`, of the opening that was recorded last; also once it is dropped.
+    Q_INVOKABLE QString recording() const;
     /// As `OmbrivaneView::forget`: drops the component, and empties what the process knows of its customer.
     Q_INVOKABLE void forget();
 
@@ -75,6 +79,7 @@ public:
     std::optional<QString> environment; ///< absent: "test"; any text but "test", an empty one too: production
     std::optional<QString> language;    ///< a BCP 47 tag or "device"; absent: English
     std::optional<QString> region;      ///< by which numbers and dates are written; absent: of the language
+    bool records = false;               ///< whether openings are recorded, as `OmbrivaneView::record` says
     QVariantMap texts;                  ///< the wallet's own texts by key
     /// Of the process when it is opened; absent: those that the process has.
     std::optional<SupportContacts> supportContacts;
@@ -163,6 +168,7 @@ private:
 
     CompletionCallback callback_;
     std::string kept_;               ///< taken up by the next `open`
+    std::string recorded_;           ///< the recording of a view that has gone
     std::shared_ptr<Opened> opened_; ///< while the view that was opened last is neither dropped nor replaced
     StageModel stage_;
     std::unique_ptr<OmbrivaneView> view_;

@@ -18,6 +18,7 @@ ThemedScope {
     property alias supportViber: session.supportViber
     property alias supportWhatsapp: session.supportWhatsapp
     property alias supportLandLine: session.supportLandLine
+    property alias records: session.records
     property alias session: session
     signal finished(dictionary: string)
     signal failed(message: string, domain: string, code: int, kind: int)
@@ -27,6 +28,7 @@ ThemedScope {
     function drop() { session.drop() }
     function saveState(): string { return session.saveState() }
     function restoreState(state: string): bool { return session.restoreState(state) }
+    function recording(): string { return session.recording() }
     function forget() { session.forget() }
 
     OmbrivaneSession {

@@ -1,0 +1,161 @@
+#include "recording/Recorder.h"
+
+#include "base/Date.h"
+#include "platform/ElapsedTime.h"
+#include "platform/Platform.h"
+#include "recording/DeedPath.h"
+#include "recording/Pseudonym.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <utility>
+
+namespace ombrivane {
+namespace {
+
+constexpr std::array lettersOfPages{"scrolled", "measured"}; // what a page tells by itself
+/// Actions whose texts belong to a journey and not to a customer.
+constexpr std::array namesOfPlacesAndDays{"type", "tapDay", "chooseGender"};
+constexpr const char* pickedPicture = "pick journeys/data/passport.png";
+constexpr std::array daysOfCustomers{"pickDateOfBirth", "pickExpiryDate"};
+
+template <class Keys> bool has(const Keys& keys, std::string_view key) {
+    return std::find(keys.begin(), keys.end(), key) != keys.end();
+}
+
+/// What makes the sandbox answer like that; empty where it has nothing alike.
+std::string faultLike(const EndedCall& call) {
+    switch (*call.error) {
+    case ErrorKind::timedOut:
+        return "silence";
+    case ErrorKind::serviceNotReached:
+    case ErrorKind::connectionLost:
+        return "drop";
+    case ErrorKind::answerTooLarge:
+        return "endless";
+    case ErrorKind::answerNotUnderstood:
+        return "malformed";
+    case ErrorKind::answerMissing:
+        return "empty";
+    case ErrorKind::refused:
+    case ErrorKind::credentialsRefused:
+        return "refuse=Refused.";
+    case ErrorKind::unsupportedSystem:
+    case ErrorKind::noConnection:
+    case ErrorKind::serviceNotTrusted:
+    case ErrorKind::invalidRequest:
+    case ErrorKind::unforeseen:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+Recorder::Recorder(const Navigator& navigator, const std::string& form) :
+    navigator_(&navigator),
+    salt_(std::random_device()()),
+    form_(form),
+    began_(isoText(platform().clock->now())),
+    last_(elapsedTime()),
+    deeds_(Deeds::listen(
+        [this](const auto& screen, auto key, const auto& arguments) { did(screen, key, arguments); })),
+    events_(HostEvents::shared().listen([this](const Event& event) { happened(event); },
+                                        [this](const EndedCall& call) { ended(call); })) {}
+
+void Recorder::letGo() {
+    navigator_ = nullptr;
+    deeds_ = nullptr;
+}
+
+std::string Recorder::journey() const {
+    const std::lock_guard lock(mutex_);
+    std::string text = "# Recorded; what was typed is replaced by texts of the same shape.\n";
+    text += fmt::format("#: sandbox --now {}\n", began_);
+    for (const auto& argument : service_)
+        text += fmt::format("#: sandbox {}\n", argument);
+    text += fmt::format("#: wallet --now {} --locale {}\n", began_, platform().localization->locale());
+    if (!form_.empty()) text += fmt::format("restore {}\n", form_);
+    for (const auto& line : lines_)
+        text += line + '\n';
+    return text;
+}
+
+Json Recorder::argument(std::string_view key, const Json& value) const {
+    if (!value.is_string() || has(namesOfPlacesAndDays, key)) return value;
+    const auto text = value.get<std::string>();
+    return has(daysOfCustomers, key) ? otherDay(text, salt_) : pseudonym(text, salt_);
+}
+
+void Recorder::did(const Screen& screen, std::string_view key, const std::vector<Json>& arguments) {
+    if (navigator_ == nullptr || has(lettersOfPages, key)) return;
+    const auto path = pathOf(*navigator_, screen, key.empty() ? "back" : key);
+    if (!path) return;
+    const std::lock_guard lock(mutex_);
+    if (key == "picked")
+        return insertBeforeLastDeed(arguments.front() == true ? pickedPicture : "pick-cancel");
+    const auto thought = std::chrono::floor<std::chrono::seconds>(elapsedTime() - last_);
+    if (thought.count() > 0) write(fmt::format("advance {}", thought.count()));
+    if (std::exchange(isOffline_, false)) write("reachability 2");
+    if (!key.empty()) write(fmt::format("wait {} {{\"enabled\":true}}", *path));
+    lastDeed_ = lines_.size();
+    std::string line = key.empty() ? "back" : "tap " + *path;
+    for (const Json& value : arguments)
+        line += ' ' + argument(key, value).dump();
+    write(line);
+}
+
+void Recorder::happened(const Event& event) {
+    const std::lock_guard lock(mutex_);
+    switch (event.kind) {
+    case EventKind::screenShown:
+        if (event.screen != "PhotoPicker") write("wait-screen " + event.screen);
+        break;
+    case EventKind::searchAnswered:
+        if (event.offers.value_or(0) > 0) service_.push_back(fmt::format("--offers {}", *event.offers));
+        break;
+    case EventKind::fareMoved:
+        write(fmt::format("# the fare moved from {} to {}", *event.formerFare, *event.fare));
+        break;
+    case EventKind::expired:
+        write("# the ten minutes were over");
+        break;
+    case EventKind::closed:
+        write(event.closedBy == ClosedBy::host ? "destroy" : "wait-event closed");
+        break;
+    default:
+        break; // told by its request
+    }
+}
+
+void Recorder::ended(const EndedCall& call) {
+    const std::lock_guard lock(mutex_);
+    const std::string endpoint(call.endpoint);
+    const std::size_t before = calls_[endpoint]++;
+    write(fmt::format("# {} {} after {} ms{}",
+                      endpoint,
+                      call.status,
+                      call.took.count(),
+                      call.error ? fmt::format(": {}", nameOf(*call.error)) : ""));
+    if (!call.error) return;
+    const std::string fault = faultLike(call);
+    if (!fault.empty())
+        service_.push_back(fmt::format("--fault \"{} {} times=1 after={}\"", endpoint, fault, before));
+    if (*call.error == ErrorKind::noConnection && !std::exchange(isOffline_, true))
+        insertBeforeLastDeed("reachability 0");
+}
+
+void Recorder::write(const std::string& line) {
+    lines_.push_back(line);
+    last_ = elapsedTime();
+}
+
+/// What the device answers is told to a script before it is asked.
+void Recorder::insertBeforeLastDeed(const std::string& line) {
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(lastDeed_++), line);
+}
+
+} // namespace ombrivane
