@@ -30,7 +30,7 @@ inline constexpr std::array wordings{
 constexpr const Wording& wordingOf(Text text) { return wordings.at(static_cast<std::size_t>(text)); }
 
 /// The text of that key; nothing for a key that does not exist.
-constexpr std::optional<Text> textOf(std::string_view key) {
+constexpr std::optional<Text> textNamed(std::string_view key) {
     for (std::size_t i = 0; i < wordings.size(); ++i) {
         if (wordings.at(i).key == key) return static_cast<Text>(i);
     }

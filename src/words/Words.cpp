@@ -63,7 +63,7 @@ std::string Words::fill(const std::string& pattern, const std::vector<Place>& pl
 void Words::choose(LanguageChoice choice) {
     auto lexicon = lexiconOf(choice);
     for (const auto& [key, pattern] : choice.texts) {
-        const auto text = textOf(key);
+        const auto text = textNamed(key);
         const std::string refused = text ? lexicon->replace(*text, pattern) : "no text has this key";
         if (!refused.empty()) platform().diagnostics->print(fmt::format("Text \"{}\": {}", key, refused));
     }
