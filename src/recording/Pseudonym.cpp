@@ -26,6 +26,7 @@ UChar32 alike(std::mt19937_64& dice, UChar32 letter) {
     }
     if (!u_isalpha(letter)) return letter;
     if (letter < 0x80) return another(dice, u_isupper(letter) ? 'A' : 'a', 26, letter);
+    if (letter >= 0x0905 && letter <= 0x0914) return another(dice, 0x0905, 0x10, letter); // Devanagari vowels
     if (letter >= 0x0915 && letter <= 0x0939)
         return another(dice, 0x0915, 0x25, letter); // Devanagari consonants
     if (letter >= 0x0628 && letter <= 0x063a) return another(dice, 0x0628, 0x13, letter); // Arabic letters

@@ -1,7 +1,5 @@
 #include "recording/Recorder.h"
 
-#include "base/Date.h"
-#include "platform/ElapsedTime.h"
 #include "platform/Platform.h"
 #include "recording/DeedPath.h"
 #include "recording/Pseudonym.h"
@@ -10,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <random>
 #include <utility>
 
@@ -60,7 +59,7 @@ Recorder::Recorder(const Navigator& navigator, const std::string& form) :
     salt_(std::random_device()()),
     form_(form),
     began_(isoText(platform().clock->now())),
-    last_(elapsedTime()),
+    last_(platform().clock->now()),
     deeds_(Deeds::listen(
         [this](const auto& screen, auto key, const auto& arguments) { did(screen, key, arguments); })),
     events_(HostEvents::shared().listen([this](const Event& event) { happened(event); },
@@ -97,7 +96,7 @@ void Recorder::did(const Screen& screen, std::string_view key, const std::vector
     const std::lock_guard lock(mutex_);
     if (key == "picked")
         return insertBeforeLastDeed(arguments.front() == true ? pickedPicture : "pick-cancel");
-    const auto thought = std::chrono::floor<std::chrono::seconds>(elapsedTime() - last_);
+    const auto thought = std::chrono::floor<std::chrono::seconds>(platform().clock->now() - last_);
     if (thought.count() > 0) write(fmt::format("advance {}", thought.count()));
     if (std::exchange(isOffline_, false)) write("reachability 2");
     if (!key.empty()) write(fmt::format("wait {} {{\"enabled\":true}}", *path));
@@ -150,7 +149,7 @@ void Recorder::ended(const EndedCall& call) {
 
 void Recorder::write(const std::string& line) {
     lines_.push_back(line);
-    last_ = elapsedTime();
+    last_ = platform().clock->now();
 }
 
 /// What the device answers is told to a script before it is asked.

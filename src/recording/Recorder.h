@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/Date.h"
 #include "events/HostEvents.h"
 #include "keyed/Deeds.h"
 #include "keyed/Navigator.h"
 
-#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -45,7 +45,7 @@ private:
     std::string began_;
 
     mutable std::mutex mutex_; ///< ended calls come from threads of the network
-    std::chrono::milliseconds last_;
+    Date last_;                ///< when the last line was written
     std::vector<std::string> lines_;
     std::size_t lastDeed_ = 0;
     std::vector<std::string> service_; ///< arguments of the sandbox

@@ -71,8 +71,8 @@ TEST(RecordingTest, AnOpeningBecomesAJourney) {
     const auto commands = commandsOf(text);
     for (const char* part : {"wait-screen MainView\n",
                              "tap OneWayView.search\nwait-screen FlightListView\n",
-                             "tap FlightListView.rows[0].tap\n",
-                             "tap OWBookingDetailsView.contact.rows[0].tap\n",
+                             "tap OneWayFlightListView.rows[0].tap\ntap FlightListView.continue\n",
+                             "tap OWPessangerContactDetailView.rows[0].tap\n",
                              "tap TravellerInformationView.pickDateOfBirth \"1990-05-01\"\n"
                              "pick journeys/data/passport.png\n"
                              "tap TravellerInformationView.openPhotoPicker\n",
