@@ -2,12 +2,14 @@
 
 #include "sandbox/HttpsServer.h"
 #include "sandbox/control/Delivery.h"
+#include "sandbox/control/FaultPlan.h"
 #include "sandbox/control/Scenarios.h"
 #include "sandbox/service/Service.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <future>
@@ -19,12 +21,23 @@ namespace ombrivane::sandbox {
 
 namespace {
 
-constexpr std::string_view controlPrefix = "/sandbox/";
+/// The page, and what stands below it.
+bool isControl(std::string_view path) {
+    constexpr std::string_view page = "/sandbox";
+    return path.substr(0, page.size()) == page && (path.size() == page.size() || path[page.size()] == '/');
+}
 
 std::vector<Fault> parsed(const std::vector<std::string>& texts) {
     std::vector<Fault> faults;
     for (const std::string& text : texts)
         faults.push_back(parseFault(text));
+    return faults;
+}
+
+std::vector<Fault> faultsOf(const Scenario& scenario) {
+    std::vector<Fault> faults = parsed(scenario.faults);
+    for (Fault& fault : faults)
+        fault.scenario = scenario.name;
     return faults;
 }
 
@@ -37,34 +50,26 @@ bool wantsToClose(const HttpRequest& request) {
     return equalIgnoringCase(request.header("Connection"), "close");
 }
 
-Json recordedJson(const std::vector<RecordedRequest>& requests) {
-    Json list = Json::array();
-    for (const RecordedRequest& request : requests) {
-        Json headers = Json::array();
-        for (const HttpHeader& header : request.headers)
-            headers.push_back({{"name", header.name}, {"value", header.value}});
-        list.push_back({{"method", request.method},
-                        {"path", request.path},
-                        {"target", request.target},
-                        {"headers", headers},
-                        {"body", request.body},
-                        {"bodyBytes", request.body.size()}});
-    }
-    return list;
+/// Which faults a request met, as they were written.
+std::vector<std::string> written(const std::vector<Fault>& faults) {
+    std::vector<std::string> texts;
+    for (const Fault& fault : faults)
+        texts.push_back(fault.written);
+    return texts;
 }
 
-Json scenariosJson() {
-    Json list = Json::array();
-    for (const Scenario& scenario : scenarios())
-        list.push_back({{"name", scenario.name}, {"meaning", scenario.meaning}});
-    return list;
+/// What ends the connection in its own way tells no status.
+bool tellsStatus(DeliveryPlan::Manner manner) {
+    using Manner = DeliveryPlan::Manner;
+    return manner != Manner::Drop && manner != Manner::Reset && manner != Manner::HalfStatusLine &&
+           manner != Manner::Silence;
 }
-
-HttpAnswer controlRefusal(const std::string& message) { return jsonAnswer({{"error", message}}, 400); }
 
 } // namespace
 
-Sandbox::Sandbox(Options options) : options_(std::move(options)) { setFaults(options_.faults); }
+Sandbox::Sandbox(Options options) : options_(std::move(options)), faults_(std::make_unique<FaultPlan>()) {
+    setFaults(options_.faults);
+}
 
 Sandbox::~Sandbox() { stop(); }
 
@@ -86,10 +91,7 @@ void Sandbox::start() {
         });
     address_ = fmt::format("https://localhost:{}", server_->port());
     service_ = std::make_unique<Service>(options_, address_);
-    if (!options_.scenarios.empty()) {
-        setScenarios(options_.scenarios);
-        faults_.add(parsed(options_.faults));
-    }
+    if (!options_.scenarios.empty()) play(options_.scenarios, options_.faults);
     ready.set_value();
 }
 
@@ -104,19 +106,21 @@ void Sandbox::stop() {
     }
 }
 
-void Sandbox::setFaults(const std::vector<std::string>& faults) { faults_.replace(parsed(faults)); }
-
-void Sandbox::setScenarios(const std::vector<std::string>& names) {
-    std::vector<Fault> faults;
+void Sandbox::play(const std::vector<std::string>& scenarios, const std::vector<std::string>& faults) {
+    std::vector<Fault> all;
     Terms terms;
-    for (const std::string& name : names) {
+    for (const std::string& name : scenarios) {
         const Scenario& scenario = scenarioNamed(name);
-        for (Fault& fault : parsed(scenario.faults))
-            faults.push_back(std::move(fault));
+        for (Fault& fault : faultsOf(scenario))
+            all.push_back(std::move(fault));
         if (scenario.farePercent) terms.farePercent = scenario.farePercent;
         if (scenario.holds) terms.holds = *scenario.holds;
     }
-    faults_.replace(std::move(faults));
+    for (Fault& fault : parsed(faults))
+        all.push_back(std::move(fault));
+    const std::lock_guard lock(playing_);
+    scenarios_ = scenarios;
+    faults_->replace(std::move(all));
     if (service_) service_->setTerms(terms);
 }
 
@@ -131,16 +135,16 @@ void Sandbox::reset() {
 }
 
 bool Sandbox::answer(const HttpRequest& request, bool isFirst, TlsConnection& connection) {
-    if (request.path.compare(0, controlPrefix.size(), controlPrefix) == 0) {
+    if (isControl(request.path)) {
         if (isFirst) log_.disregardConnection();
         return deliver(answerControl(request), {}, connection);
     }
-    log_.record(request);
+    const auto arrived = std::chrono::steady_clock::now();
+    const std::size_t number = log_.record(request);
     if (faultPath(request.path) == "/reservation") {
-        if (const Scenario* scenario = scenarioOfTravellers(request.body))
-            faults_.add(parsed(scenario->faults));
+        if (const Scenario* scenario = scenarioOfTravellers(request.body)) faults_->add(faultsOf(*scenario));
     }
-    const std::vector<Fault> faults = faults_.due(faultPath(request.path));
+    const std::vector<Fault> faults = faults_->due(faultPath(request.path));
     const bool isPrevented = std::any_of(
         faults.begin(), faults.end(), [](const Fault& fault) { return preventsTheOperation(fault.kind); });
     HttpAnswer reply = isPrevented ? HttpAnswer{} : service_->answer(request);
@@ -148,44 +152,12 @@ bool Sandbox::answer(const HttpRequest& request, bool isFirst, TlsConnection& co
         reply = withFault(std::move(reply), fault);
     DeliveryPlan plan = planDelivery(faults);
     plan.keepConnection = plan.manner == DeliveryPlan::Manner::Whole && !wantsToClose(request);
-    return deliver(reply, plan, connection);
-}
-
-HttpAnswer Sandbox::answerControl(const HttpRequest& request) {
-    const std::string call = request.method + " " + request.path;
-    const Json body = Json::parse(request.body, nullptr, false);
-    try {
-        if (call == "GET /sandbox/requests") return jsonAnswer(recordedJson(log_.requests()));
-        if (call == "GET /sandbox/bookings") return jsonAnswer(service_->bookings());
-        if (call == "GET /sandbox/scenarios") return jsonAnswer(scenariosJson());
-        if (call == "GET /sandbox/counters") {
-            const Counters counters = log_.counters();
-            return jsonAnswer({{"connections", counters.connections},
-                               {"handshakeFailures", counters.handshakeFailures},
-                               {"requests", counters.requests}});
-        }
-        if (call == "POST /sandbox/faults") {
-            setFaults(body.get<std::vector<std::string>>());
-            return jsonAnswer(Json::object());
-        }
-        if (call == "POST /sandbox/scenarios") {
-            setScenarios(body.get<std::vector<std::string>>());
-            return jsonAnswer(Json::object());
-        }
-        if (call == "POST /sandbox/clock") {
-            advanceClock(std::chrono::seconds(body.at("advance").get<int>()));
-            return jsonAnswer(Json::object());
-        }
-        if (call == "POST /sandbox/reset") {
-            reset();
-            return jsonAnswer(Json::object());
-        }
-    } catch (const std::invalid_argument& wrongWord) {
-        return controlRefusal(wrongWord.what());
-    } catch (const Json::exception&) {
-        return controlRefusal("The body is not what this path takes.");
-    }
-    return controlRefusal(fmt::format("{} is no call of the sandbox.", call));
+    log_.complete(number, tellsStatus(plan.manner) ? reply.status : 0, reply.refusal, written(faults));
+    const bool another = deliver(reply, plan, connection);
+    log_.sent(
+        number,
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - arrived));
+    return another;
 }
 
 void Sandbox::writeCaFile(const std::string& pem) {

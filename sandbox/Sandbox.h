@@ -1,18 +1,19 @@
 // A booking service for this machine: HTTPS on the loopback interface, with faults on demand.
 #pragma once
 
-#include "sandbox/control/FaultPlan.h"
 #include "sandbox/control/Options.h"
 #include "sandbox/wire/RequestLog.h"
 
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
 namespace ombrivane::sandbox {
 
+class FaultPlan;
 class HttpsServer;
 class Service;
 class TlsConnection;
@@ -39,15 +40,21 @@ public:
     /// The authority that a client is to trust, a PEM file.
     [[nodiscard]] std::filesystem::path caFile() const { return caFile_; }
 
+    /// Every request of the service that was read whole, with what became of it.
     [[nodiscard]] std::vector<RecordedRequest> requests() const { return log_.requests(); }
+    /// How many connections and requests there were.
     [[nodiscard]] Counters counters() const { return log_.counters(); }
 
-    /// Replaces all faults. Throws `std::invalid_argument` and changes nothing when one does not read.
-    void setFaults(const std::vector<std::string>& faults);
-
     /// What customers meet from here on, in place of all faults and scenarios before. Throws
-    /// `std::invalid_argument` and changes nothing where one has no such name.
-    void setScenarios(const std::vector<std::string>& names);
+    /// `std::invalid_argument` and changes nothing where a scenario has no such name or a fault does not
+    /// read.
+    void play(const std::vector<std::string>& scenarios, const std::vector<std::string>& faults);
+
+    /// The same for faults alone.
+    void setFaults(const std::vector<std::string>& faults) { play({}, faults); }
+
+    /// The same for scenarios alone.
+    void setScenarios(const std::vector<std::string>& names) { play(names, {}); }
 
     /// Turns the service's clock on.
     void advanceClock(std::chrono::seconds time);
@@ -58,11 +65,15 @@ public:
 private:
     bool answer(const HttpRequest& request, bool isFirst, TlsConnection& connection);
     HttpAnswer answerControl(const HttpRequest& request);
+    HttpAnswer control(const HttpRequest& request);
+    Json state() const;
     void writeCaFile(const std::string& pem);
 
     Options options_;
     RequestLog log_;
-    FaultPlan faults_;
+    std::unique_ptr<FaultPlan> faults_;
+    mutable std::mutex playing_; ///< guards `scenarios_`
+    std::vector<std::string> scenarios_;
     std::string address_;
     std::filesystem::path caFile_;
     std::filesystem::path temporaryFolder_;

@@ -2,6 +2,8 @@
 
 #include "sandbox/control/Faults.h"
 #include "sandbox/control/Scenarios.h"
+#include "sandbox/wire/Certificates.h"
+#include "sandbox/world/Dates.h"
 
 #include <fmt/format.h>
 

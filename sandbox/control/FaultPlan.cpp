@@ -1,5 +1,6 @@
 #include "sandbox/control/FaultPlan.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ombrivane::sandbox {
@@ -27,6 +28,15 @@ std::vector<Fault> FaultPlan::due(std::string_view path) {
             found.push_back(entry.fault);
     }
     return found;
+}
+
+std::size_t FaultPlan::Entry::met() const {
+    return seen > fault.after ? std::min(seen - fault.after, fault.times) : 0;
+}
+
+std::vector<FaultPlan::Entry> FaultPlan::entries() const {
+    const std::lock_guard lock(mutex_);
+    return entries_;
 }
 
 } // namespace ombrivane::sandbox

@@ -22,13 +22,20 @@ public:
     /// request.
     std::vector<Fault> due(std::string_view path);
 
-private:
+    /// A fault and what came of it so far.
     struct Entry {
         Fault fault;
-        std::size_t seen = 0;
+        std::size_t seen = 0; ///< requests of its path
+
+        /// How many of them it has met.
+        [[nodiscard]] std::size_t met() const;
     };
 
-    std::mutex mutex_;
+    /// All faults, also those that are over, in the order in which they were given.
+    [[nodiscard]] std::vector<Entry> entries() const;
+
+private:
+    mutable std::mutex mutex_;
     std::vector<Entry> entries_;
 };
 

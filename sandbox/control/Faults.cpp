@@ -157,6 +157,7 @@ const std::vector<FaultForm>& faultForms() {
 
 Fault parseFault(std::string_view text) {
     Fault fault;
+    fault.written = text;
     const std::size_t blank = text.find(' ');
     if (blank == std::string_view::npos || (text[0] != '/' && text.substr(0, blank) != "*"))
         throw std::invalid_argument(fmt::format("\"{}\" does not read PATH KIND[=VALUE].", text));

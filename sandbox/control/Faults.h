@@ -55,6 +55,8 @@ struct Fault {
     std::uint64_t number = 0;                                    ///< the value of a fault that takes a number
     std::size_t times = std::numeric_limits<std::size_t>::max(); ///< how often it happens
     std::size_t after = 0;                                       ///< how many requests it lets pass first
+    std::string written = {};                                    ///< the whole fault as it was written
+    std::string_view scenario = {};                              ///< to which it belongs; empty for none
 };
 
 /// Reads "PATH KIND[=VALUE] [times=N] [after=N]". Throws `std::invalid_argument` with a sentence that says

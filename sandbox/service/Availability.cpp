@@ -11,7 +11,7 @@ namespace {
 
 using std::chrono::minutes;
 
-std::string duration(minutes time) {
+std::string paddedDuration(minutes time) {
     return fmt::format("{:02} Hr {:02} Min", time.count() / 60, time.count() % 60);
 }
 
@@ -25,7 +25,7 @@ Json legJson(const Leg& leg, const std::optional<minutes>& connectionBefore, boo
               {"seg_departure_time", timeText(leg.departure)},
               {"seg_arrival_date", dayText(leg.arrival)},
               {"seg_arrival_time", timeText(leg.arrival)},
-              {"seg_total_flying_hours", duration(leg.flying)},
+              {"seg_total_flying_hours", paddedDuration(leg.flying)},
               {"seg_departure_airport_code", leg.from->code},
               {"seg_departure_airport", leg.from->name},
               {"seg_departure_city", leg.from->city}};
@@ -57,7 +57,7 @@ void addDirection(Json& tree, const Journey& journey, const std::string& prefix,
     tree[prefix + "dept_time"] = timeText(first.departure);
     tree[prefix + "dest_date"] = dayText(last.arrival);
     tree[prefix + "dest_time"] = timeText(last.arrival);
-    tree[prefix + "total_flying_hours"] = duration(journey.elapsed());
+    tree[prefix + "total_flying_hours"] = paddedDuration(journey.elapsed());
     tree[prefix + "depart_city_airport_code"] = first.from->code;
     tree[prefix + "depart_city_airport_name"] = first.from->name;
     tree[prefix + "depart_city_name"] = first.from->city;

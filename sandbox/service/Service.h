@@ -32,6 +32,10 @@ public:
     /// Turns the service's clock on.
     void advanceClock(std::chrono::seconds time) { clock_.advance(time); }
 
+    /// What its clock shows, and whether it stands still.
+    [[nodiscard]] Instant now() const { return clock_.now(); }
+    [[nodiscard]] bool standsStill() const { return clock_.standsStill(); }
+
     /// On what terms offers are priced from here on.
     void setTerms(const Terms& terms);
 

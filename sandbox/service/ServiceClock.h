@@ -15,6 +15,8 @@ public:
 
     [[nodiscard]] Instant now() const;
 
+    [[nodiscard]] bool standsStill() const { return frozen_; }
+
     /// Turns the clock on by hand, also while it stands still.
     void advance(std::chrono::seconds time);
 

@@ -1,6 +1,8 @@
 // The certificates of one run: an authority of its own and a server certificate, good or bad on purpose.
 #pragma once
 
+#include "sandbox/wire/CertificateKind.h"
+
 #include <openssl/evp.h>
 #include <openssl/x509.h>
 
@@ -10,16 +12,6 @@
 #include <string_view>
 
 namespace ombrivane::sandbox {
-
-enum class CertificateKind {
-    Good,
-    SelfSigned,
-    Expired,
-    NotYetValid,
-    WrongHost,             ///< made out to another name
-    WrongAlternativeNames, ///< common name localhost, but other alternative names
-    Untrusted,             ///< signed by an authority other than the published one
-};
 
 /// "good", "self-signed", "expired", "not-yet-valid", "wrong-host", "wrong-alternative-names", "untrusted".
 std::optional<CertificateKind> certificateKindNamed(std::string_view name);

@@ -66,7 +66,9 @@ HttpAnswer successAnswer(Json data) {
 }
 
 HttpAnswer refusalAnswer(const std::string& message, int status) {
-    return jsonAnswer({{"success", false}, {"data", {{"error", message}}}}, status);
+    HttpAnswer answer = jsonAnswer({{"success", false}, {"data", {{"error", message}}}}, status);
+    answer.refusal = message;
+    return answer;
 }
 
 } // namespace ombrivane::sandbox

@@ -9,18 +9,20 @@
 
 namespace ombrivane::sandbox {
 
+/// One line of a header, as it was sent.
 struct HttpHeader {
-    std::string name;
-    std::string value;
+    std::string name;  ///< in the sender's letters
+    std::string value; ///< without the blanks around it
 };
 
+/// A request that was read whole.
 struct HttpRequest {
-    std::string method;
-    std::string target; ///< path and query as they stood in the request line
-    std::string path;
-    std::string query; ///< without the question mark, not decoded
-    std::vector<HttpHeader> headers;
-    std::string body;
+    std::string method;              ///< "POST"
+    std::string target;              ///< path and query as they stood in the request line
+    std::string path;                ///< up to the question mark
+    std::string query;               ///< without the question mark, not decoded
+    std::vector<HttpHeader> headers; ///< in the order in which they came
+    std::string body;                ///< the bytes as they were sent
 
     /// The value of the first header of that name in any case of letters, or the empty text.
     [[nodiscard]] std::string header(std::string_view name) const;
@@ -29,10 +31,12 @@ struct HttpRequest {
     [[nodiscard]] std::string parameter(std::string_view name) const;
 };
 
+/// What is answered, before a fault ends the connection in its own way.
 struct HttpAnswer {
-    int status = 200;
-    std::vector<HttpHeader> headers;
-    std::string body;
+    int status = 200;                ///< of HTTP
+    std::vector<HttpHeader> headers; ///< but Content-Length and Connection
+    std::string body;                ///< all of it
+    std::string refusal = {};        ///< the sentence in the body of a refusal; empty for all others
 };
 
 /// An answer whose body is that JSON.

@@ -1,5 +1,7 @@
 #include "network/Line.h"
 
+#include "sandbox/wire/Certificates.h"
+
 #include <curl/curl.h>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include "sandbox/Sandbox.h"
+#include "sandbox/wire/Certificates.h"
 #include "tests/sandbox/WireClient.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "sandbox/control/Faults.h"
 #include "tests/sandbox/ServiceClient.h"
 
 #include <gtest/gtest.h>

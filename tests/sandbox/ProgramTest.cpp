@@ -1,6 +1,7 @@
 #include "tests/sandbox/ServiceClient.h"
 
 #include "sandbox/control/CommandLine.h"
+#include "sandbox/world/Dates.h"
 
 #include <gtest/gtest.h>
 

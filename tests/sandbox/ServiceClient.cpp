@@ -1,5 +1,7 @@
 #include "tests/sandbox/ServiceClient.h"
 
+#include "sandbox/world/Dates.h"
+
 #include <utility>
 
 namespace ombrivane::sandbox {
