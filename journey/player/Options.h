@@ -24,6 +24,7 @@ struct Options {
     std::optional<Date> now;
     std::optional<std::string> timeZone;
     std::optional<std::string> locale;
+    std::string fonts;
     SystemVersion system{"Linux", 0, 0};
     std::optional<std::uint32_t> reachability;
     bool diagnostics = false;

@@ -64,7 +64,8 @@ private:
         Platform ports = headlessPlatform(loop_, options_.ca);
         ports.reachability = reachability_;
         ports.clock = clock_;
-        ports.bundles = std::make_shared<DirectoryBundles>("com.framework.Ombrivane", OMBRIVANE_FONTS);
+        if (!options_.fonts.empty())
+            ports.bundles = std::make_shared<DirectoryBundles>("com.framework.Ombrivane", options_.fonts);
         const auto localization = std::make_shared<SystemLocalization>();
         if (options_.locale) localization->useLocale(*options_.locale);
         if (options_.timeZone) localization->useTimeZone(*options_.timeZone);

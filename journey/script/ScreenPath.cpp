@@ -2,8 +2,11 @@
 
 #include "keyed/Rows.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ombrivane::journey {
@@ -14,8 +17,11 @@ struct Step {
     std::optional<std::size_t> index;
 };
 
-[[noreturn]] void noSuch(const std::string& what) { throw KeyedError("there is no " + what); }
+[[noreturn]] void refuse(const std::string& why) { throw KeyedError(why); }
 
+std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+/// What an unreadable index is refused with before anything is looked for.
 Step parseStep(const std::string& text) {
     const auto bracket = text.find('[');
     if (bracket == std::string::npos) return {text, std::nullopt};
@@ -23,7 +29,7 @@ Step parseStep(const std::string& text) {
     const char* start = text.data() + bracket + 1;
     const auto [stop, failure] = std::from_chars(start, text.data() + text.size(), index);
     if (failure != std::errc() || stop != text.data() + text.size() - 1 || *stop != ']')
-        noSuch("row " + text);
+        refuse(inQuotes(text) + " does not read: a row is written as in \"rows[0]\"");
     return {text.substr(0, bracket), index};
 }
 
@@ -67,11 +73,41 @@ std::shared_ptr<Screen> partOf(const std::shared_ptr<Screen>& screen, const std:
     return nullptr;
 }
 
+/// "adults, cabin, model (children, infants)"
+std::string namesIn(const Fields& fields) {
+    std::string names;
+    for (const Member* member : fields.members()) {
+        if (!names.empty()) names += ", ";
+        names += member->key();
+        if (const Fields* below = member->model()) names += " (" + namesIn(*below) + ")";
+    }
+    return names.empty() ? "nothing" : names;
+}
+
+/// The keys of a screen and of what is shown inside of it, as a sentence's end.
+std::string namesIn(const std::shared_ptr<Screen>& screen) {
+    std::string names;
+    for (const auto& shown : Navigator::withParts(screen)) {
+        names += names.empty() ? "it has " : "; " + std::string(shown->name()) + ", inside of it, has ";
+        names += namesIn(shown->fields);
+    }
+    return names;
+}
+
+std::string stackOf(const Navigator& navigator) {
+    std::string names;
+    for (const auto& entry : navigator.stack()) {
+        for (const auto& screen : Navigator::withParts(entry.screen))
+            names += (names.empty() ? "" : ", ") + std::string(screen->name());
+    }
+    return names;
+}
+
 PathTarget findMember(const std::shared_ptr<Screen>& screen, const std::string& key) {
     for (const auto& candidate : Navigator::withParts(screen)) {
         if (Member* member = findIn(candidate->fields, key)) return {candidate, member};
     }
-    noSuch("\"" + key + "\" in " + std::string(screen->name()));
+    refuse(std::string(screen->name()) + " has no " + inQuotes(key) + "; " + namesIn(screen));
 }
 
 PathTarget walk(std::shared_ptr<Screen> screen, const std::vector<Step>& steps, std::size_t at) {
@@ -82,18 +118,29 @@ PathTarget walk(std::shared_ptr<Screen> screen, const std::vector<Step>& steps, 
     }
     PathTarget target = findMember(screen, steps[at].key);
     while (steps[at].index || at + 1 < steps.size()) {
-        if (steps[at].index) {
+        const std::string& key = steps[at].key;
+        if (const auto index = steps[at].index) {
             auto* rows = dynamic_cast<Rows*>(target.member);
-            if (rows == nullptr) noSuch("list \"" + steps[at].key + "\"");
-            const auto row = rows->row(*steps[at].index);
-            if (at + 1 == steps.size()) noSuch("value of a whole row");
-            auto found = walk(row, steps, at + 1);
-            return found;
+            if (rows == nullptr) refuse(inQuotes(key) + " of " + std::string(screen->name()) + " is no list");
+            const std::size_t size = rows->size();
+            if (*index >= size) {
+                refuse(inQuotes(key) + " of " + std::string(screen->name()) + " has no row " +
+                       std::to_string(*index) + ": " +
+                       (size == 0 ? "it is empty" : "its rows are 0 to " + std::to_string(size - 1)));
+            }
+            const auto row = rows->row(*index);
+            if (at + 1 == steps.size())
+                refuse("a row has no value of its own; name a key of it: " + namesIn(row));
+            return walk(row, steps, at + 1);
         }
         const Fields* below = target.member->model();
         ++at;
-        Member* next = below != nullptr ? findIn(*below, steps[at].key) : nullptr;
-        if (next == nullptr) noSuch("\"" + steps[at].key + "\"");
+        if (below == nullptr)
+            refuse(inQuotes(key) + " of " + std::string(screen->name()) + " has nothing below it, no " +
+                   inQuotes(steps[at].key) + " either");
+        Member* next = findIn(*below, steps[at].key);
+        if (next == nullptr)
+            refuse(inQuotes(key) + " has no " + inQuotes(steps[at].key) + "; it has " + namesIn(*below));
         target.member = next;
     }
     return target;
@@ -155,11 +202,39 @@ const char* nameOf(Presentation presentation) {
 } // namespace
 
 PathTarget follow(const Navigator& navigator, const std::string& path) {
-    const auto steps = parse(path);
-    if (steps.size() > 1 && !steps.front().index) {
-        if (const auto named = navigator.find(steps.front().key)) return walk(named, steps, 1);
+    try {
+        const auto steps = parse(path);
+        if (steps.size() == 1 || steps.front().index) return walk(navigator.top(), steps, 0);
+        const std::string& first = steps.front().key;
+        if (const auto named = navigator.find(first)) return walk(named, steps, 1);
+        const auto& top = navigator.top();
+        const auto shown = Navigator::withParts(top);
+        const bool begins =
+            partOf(top, first) || std::any_of(shown.begin(), shown.end(), [&](const auto& screen) {
+                return findIn(screen->fields, first) != nullptr;
+            });
+        if (!begins) {
+            refuse(inQuotes(first) + " is neither a screen on the stack (" + stackOf(navigator) +
+                   ") nor a key of the topmost one, " + std::string(top->name()) + "; " + namesIn(top));
+        }
+        return walk(top, steps, 0);
+    } catch (const KeyedError& nowhere) {
+        throw KeyedError(path + ": " + nowhere.what());
     }
-    return walk(navigator.top(), steps, 0);
+}
+
+PathAnswer find(const Navigator* navigator, const std::string& path) {
+    if (navigator == nullptr) return PathAnswer(path + ": the component is not open");
+    try {
+        return PathAnswer(follow(*navigator, path));
+    } catch (const KeyedError& nowhere) {
+        return PathAnswer(nowhere.what());
+    }
+}
+
+Member* PathAnswer::operator->() const {
+    if (!*this) throw KeyedError(problem_);
+    return target_.member;
 }
 
 Json describe(const Navigator& navigator) {

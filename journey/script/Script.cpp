@@ -197,7 +197,20 @@ Navigator& Script::navigator() const {
 }
 
 bool Script::holds(const std::string& path, const Json& value) const {
-    return matches(follow(navigator(), path).member->read(), value);
+    try {
+        const auto found = find(stage_.navigator(), path);
+        return found && matches(found->read(), value);
+    } catch (const KeyedError&) {
+        return false; // what is there has no value to read
+    }
+}
+
+std::string Script::seen(const std::string& path) const {
+    try {
+        return path + " is " + find(stage_.navigator(), path)->read().dump();
+    } catch (const KeyedError& error) {
+        return error.what();
+    }
 }
 
 void Script::show() { stage_.log.answer(Json{{"stack", describe(navigator())}}); }
@@ -228,14 +241,7 @@ void Script::expect(const std::string& arguments) {
     const auto [path, text] = split(arguments);
     const auto value = values(text);
     if (value.size() != 1) throw BadLine("expect wants a path and one value");
-    Json found;
-    try {
-        found = follow(navigator(), path).member->read();
-    } catch (const KeyedError& error) {
-        throw ExpectationFailed(path + ": " + error.what());
-    }
-    if (!matches(found, value.front()))
-        throw ExpectationFailed(path + " is " + found.dump() + ", not " + text);
+    if (!holds(path, value.front())) throw ExpectationFailed(seen(path) + ", not " + text);
 }
 
 void Script::wait(const std::string& arguments) {
@@ -243,15 +249,9 @@ void Script::wait(const std::string& arguments) {
     const auto value = values(text);
     if (value.empty() || value.size() > 2) throw BadLine("wait wants a path, one value and the seconds");
     const double limit = value.size() == 2 ? value.back().get<double>() : defaultSeconds;
-    const auto arrived = [&] {
-        try {
-            return stage_.faulted() || holds(path, value.front());
-        } catch (const KeyedError&) {
-            return false; // not yet there
-        }
-    };
+    const auto arrived = [&] { return stage_.faulted() || holds(path, value.front()); };
     if (!stage_.runUntil(arrived, milliseconds(limit)))
-        throw ExpectationFailed(path + " did not become " + text);
+        throw ExpectationFailed(path + " did not become " + text + ": " + seen(path));
 }
 
 void Script::waitScreen(const std::string& arguments) {

@@ -76,7 +76,10 @@ private:
     void pick(const std::string& file);
     void setReachability(const std::string& arguments);
     Navigator& navigator() const;
+    /// Whether the path leads to that value.
     bool holds(const std::string& path, const Json& value) const;
+    /// The value that is there, or why there is none, as a sentence.
+    std::string seen(const std::string& path) const;
 
     Stage stage_;
     /// The line that is being run, with its number and the file it was played from.
