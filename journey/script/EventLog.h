@@ -16,7 +16,9 @@ public:
     /// @param wake called after each event, on its thread
     explicit EventLog(std::function<void()> wake) : wake_(std::move(wake)) {}
 
+    /// Prints what a command asked for.
     void answer(const Json& line);
+    /// Prints an event, whose name is its "event", and keeps it until a script waits for it.
     void event(Json line);
 
     /// Takes the oldest event of that name that was not taken yet and that holds `wanted`: of an object all

@@ -9,8 +9,8 @@ namespace ombrivane::journey {
 
 /// What a path leads to, with the screen that keeps it alive.
 struct PathTarget {
-    std::shared_ptr<Screen> screen;
-    Member* member = nullptr;
+    std::shared_ptr<Screen> screen; ///< holds the member
+    Member* member = nullptr;       ///< at the end of the path; lives as long as the screen
 };
 
 /// What was found at the end of a path, or the sentence that says why there is nothing.

@@ -20,18 +20,19 @@ struct Stage {
     std::function<bool(const std::function<bool()>& done, std::chrono::milliseconds limit)> runUntil;
     /// Moves the main queue's timers on.
     std::function<void(std::chrono::milliseconds)> advance;
-    /// Shows a fresh view, and drops it.
+    /// Shows a fresh view.
     std::function<void()> open;
+    /// Drops the view.
     std::function<void()> destroy;
     /// The stack of the view; nullptr while there is none.
     std::function<Navigator*()> navigator;
     /// Whether a fault has happened.
     std::function<bool()> faulted;
 
-    EventLog& log;
-    AdjustableClock& clock;
-    ScriptedReachability& reachability;
-    ScriptedPhotos& photos;
+    EventLog& log;                      ///< what the host received
+    AdjustableClock& clock;             ///< moved by `advance`
+    ScriptedReachability& reachability; ///< set by `reachability`
+    ScriptedPhotos& photos;             ///< answers with what `pick` picked
 };
 
 /// How a script ended; the exit status of its program.
@@ -43,8 +44,10 @@ public:
     /// A command that the program knows besides the script's own: its arguments as text.
     using Command = std::function<void(const std::string& arguments)>;
 
+    /// What `stage` refers to outlives the script.
     explicit Script(Stage stage);
 
+    /// Another command, or one in the place of the script's own. Before it is played.
     void addCommand(const std::string& name, Command command) { commands_[name] = std::move(command); }
 
     /// Plays every line of `lines`, and says on the log why it stopped early.

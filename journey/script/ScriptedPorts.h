@@ -15,6 +15,7 @@ namespace ombrivane::journey {
 class ScriptedReachability final : public ReachabilityMeasure {
 public:
     std::optional<std::uint32_t> flags(const std::string& host) override;
+    /// The flag word from here on: 2 is online, 0 is not.
     void say(std::uint32_t word) { said_ = word; }
 
 private:
@@ -29,6 +30,7 @@ class ScriptedPhotos final : public PhotoLibrary {
 public:
     void present(Handler handler) override;
     void dismiss() override { open_ = nullptr; }
+    /// The next answer of the picker. Main thread.
     void pick(Picked picked);
 
 private:
@@ -41,6 +43,8 @@ private:
 /// Reports the calls that failed, and prints every line where it is asked to.
 class ReportedDiagnostics final : public Diagnostics {
 public:
+    /// @param log outlives this; hears of each call that failed
+    /// @param prints whether each line is printed as well
     ReportedDiagnostics(EventLog& log, bool prints) : log_(log), prints_(prints) {}
 
     void print(std::string_view line) override {
@@ -54,9 +58,10 @@ private:
     PrintedDiagnostics printed_;
 };
 
-/// Reports what the component opens and shares.
+/// Reports what the component opens.
 class ReportedUrls final : public UrlOpener {
 public:
+    /// @param log outlives this; hears of each address
     explicit ReportedUrls(EventLog& log) : log_(log) {}
     void openUrl(const std::string& url) override { log_.event(Json{{"event", "opened-url"}, {"url", url}}); }
 
@@ -64,8 +69,10 @@ private:
     EventLog& log_;
 };
 
+/// Reports what the component shares.
 class ReportedSharing final : public ShareSheet {
 public:
+    /// @param log outlives this; hears of each address
     explicit ReportedSharing(EventLog& log) : log_(log) {}
     void share(const std::string& url) override { log_.event(Json{{"event", "shared"}, {"url", url}}); }
 

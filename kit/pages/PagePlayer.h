@@ -1,0 +1,51 @@
+#pragma once
+
+#include "items/OmbrivaneSession.h"
+#include "platform/AdjustableClock.h"
+#include "platform/Platform.h"
+#include "script/Script.h"
+
+#include <chrono>
+#include <functional>
+#include <istream>
+#include <memory>
+
+namespace ombrivane::kit {
+
+/// Plays scripts over the pages of a wallet's own window: a customer whose taps are lines of text
+/// (`docs/journeys.md`), while bindings, slides and pictures run as they do in a hand.
+///
+/// One at a time, on the thread of the application object. Make it before the component opens.
+class PagePlayer {
+public:
+    /// Installs `ports` with a clock, a photo library, a reachability, and what opens and shares addresses
+    /// that scripts decide about. @param ports of `qtPlatform`; @throws std::invalid_argument where the main
+    /// queue is another's, since its timers cannot be moved on
+    explicit PagePlayer(Platform ports);
+    PagePlayer(const PagePlayer&) = delete;
+    PagePlayer& operator=(const PagePlayer&) = delete;
+
+    /// Where the clock of the component stands from here on: where that of the sandbox does.
+    void startAt(Date now) { clock_->startAt(now); }
+
+    /// A callback for the session that tells the script of each call (`wait-event callback`) and then calls
+    /// `wallet`, the callback under test.
+    CompletionCallback heardBy(CompletionCallback wallet);
+
+    /// Plays `lines` over the component in `session`; `open` and `destroy` in them are its `open` and `drop`.
+    /// The wallet's page has been made, and need not be open yet. Prints each event and, where the script
+    /// stops early, why.
+    journey::Ending play(std::istream& lines, view::OmbrivaneSession& session);
+
+    /// Turns the event loop until `done` holds or `limit` has passed. @return whether it held
+    static bool runUntil(const std::function<bool()>& done, std::chrono::milliseconds limit);
+
+private:
+    journey::EventLog log_{[] {}};
+    std::shared_ptr<AdjustableClock> clock_ = std::make_shared<AdjustableClock>();
+    std::shared_ptr<journey::ScriptedPhotos> photos_ = std::make_shared<journey::ScriptedPhotos>();
+    std::shared_ptr<journey::ScriptedReachability> reachability_ =
+        std::make_shared<journey::ScriptedReachability>();
+};
+
+} // namespace ombrivane::kit
