@@ -1,6 +1,7 @@
 #include "base/ErrorDomains.h"
 #include "booking/HandOverFlight.h"
 #include "outcomes/StandIn.h"
+#include "records/DecodeError.h"
 #include "records/Encode.h"
 #include "records/FlightBooking.h"
 #include "records/FlightsSummary.h"
@@ -147,29 +148,34 @@ Error errorOf(ErrorKind kind) {
     case ErrorKind::noConnection:
         return makeError(CustomError::noInternetConnection);
     case ErrorKind::serviceNotReached:
-        return of(errorDomain::network, NetworkError::notConnected, "Couldn't connect to server");
+        return of(
+            errorDomain::network, NetworkError::notConnected, "The booking service could not be reached.");
     case ErrorKind::serviceNotTrusted:
-        return of(errorDomain::network, NetworkError::notTrusted, "The certificate is not trusted.");
+        return of(errorDomain::network,
+                  NetworkError::notTrusted,
+                  "A secure connection to the booking service could not be made.");
     case ErrorKind::timedOut:
-        return of(errorDomain::network, NetworkError::timedOut, "The request timed out.");
+        return of(
+            errorDomain::network, NetworkError::timedOut, "The booking service did not answer in time.");
     case ErrorKind::connectionLost:
-        return of(errorDomain::network, NetworkError::broken, "The network connection was lost.");
+        return of(
+            errorDomain::network, NetworkError::broken, "The connection to the booking service was lost.");
     case ErrorKind::answerTooLarge:
         return of(errorDomain::network, NetworkError::tooLarge, "The answer is too large.");
     case ErrorKind::answerNotUnderstood:
-        return of(errorDomain::decoding, 0, "The data couldn't be read because it is missing.");
+        return of(errorDomain::decoding, 0, notUnderstood);
     case ErrorKind::credentialsRefused:
         return of(errorDomain::authentication, 0, "Invalid credentials.");
     case ErrorKind::refused:
         return of(errorDomain::service, ServiceError::refused, "Sorry! The service is closed.");
     case ErrorKind::answerMissing:
-        return of(errorDomain::service, ServiceError::unanswered, "");
+        return of(errorDomain::service, ServiceError::unanswered, "The operation ended without an answer.");
     case ErrorKind::invalidRequest:
         return of(errorDomain::encoding, 0, "The request could not be written.");
     case ErrorKind::unforeseen:
         break;
     }
-    return of(errorDomain::service, ServiceError::notCompleted, "");
+    return of(errorDomain::service, ServiceError::notCompleted, "The operation could not be completed.");
 }
 
 } // namespace ombrivane::kit

@@ -68,7 +68,8 @@ Dictionary reservation(const Booked& booked = {});
 /// The dictionary that `StandIn::paid` hands over.
 Dictionary confirmation(const Booked& booked = {});
 
-/// An error of that kind, with a domain and a code that the component gives it. `kindOf` of it is `kind`.
+/// An error of that kind, with a domain, a code and the words that the component gives it; where the words
+/// are the service's, with some of them. `kindOf` of it is `kind`.
 Error errorOf(ErrorKind kind);
 
 } // namespace ombrivane::kit

@@ -108,6 +108,7 @@ TEST_F(StandInTest, FailsInEachKindOnItsThread) {
                         [this] { heard.emplace_back("close"); });
         failing.failed(wanted);
         EXPECT_EQ(onMain, here.count(wanted) == 1) << nameOf(wanted);
+        EXPECT_NE(errorOf(wanted).localizedDescription, "") << nameOf(wanted);
         world.queue->drain();
         EXPECT_EQ(heard, (std::vector<std::string>{std::string(nameOf(wanted)), "close"}));
     }
