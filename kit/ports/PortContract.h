@@ -35,7 +35,7 @@ Findings checkMainQueue(const std::shared_ptr<MainQueue>& queue, const RunUntil&
 Findings checkPhotoLibrary(const std::shared_ptr<PhotoLibrary>& photos, const PhotoCustomer& customer,
                            const RunUntil& runUntil);
 
-/// Holds a measure against `platform/ReachabilityMeasure.h`: it answers, within five seconds and from any
+/// Holds a measure against `platform/ReachabilityMeasure.h`: it answers, within three seconds and from any
 /// thread, and finds the way to a service on this machine. Any thread.
 Findings checkReachability(const std::shared_ptr<ReachabilityMeasure>& reachability);
 

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <future>
 #include <map>
 #include <thread>
 
@@ -165,6 +166,15 @@ struct WrongReachability final : ReachabilityMeasure {
     std::optional<std::uint32_t> word;
 };
 
+/// Never says anything, until it is let go.
+struct SilentReachability final : ReachabilityMeasure {
+    std::optional<std::uint32_t> flags(const std::string& /*host*/) override {
+        end.get_future().wait();
+        return std::nullopt;
+    }
+    std::promise<void> end;
+};
+
 struct WrongClock final : Clock {
     explicit WrongClock(milliseconds each) : step(each) {}
     Date now() override { return Date() + step * ++asked; }
@@ -200,6 +210,10 @@ TEST(PortContractTest, FindsWhatADeviceTellsOtherwise) {
     EXPECT_TRUE(tells(reachability(std::nullopt), "flags(\"localhost\"): gives no flag word"));
     EXPECT_TRUE(tells(reachability(0), "flags(\"::1\"): finds no way"));
     EXPECT_TRUE(tells(reachability(6), "flags(\"127.0.0.1\"): wants a connection"));
+    const auto silent = std::make_shared<SilentReachability>();
+    EXPECT_EQ(checkReachability(silent),
+              Findings{"flags(\"localhost\"): has not answered within three seconds"});
+    silent->end.set_value();
     EXPECT_TRUE(tells(checkClock(std::make_shared<WrongClock>(milliseconds(0))), "now: stands still"));
     EXPECT_TRUE(tells(checkClock(std::make_shared<WrongClock>(milliseconds(-50))), "now: goes back"));
     EXPECT_TRUE(tells(checkClock(std::make_shared<WrongClock>(std::chrono::minutes(1))), "now: runs ahead"));
