@@ -20,7 +20,10 @@ if(OMBRIVANE_PACKS_RELOCATIONS)
     list(APPEND thrifty -Wl,-z,pack-relative-relocs)
 endif()
 function(ombrivane_small target)
-    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-Os> $<$<CONFIG:Release>:-ffunction-sections>)
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-Os> $<$<CONFIG:Release>:-ffunction-sections>
+        # Where it was built is nobody's business, and what is built elsewhere is the same to the byte.
+        $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>
+        $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_BINARY_DIR}/=>)
     target_link_options(${target} INTERFACE "$<BUILD_INTERFACE:$<$<CONFIG:Release>:${thrifty}>>")
 endfunction()
 

@@ -6,9 +6,6 @@
 
 #include <utility>
 
-#include <sys/socket.h>
-#include <unistd.h>
-
 namespace ombrivane {
 namespace {
 
@@ -89,7 +86,7 @@ CurlTransfer::CurlTransfer(HttpRequest request, HttpCompletion completion, const
 }
 
 CurlTransfer::~CurlTransfer() {
-    if (connected_ >= 0) ::close(connected_);
+    if (connected_ != noSocket) closeSocket(connected_);
 }
 
 void CurlTransfer::carryBody() {
@@ -129,8 +126,8 @@ void CurlTransfer::isolate() {
     set(handle(), CURLOPT_FOLLOWLOCATION, 0L);
 }
 
-void CurlTransfer::useConnection(int socket) {
-    if (socket < 0) return;
+void CurlTransfer::useConnection(Socket socket) {
+    if (socket == noSocket) return;
     connected_ = socket;
     set(handle(), CURLOPT_OPENSOCKETFUNCTION, &CurlTransfer::openSocket);
     set(handle(), CURLOPT_OPENSOCKETDATA, this);
@@ -139,7 +136,7 @@ void CurlTransfer::useConnection(int socket) {
 }
 
 bool CurlTransfer::canStartAfresh(CURLcode result) {
-    if (std::exchange(adopted_, -1) < 0) return false;
+    if (std::exchange(adopted_, noSocket) == noSocket) return false;
     if (result != CURLE_SSL_CONNECT_ERROR && result != CURLE_RECV_ERROR && result != CURLE_SEND_ERROR)
         return false;
     curl_off_t secured = 0;
@@ -149,9 +146,10 @@ bool CurlTransfer::canStartAfresh(CURLcode result) {
 
 curl_socket_t CurlTransfer::openSocket(void* self, curlsocktype /*purpose*/, curl_sockaddr* address) {
     auto& transfer = *static_cast<CurlTransfer*>(self);
-    if (transfer.connected_ < 0) return ::socket(address->family, address->socktype, address->protocol);
+    if (transfer.connected_ == noSocket)
+        return newSocket(address->family, address->socktype, address->protocol);
     transfer.adopted_ = transfer.connected_;
-    return std::exchange(transfer.connected_, -1);
+    return std::exchange(transfer.connected_, noSocket);
 }
 
 int CurlTransfer::adoptSocket(void* self, curl_socket_t socket, curlsocktype /*purpose*/) {

@@ -2,6 +2,7 @@
 
 #include "platform/CurlSettings.h"
 #include "platform/HttpRequest.h"
+#include "platform/Socket.h"
 
 #include <curl/curl.h>
 
@@ -29,7 +30,7 @@ public:
     /// Whether its connection is to be its own.
     bool isIsolated() const { return isolated_; }
     /// Goes out over a connected `socket`, which becomes its own; without a socket (-1) it connects.
-    void useConnection(int socket);
+    void useConnection(Socket socket);
     /// Whether a connection that was opened ahead turned out to be dead before TLS stood on it: nothing has
     /// been said to the server, and the transfer can be started once more over a new one.
     bool canStartAfresh(CURLcode result);
@@ -70,8 +71,8 @@ private:
     std::size_t piece_ = 0;  ///< that is being sent
     std::size_t offset_ = 0; ///< within it
     bool isolated_ = false;
-    int connected_ = -1; ///< a socket that libcurl has not asked for yet
-    int adopted_ = -1;   ///< the same afterwards; libcurl's own
+    Socket connected_ = noSocket; ///< a socket that libcurl has not asked for yet
+    Socket adopted_ = noSocket;   ///< the same afterwards; libcurl's own
     std::string received_;
     std::size_t headerBytes_ = 0;
     std::string tooLarge_; ///< what is larger than its limit

@@ -1,38 +1,36 @@
 #include "platform/RouteReachability.h"
 
+#include "platform/Socket.h"
+
 #include <array>
 #include <string_view>
 
+#if defined(_WIN32)
+#include <ws2tcpip.h>
+#else
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
-#include <unistd.h>
+#endif
 
 namespace ombrivane {
 namespace {
 
-// Systems that lack the flag start no programs from an application.
-#ifdef SOCK_CLOEXEC
-constexpr int socketKind = SOCK_DGRAM | SOCK_CLOEXEC;
-#else
-constexpr int socketKind = SOCK_DGRAM;
-#endif
-
 using Flags = std::optional<std::uint32_t>;
 
-template <class Address> Flags routeTo(const Address& target, sa_family_t family) {
-    const int handle = socket(family, socketKind, 0);
-    if (handle < 0) return std::nullopt;
+template <class Address> Flags routeTo(const Address& target, int family) {
+    const Socket handle = newSocket(family, SOCK_DGRAM, 0);
+    if (handle == noSocket) return std::nullopt;
     // Connecting a datagram socket chooses the route and sends nothing.
     const bool routed = connect(handle, reinterpret_cast<const sockaddr*>(&target), sizeof target) == 0;
-    close(handle);
+    closeSocket(handle);
     return routed ? reachableFlag : 0U;
 }
 
 /// Whether there is a route to `text`; nothing when that is no address, or none of a family that the system
 /// knows.
 Flags routeTo(const std::string& text) {
-    constexpr in_port_t port = 443;
+    constexpr std::uint16_t port = 443;
     sockaddr_in v4{};
     v4.sin_family = AF_INET;
     v4.sin_port = htons(port);

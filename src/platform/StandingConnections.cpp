@@ -1,12 +1,7 @@
 #include "platform/StandingConnections.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace ombrivane {
 namespace {
@@ -26,13 +21,6 @@ std::string serverOf(const std::string& url) {
     return part(parsed.get(), CURLUPART_HOST) + ":" + part(parsed.get(), CURLUPART_PORT);
 }
 
-/// Whether the server still holds its end: it says nothing before it is spoken to.
-bool isHeld(int socket) {
-    char byte = 0;
-    const auto read = ::recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT);
-    return read < 0 && (errno == EAGAIN || errno == EWOULDBLOCK);
-}
-
 } // namespace
 
 StandingConnections::~StandingConnections() {
@@ -43,8 +31,8 @@ StandingConnections::~StandingConnections() {
 void StandingConnections::close(Standing& standing) {
     if (standing.opening) curl_multi_remove_handle(multi_, standing.opening.get());
     standing.opening.reset();
-    if (standing.socket >= 0) ::close(standing.socket);
-    standing.socket = -1;
+    if (standing.socket != noSocket) closeSocket(standing.socket);
+    standing.socket = noSocket;
 }
 
 template <class Chosen> void StandingConnections::closeWhere(const Chosen& chosen) {
@@ -84,25 +72,27 @@ bool StandingConnections::opened(CURL* handle, CURLcode result) {
         return standing.opening.get() == handle;
     });
     if (found == standing_.end()) return false;
-    curl_socket_t socket = CURL_SOCKET_BAD;
+    Socket socket = noSocket;
     if (result == CURLE_OK) curl_easy_getinfo(handle, CURLINFO_ACTIVESOCKET, &socket);
     // libcurl closes its own descriptor with the handle; the connection lives on in the other.
-    const int kept = socket == CURL_SOCKET_BAD ? -1 : ::fcntl(socket, F_DUPFD_CLOEXEC, 0);
+    const Socket kept = socket == noSocket ? noSocket : duplicateOf(socket);
     close(*found);
     found->socket = kept;
-    if (kept < 0) standing_.erase(found);
+    if (kept == noSocket) standing_.erase(found);
     return true;
 }
 
-int StandingConnections::take(const std::string& url) {
+Socket StandingConnections::take(const std::string& url) {
     closeOld();
-    closeWhere([](const Standing& standing) { return standing.socket >= 0 && !isHeld(standing.socket); });
+    // A server that has not left says nothing before it is spoken to.
+    closeWhere(
+        [](const Standing& standing) { return standing.socket != noSocket && !isSilent(standing.socket); });
     const std::string server = serverOf(url);
     const auto found = std::find_if(standing_.begin(), standing_.end(), [&](const Standing& standing) {
-        return standing.server == server && standing.socket >= 0;
+        return standing.server == server && standing.socket != noSocket;
     });
-    if (found == standing_.end()) return -1;
-    const int socket = found->socket;
+    if (found == standing_.end()) return noSocket;
+    const Socket socket = found->socket;
     standing_.erase(found);
     return socket;
 }

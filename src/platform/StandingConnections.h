@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Limits.h"
+#include "platform/Socket.h"
 
 #include <curl/curl.h>
 
@@ -29,9 +30,9 @@ public:
     /// Takes over what libcurl has done with `handle`. False when the handle is none of those that open.
     bool opened(CURL* handle, CURLcode result);
 
-    /// A connected socket to the host of `url` that its server has not left; the caller closes it. -1 where
-    /// there is none.
-    int take(const std::string& url);
+    /// A connected socket to the host of `url` that its server has not left; the caller closes it.
+    /// `noSocket` where there is none.
+    Socket take(const std::string& url);
 
     /// Closes those that nobody took in time.
     void closeOld();
@@ -50,7 +51,7 @@ private:
         std::string server; ///< "host:port"
         Time since;
         std::unique_ptr<CURL, FreeHandle> opening{}; ///< until it is connected
-        int socket = -1;
+        Socket socket = noSocket;
     };
 
     void close(Standing& standing);
