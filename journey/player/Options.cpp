@@ -57,6 +57,7 @@ Options Options::parse(const std::vector<std::string>& arguments) {
         {"--time-zone", [&](Value value) { options.timeZone = value; }},
         {"--locale", [&](Value value) { options.locale = value; }},
         {"--fonts", [&](Value value) { options.fonts = value; }},
+        {"--record", [&](Value value) { options.record = value; }},
         {"--system", [&](Value value) { options.system = systemVersion(value); }},
         {"--reachability",
          [&](Value value) { options.reachability = static_cast<std::uint32_t>(number(value)); }},
@@ -96,6 +97,7 @@ std::string Options::usage() {
            "  --system TEXT           such as \"iOS 13.7\"\n"
            "  --reachability FLAGS    the flag word of the network; measured where left out\n"
            "  --fonts FOLDER          where the component finds its fonts; it finds none where left out\n"
+           "  --record FILE           writes the last opening there, as a script that plays again\n"
            "  --diagnostics           prints the component's diagnostic lines as well\n\n"
            "Exit status: 0 the script is done, 1 an expectation failed, 2 a line or an option is bad, 3 a "
            "fault.\n\n";

@@ -25,6 +25,7 @@ struct Options {
     std::optional<std::string> timeZone;
     std::optional<std::string> locale;
     std::string fonts;
+    std::string record;
     SystemVersion system{"Linux", 0, 0};
     std::optional<std::uint32_t> reachability;
     bool diagnostics = false;

@@ -56,7 +56,10 @@ public:
 
     Ending play(std::istream& script) {
         open();
-        return Script(stage()).play(script);
+        const Ending ending = Script(stage()).play(script);
+        drop();
+        if (!options_.record.empty()) std::ofstream(options_.record) << recorded_;
+        return ending;
     }
 
 private:
@@ -86,6 +89,7 @@ private:
             .advance = [this](auto duration) { loop_->advance(duration); },
             .open = [this] { open(); },
             .destroy = [this] { drop(); },
+            .restore = [this](const auto& state) { open(state); },
             .navigator = [this] { return view_ ? view_->navigator() : nullptr; },
             .faulted = [this] { return faulted_.load(); },
             .log = log_,
@@ -97,11 +101,12 @@ private:
 
     /// As a page is let go of before its component.
     void drop() {
+        if (view_ && !options_.record.empty()) recorded_ = view_->recording();
         onlooker_.follow(nullptr);
         view_.reset();
     }
 
-    void open() {
+    void open(const std::string& kept = "") {
         drop();
         view_ = std::make_unique<OmbrivaneView>(
             options_.clientId,
@@ -116,6 +121,8 @@ private:
             drop();
         };
         view_->onClose(close, close);
+        if (!kept.empty()) view_->restoreState(kept);
+        if (!options_.record.empty()) view_->record();
         guarded([this] { view_->show(); });
         if (view_) onlooker_.follow(view_->navigator());
     }
@@ -141,6 +148,7 @@ private:
     std::shared_ptr<ScriptedPhotos> photos_ = std::make_shared<ScriptedPhotos>();
     std::atomic<bool> faulted_ = false;
     std::unique_ptr<OmbrivaneView> view_;
+    std::string recorded_; ///< of the view that was dropped last
     Onlooker onlooker_;
     Subscription receipts_;
 };

@@ -93,6 +93,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"reachability", [this](const std::string& arguments) { setReachability(arguments); }},
         {"destroy", [this](const std::string&) { stage_.destroy(); }},
         {"open", [this](const std::string&) { stage_.open(); }},
+        {"restore", [this](const std::string& state) { restore(state); }},
         {"play", [this](const std::string& file) { playFile(file); }},
         {"repeat", [this](const std::string& arguments) { repeat(arguments); }},
         {"resources", [this](const std::string&) { resources(); }},
@@ -130,6 +131,7 @@ std::string Script::help() {
            "  reachability FLAGS            the flag word of the network from here on\n"
            "  destroy                       drops the view, as a host may at any time\n"
            "  open                          shows it again\n"
+           "  restore STATE                 the same, with a form as it was kept\n"
            "  play FILE                     the lines of another script\n"
            "  repeat NUMBER FILE            the same, so many times\n"
            "  resources                     the memory (KB), threads and open files of this process\n"
@@ -211,6 +213,12 @@ std::string Script::seen(const std::string& path) const {
     } catch (const KeyedError& error) {
         return error.what();
     }
+}
+
+void Script::restore(const std::string& state) {
+    if (!stage_.restore) throw BadLine("this wallet restores nothing");
+    if (!OmbrivaneView::isState(state)) throw BadLine("this is no kept state");
+    stage_.restore(state);
 }
 
 void Script::show() { stage_.log.answer(Json{{"stack", describe(navigator())}}); }

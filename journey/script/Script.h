@@ -24,6 +24,8 @@ struct Stage {
     std::function<void()> open;
     /// Drops the view.
     std::function<void()> destroy;
+    /// Shows a fresh view that takes up a kept state; empty where a program cannot.
+    std::function<void(const std::string& state)> restore = {};
     /// The stack of the view; nullptr while there is none.
     std::function<Navigator*()> navigator;
     /// Whether a fault has happened.
@@ -62,6 +64,7 @@ private:
     void playFile(const std::string& file);
     void repeat(const std::string& arguments);
     void resources();
+    void restore(const std::string& state);
     void show();
     void get(const std::string& path);
     void set(const std::string& arguments);

@@ -77,7 +77,8 @@ std::string Recorder::journey() const {
     for (const auto& argument : service_)
         text += fmt::format("#: sandbox {}\n", argument);
     text += fmt::format("#: wallet --now {} --locale {}\n", began_, platform().localization->locale());
-    if (!form_.empty()) text += fmt::format("restore {}\n", form_);
+    // A form that nobody has seen is of no use, and would have the component opened twice.
+    if (hasDeeds_) text += fmt::format("restore {}\n", form_);
     for (const auto& line : lines_)
         text += line + '\n';
     return text;
@@ -101,6 +102,7 @@ void Recorder::did(const Screen& screen, std::string_view key, const std::vector
     if (std::exchange(isOffline_, false)) write("reachability 2");
     if (!key.empty()) write(fmt::format("wait {} {{\"enabled\":true}}", *path));
     lastDeed_ = lines_.size();
+    hasDeeds_ = true;
     std::string line = key.empty() ? "back" : "tap " + *path;
     for (const Json& value : arguments)
         line += ' ' + argument(key, value).dump();
@@ -123,6 +125,9 @@ void Recorder::happened(const Event& event) {
         write("# the ten minutes were over");
         break;
     case EventKind::closed:
+        if (event.closedBy == ClosedBy::reservation)
+            write("wait-event callback {\"dictionary\":{\"exit\":true}}");
+        if (event.closedBy == ClosedBy::error) write("wait-event callback {\"dictionary\":null}");
         write(event.closedBy == ClosedBy::host ? "destroy" : "wait-event closed");
         break;
     default:

@@ -47,7 +47,8 @@ private:
     mutable std::mutex mutex_; ///< ended calls come from threads of the network
     Date last_;                ///< when the last line was written
     std::vector<std::string> lines_;
-    std::size_t lastDeed_ = 0;
+    std::size_t lastDeed_ = 0; ///< its line
+    bool hasDeeds_ = false;
     std::vector<std::string> service_; ///< arguments of the sandbox
     std::map<std::string, std::size_t, std::less<>> calls_;
     bool isOffline_ = false;
