@@ -1,10 +1,40 @@
 #include "DemoOptions.h"
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <stdexcept>
 
 namespace ombrivane::demo {
+namespace {
+
+constexpr int brands = 3;
+constexpr int largest = 10000;
+
+/// All of `text` as a number from `least` to `most`.
+double number(const std::string& text, double least, double most) {
+    std::size_t read = 0;
+    double value = least - 1;
+    try {
+        value = std::stod(text, &read);
+    } catch (const std::logic_error&) {
+        read = 0;
+    }
+    if (read == 0 || read != text.size() || !(value >= least && value <= most))
+        throw std::invalid_argument(text + " is no number that can be used here");
+    return value;
+}
+
+int whole(const std::string& text, int least, int most) {
+    return static_cast<int>(number(text, least, most));
+}
+
+void checkScript(const std::string& script) {
+    if (script.empty() || script == "-" || std::filesystem::is_regular_file(script)) return;
+    throw std::invalid_argument("there is no script " + script);
+}
+
+} // namespace
 
 DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
     using Value = const std::string&;
@@ -14,19 +44,21 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--ca", [&](Value value) { options.ca = value; }},
         {"--client-id", [&](Value value) { options.clientId = value; }},
         {"--client-secret", [&](Value value) { options.clientSecret = value; }},
-        {"--wallet-balance", [&](Value value) { options.walletBalance = std::stod(value); }},
+        {"--wallet-balance", [&](Value value) { options.walletBalance = number(value, 0, 1e12); }},
         {"--script", [&](Value value) { options.script = value; }},
         {"--pictures", [&](Value value) { options.pictures = value; }},
         {"--picture", [&](Value value) { options.picture = value; }},
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
+        {"--scenario", [&](Value value) { options.scenarios.push_back(value); }},
+        {"--brand", [&](Value value) { options.brand = whole(value, 1, brands) - 1; }},
         {"--now", [&](Value value) { options.now = value; }},
         {"--locale", [&](Value value) { options.locale = value; }},
         {"--language", [&](Value value) { options.language = value; }},
         {"--region", [&](Value value) { options.region = value; }},
         {"--time-zone", [&](Value value) { options.timeZone = value; }},
-        {"--text-scale", [&](Value value) { options.textScale = std::stod(value); }},
-        {"--width", [&](Value value) { options.width = std::stoi(value); }},
-        {"--height", [&](Value value) { options.height = std::stoi(value); }},
+        {"--text-scale", [&](Value value) { options.textScale = number(value, 0.5, 4); }},
+        {"--width", [&](Value value) { options.width = whole(value, 100, largest); }},
+        {"--height", [&](Value value) { options.height = whole(value, 100, largest); }},
     };
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
@@ -38,6 +70,8 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
             options.stillMotion = true;
         } else if (argument == "--slow") {
             options.faults.emplace_back("* latency=1500");
+        } else if (argument == "--strip") {
+            options.strip = true;
         } else if (const auto option = valued.find(argument); option != valued.end()) {
             if (++i == arguments.size()) throw std::invalid_argument(argument + " wants a value");
             option->second(arguments[i]);
@@ -45,12 +79,15 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
             throw std::invalid_argument("there is no option " + argument);
         }
     }
+    checkScript(options.script);
     return options;
 }
 
 std::string DemoOptions::usage() {
     return "ombrivane-demo [OPTIONS]\n"
-           "A wallet with a window: a balance, a tile that opens the component, and what it handed back. "
+           "A wallet with a window: a balance, a tile that opens the component, and a receipt for what it "
+           "handed\n"
+           "back; beside it a strip of conditions: looks, languages, brands, and what a customer may meet. "
            "Without\n"
            "--test-host it runs a booking service of its own on this machine.\n\n"
            "  --test-host URL      --ca FILE          another booking service, and the certificates to "
@@ -60,11 +97,14 @@ std::string DemoOptions::usage() {
            "  --locale NAME        --time-zone NAME   in place of the system's own\n"
            "  --language TAG       --region NAME      what the wallet chooses: ne, ar, device; NP\n"
            "  --dark               --text-scale N     --width N   --height N   --still (no motion)\n"
-           "  --slow               --fault TEXT       trouble of the own booking service, see "
+           "  --brand N            --strip            one of its three brands; the strip in a script too\n"
+           "  --scenario NAME      --fault TEXT       trouble of the own booking service, see "
            "docs/sandbox.md\n"
-           "  --script FILE        plays a script against the pages; it knows three commands more:\n"
-           "                       texts (every visible text), picture FILE, and look NAME, which takes\n"
-           "                       a picture into the folder of --pictures DIR\n"
+           "  --slow               every answer takes a second and a half longer\n"
+           "  --script FILE        plays a script against the pages; it knows these commands more:\n"
+           "                       texts (every visible text), picture FILE, look NAME (a picture into the\n"
+           "                       folder of --pictures DIR), click NAME (an item by its object name),\n"
+           "                       faults [FAULT] (of the own booking service), figures\n"
            "  --picture FILE       takes a picture of the first screen and ends\n";
 }
 

@@ -17,6 +17,7 @@ struct DemoOptions {
     std::string pictures = "."; ///< folder of the pictures that a script's "look" takes
     std::string picture;        ///< takes a picture of the first screen and ends
     std::vector<std::string> faults;
+    std::vector<std::string> scenarios;
     std::string now;
     std::string locale;                  ///< such as "ne_NP"; empty for the system's
     std::optional<std::string> language; ///< what the wallet chooses: a tag, or "device"
@@ -24,12 +25,18 @@ struct DemoOptions {
     std::string timeZone;                ///< such as "Asia/Kathmandu"; empty for the system's
     bool dark = false;                   ///< dark whatever the device says
     std::optional<double> textScale;     ///< absent: as the device says
-    int width = 390;
+    int brand = 0;                       ///< the position in the wallet's brands
+    bool strip = false;                  ///< shows the strip of conditions in a script too
+    int width = 390;                     ///< of the phone, without the strip
     int height = 844;
     bool stillMotion = false; ///< without motion whatever the device says
     bool help = false;
 
-    /// @throws std::invalid_argument that says what is wrong
+    /// Whether a customer uses it, and no script.
+    bool isByHand() const { return script.empty() && picture.empty(); }
+
+    /// @throws std::invalid_argument that says what is wrong: an option, its value, or a script that is not
+    /// there
     static DemoOptions parse(const std::vector<std::string>& arguments);
     static std::string usage();
 };

@@ -1,53 +1,52 @@
 #include "DemoWallet.h"
 
+#include "Brands.h"
+#include "Onscreen.h"
 #include "appearance/ThemedScope.h"
 #include "base/Fault.h"
 #include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
-#include "session/Reservations.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QEventLoop>
-#include <QQuickItem>
+#include <QFontDatabase>
 #include <QTimer>
 
 #include <fstream>
 #include <iostream>
+#include <stdexcept>
 
 namespace ombrivane::demo {
 namespace {
 
 using journey::Ending;
 
-constexpr int shownReceipts = 20;
+/// The wallet is written in the component's letters, from its first frame on.
+void addFonts() {
+    const QDir folder(":/com.framework.Ombrivane/fonts");
+    for (const QString& file : folder.entryList({"*.ttf"}, QDir::Files, QDir::Name))
+        QFontDatabase::addApplicationFont(folder.filePath(file));
+}
 
-/// Every text item below `item` that can be seen, with where it stands.
-void collectTexts(const QQuickItem* item, Json& texts) {
-    if (!item->isVisible() || item->opacity() == 0) return;
-    if (item->inherits("QQuickText")) {
-        const QRectF place = item->mapRectToScene(item->boundingRect());
-        texts.push_back(
-            Json{{"text", item->property("text").toString().toStdString()},
-                 {"format", item->property("textFormat").toInt() == Qt::PlainText ? "plain" : "other"},
-                 {"name",
-                  QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(item)) != nullptr
-                      ? QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(item))
-                            ->text(QAccessible::Name)
-                            .toStdString()
-                      : ""},
-                 {"rectangle", {place.x(), place.y(), place.width(), place.height()}}});
-    }
-    for (const QQuickItem* child : item->childItems())
-        collectTexts(child, texts);
+std::vector<std::string> namesOf(const QStringList& names) {
+    std::vector<std::string> all;
+    for (const QString& name : names)
+        all.push_back(name.toStdString());
+    return all;
 }
 
 } // namespace
 
-DemoWallet::DemoWallet(DemoOptions options) : options_(std::move(options)) {
+DemoWallet::DemoWallet(DemoOptions options, sandbox::Sandbox* service) :
+    options_(std::move(options)),
+    service_(service),
+    account_(options_.walletBalance),
+    conditions_(service != nullptr) {
+    started_.start();
     setFaultHandler([this](const std::string& text) {
         faulted_ = true;
         log_.event(Json{{"event", "fault"}, {"text", text}});
@@ -57,13 +56,18 @@ DemoWallet::DemoWallet(DemoOptions options) : options_(std::move(options)) {
     if (window_ != nullptr) listen();
 }
 
+/// Everything that the ports and their threads may still call goes after them, and they go before the
+/// application.
 DemoWallet::~DemoWallet() {
-    receipts_.cancel();
+    if (session_ != nullptr) session_->drop();
+    figures_.reset();
     window_ = nullptr;
+    session_ = nullptr;
     engine_.reset();
     Platform::endNetwork();
     runUntil([] { return false; }, std::chrono::milliseconds(0));
     dropSharedInstances();
+    Platform::install({});
     setFaultHandler(nullptr);
 }
 
@@ -71,6 +75,8 @@ void DemoWallet::installPlatform() {
     Platform ports = view::qtPlatform(options_.ca);
     ports.mainQueue = queue_;
     ports.clock = clock_;
+    if (!options_.isByHand()) ports.reachability = scripted_;
+    reachability_ = std::make_shared<SwitchedReachability>(ports.reachability);
     ports.reachability = reachability_;
     if (!options_.locale.empty() || !options_.timeZone.empty()) {
         const auto localization = std::make_shared<SystemLocalization>();
@@ -92,58 +98,86 @@ void DemoWallet::installPlatform() {
 }
 
 void DemoWallet::makeWindow() {
+    addFonts();
+    if (options_.dark) conditions_.setLook("dark");
+    if (options_.textScale) conditions_.setTextScale(*options_.textScale);
+    if (options_.language) conditions_.setLanguage(QString::fromStdString(*options_.language));
+    conditions_.setBrand(options_.brand);
+    QStringList scenarios;
+    for (const auto& name : options_.scenarios)
+        scenarios.append(QString::fromStdString(name));
+    conditions_.begin(service_ != nullptr ? scenarios : QStringList());
     engine_ = std::make_unique<QQmlApplicationEngine>();
     engine_->addImportPath("qrc:/com.framework.Ombrivane/demo");
-    engine_->setInitialProperties(
-        {{"balance", options_.walletBalance}, {"width", options_.width}, {"height", options_.height}});
+    engine_->setInitialProperties({{"account", QVariant::fromValue(&account_)},
+                                   {"conditions", QVariant::fromValue(&conditions_)},
+                                   {"phoneWidth", options_.width},
+                                   {"phoneHeight", options_.height},
+                                   {"showsStrip", options_.isByHand() || options_.strip}});
     engine_->load(QUrl("qrc:/com.framework.Ombrivane/demo/OmbrivaneDemo/Wallet.qml"));
     if (engine_->rootObjects().isEmpty()) return;
     window_ = qobject_cast<QQuickWindow*>(engine_->rootObjects().constFirst());
-    auto* component = window_->findChild<view::ThemedScope*>("component");
-    if (options_.dark) component->setDark(true);
-    if (options_.textScale) component->setTextScale(*options_.textScale);
-    if (options_.stillMotion) component->setMotionReduced(true);
+    figures_ = std::make_unique<Figures>(*window_, started_);
+    follow();
+    if (options_.stillMotion) window_->findChild<view::ThemedScope*>("component")->setMotionReduced(true);
     session_ = window_->findChild<view::OmbrivaneSession*>();
     session_->clientId = QString::fromStdString(options_.clientId);
     session_->clientSecret = QString::fromStdString(options_.clientSecret);
-    if (options_.language) session_->setLanguage(QString::fromStdString(*options_.language));
     if (options_.region) session_->setRegion(QString::fromStdString(*options_.region));
+}
+
+/// What the conditions say of the look and the language.
+void DemoWallet::follow() {
+    account_.setLocale(locale());
+    window_->findChild<view::ThemedScope*>("component")
+        ->setAppearance(brands().at(conditions_.brand()).appearance);
+}
+
+QLocale DemoWallet::locale() const {
+    const QLocale device(QString::fromStdString(platform().localization->locale()));
+    const QString language = conditions_.language();
+    if (language == "device") return device;
+    const QString tag = language.isEmpty() ? QStringLiteral("en") : language;
+    const QLocale own(tag);
+    const QLocale::Territory territory =
+        options_.region      ? QLocale::codeToTerritory(QString::fromStdString(*options_.region))
+        : language.isEmpty() ? device.territory()
+                             : own.territory();
+    return {own.language(), territory};
 }
 
 void DemoWallet::listen() {
     session_->setCallback([this](auto dictionary, auto error) { receive(dictionary, error); });
-    receipts_ = Reservations::shared().observe([this] {
-        while (const auto reserved = Reservations::shared().take()) {
-            const std::string pnr = reserved->at("bookingSummary").value("PNR", "");
-            if (!options_.script.empty()) log_.event(Json{{"event", "reservation"}, {"PNR", pnr}});
-            addReceipt("Reserved: " + pnr);
-        }
-    });
     QObject::connect(session_, &view::OmbrivaneSession::closed, window_, [this] {
         if (!options_.script.empty()) log_.event(Json{{"event", "closed"}});
         QMetaObject::invokeMethod(window_, "closeComponent");
     });
+    QObject::connect(&account_, &WalletAccount::kept, window_, [this](const QString& number) {
+        if (!options_.script.empty())
+            log_.event(Json{{"event", "reservation"}, {"PNR", number.toStdString()}});
+    });
+    QObject::connect(&conditions_, &Conditions::changed, window_, [this] { follow(); });
+    QObject::connect(&conditions_, &Conditions::turned, window_, [this] {
+        reachability_->setOffline(conditions_.isOffline());
+        if (service_ != nullptr) service_->setScenarios(namesOf(conditions_.scenarios()));
+    });
 }
 
 void DemoWallet::receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
+    if (error) {
+        queue_->async(
+            [this, text = QString::fromStdString(error->localizedDescription)] { account_.end(text); });
+    }
+    if (options_.script.empty()) return;
     Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
-    if (dictionary) event["dictionary"] = *dictionary;
+    if (dictionary) event["dictionary"] = withoutToken(*dictionary);
     if (error) {
         event["error"] = Json{{"domain", error->domain},
                               {"code", error->code},
                               {"localizedDescription", error->localizedDescription}};
-        queue_->async([this, text = "Failed: " + error->localizedDescription] { addReceipt(text); });
     }
     event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
     log_.event(std::move(event));
-}
-
-void DemoWallet::addReceipt(const std::string& text) {
-    if (window_ == nullptr) return;
-    auto receipts = window_->property("receipts").toStringList();
-    receipts.prepend(QString::fromStdString(text));
-    if (receipts.size() > shownReceipts) receipts.removeLast();
-    window_->setProperty("receipts", receipts);
 }
 
 bool DemoWallet::runUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) {
@@ -169,34 +203,56 @@ journey::Stage DemoWallet::stage() {
         .faulted = [this] { return faulted_.load(); },
         .log = log_,
         .clock = *clock_,
-        .reachability = *reachability_,
+        .reachability = *scripted_,
         .photos = *photos_,
     };
 }
 
 int DemoWallet::playScript() {
+    if (options_.script == "-") return play(std::cin);
+    std::ifstream lines(options_.script);
+    return play(lines);
+}
+
+int DemoWallet::play(std::istream& lines) {
     QMetaObject::invokeMethod(window_, "openComponent");
     journey::Script script(stage());
-    script.addCommand("texts", [this](const std::string&) { writeTexts(); });
+    script.addCommand("texts", [this](const std::string&) {
+        log_.answer(Json{{"texts", visibleTexts(*window_)}});
+    });
     script.addCommand("picture", [this](const std::string& file) { writePicture(file); });
     script.addCommand(
         "look", [this](const std::string& name) { writePicture(options_.pictures + "/" + name + ".png"); });
-    if (options_.script == "-") return static_cast<int>(script.play(std::cin));
-    std::ifstream lines(options_.script);
-    if (!lines) return static_cast<int>(Ending::badLine);
+    script.addCommand("click", [this](const std::string& name) { click(name); });
+    script.addCommand("faults", [this](const std::string& fault) { setFaults(fault); });
+    script.addCommand("figures", [this](const std::string&) {
+        log_.answer(Json{{"figures", figures_->json()}});
+    });
     return static_cast<int>(script.play(lines));
 }
 
-void DemoWallet::writeTexts() {
-    Json texts = Json::array();
-    collectTexts(window_->contentItem(), texts);
-    log_.answer(Json{{"texts", texts}});
+void DemoWallet::click(const std::string& name) {
+    const QQuickItem* item = nullptr;
+    const auto isThere = [&] {
+        item = visibleItem(*window_, QString::fromStdString(name));
+        return item != nullptr && item->width() > 0 && item->height() > 0;
+    };
+    if (!runUntil(isThere, std::chrono::seconds(10)))
+        throw std::invalid_argument("there is nothing to click on that is called " + name);
+    pressOn(*item, true);
+    runUntil([] { return false; }, std::chrono::milliseconds(0));
+    pressOn(*item, false);
+}
+
+void DemoWallet::setFaults(const std::string& fault) {
+    if (service_ == nullptr) throw std::invalid_argument("faults are of the demo's own booking service");
+    service_->setFaults(fault.empty() ? std::vector<std::string>() : std::vector{fault});
 }
 
 void DemoWallet::writePicture(const std::string& file) {
     // Pictures from addresses and slides arrive within this time.
     runUntil([] { return false; }, std::chrono::milliseconds(400));
-    const bool written = window_->grabWindow().save(QString::fromStdString(file));
+    const bool written = lightened(window_->grabWindow()).save(QString::fromStdString(file));
     log_.answer(Json{{"picture", file}, {"written", written}});
 }
 
