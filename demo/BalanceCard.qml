@@ -23,7 +23,8 @@ Rectangle {
             width: parent.width
             text: card.balance
             color: look.accentText
-            size: 34
+            // Large already; it grows less than what is small.
+            font.pixelSize: Math.round(34 * Math.min(look.textScale, 1.2))
             font.weight: Font.DemiBold
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 20

@@ -50,7 +50,7 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--picture", [&](Value value) { options.picture = value; }},
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
         {"--scenario", [&](Value value) { options.scenarios.push_back(value); }},
-        {"--brand", [&](Value value) { options.brand = whole(value, 1, brands) - 1; }},
+        {"--brand", [&](Value value) { options.brand = whole(value, 0, brands) - 1; }},
         {"--now", [&](Value value) { options.now = value; }},
         {"--locale", [&](Value value) { options.locale = value; }},
         {"--language", [&](Value value) { options.language = value; }},
@@ -70,6 +70,8 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
             options.stillMotion = true;
         } else if (argument == "--slow") {
             options.faults.emplace_back("* latency=1500");
+        } else if (argument == "--stay") {
+            options.stays = true;
         } else if (argument == "--strip") {
             options.strip = true;
         } else if (const auto option = valued.find(argument); option != valued.end()) {
@@ -97,7 +99,10 @@ std::string DemoOptions::usage() {
            "  --locale NAME        --time-zone NAME   in place of the system's own\n"
            "  --language TAG       --region NAME      what the wallet chooses: ne, ar, device; NP\n"
            "  --dark               --text-scale N     --width N   --height N   --still (no motion)\n"
-           "  --brand N            --strip            one of its three brands; the strip in a script too\n"
+           "  --brand N            --strip            one of its three brands, 0 for the component's own "
+           "look; "
+           "the\n"
+           "                                          strip in a script too\n"
            "  --scenario NAME      --fault TEXT       trouble of the own booking service, see "
            "docs/sandbox.md\n"
            "  --slow               every answer takes a second and a half longer\n"
@@ -105,6 +110,7 @@ std::string DemoOptions::usage() {
            "                       texts (every visible text), picture FILE, look NAME (a picture into the\n"
            "                       folder of --pictures DIR), click NAME (an item by its object name),\n"
            "                       faults [FAULT] (of the own booking service), figures\n"
+           "  --stay               the window stays open when the script is through\n"
            "  --picture FILE       takes a picture of the first screen and ends\n";
 }
 

@@ -25,11 +25,12 @@ struct DemoOptions {
     std::string timeZone;                ///< such as "Asia/Kathmandu"; empty for the system's
     bool dark = false;                   ///< dark whatever the device says
     std::optional<double> textScale;     ///< absent: as the device says
-    int brand = 0;                       ///< the position in the wallet's brands
+    int brand = 0;                       ///< the position in the wallet's brands; -1 for none
     bool strip = false;                  ///< shows the strip of conditions in a script too
     int width = 390;                     ///< of the phone, without the strip
     int height = 844;
     bool stillMotion = false; ///< without motion whatever the device says
+    bool stays = false;       ///< does not end with its script
     bool help = false;
 
     /// Whether a customer uses it, and no script.

@@ -129,8 +129,10 @@ void DemoWallet::makeWindow() {
 /// What the conditions say of the look and the language.
 void DemoWallet::follow() {
     account_.setLocale(locale());
+    const int brand = conditions_.brand();
+    const bool isOne = brand >= 0 && brand < brands().size();
     window_->findChild<view::ThemedScope*>("component")
-        ->setAppearance(brands().at(conditions_.brand()).appearance);
+        ->setAppearance(isOne ? brands().at(brand).appearance : view::Appearance());
 }
 
 QLocale DemoWallet::locale() const {
@@ -234,8 +236,11 @@ int DemoWallet::play(std::istream& lines) {
 void DemoWallet::click(const std::string& name) {
     const QQuickItem* item = nullptr;
     const auto isThere = [&] {
-        item = visibleItem(*window_, QString::fromStdString(name));
-        return item != nullptr && item->width() > 0 && item->height() > 0;
+        QQuickItem* found = visibleItem(*window_, QString::fromStdString(name));
+        item = found;
+        if (found == nullptr || found->width() <= 0 || found->height() <= 0) return false;
+        if (!isInside(*found)) found->forceActiveFocus(Qt::OtherFocusReason); // which brings it into view
+        return isInside(*found);
     };
     if (!runUntil(isThere, std::chrono::seconds(10)))
         throw std::invalid_argument("there is nothing to click on that is called " + name);
@@ -251,7 +256,7 @@ void DemoWallet::setFaults(const std::string& fault) {
 
 void DemoWallet::writePicture(const std::string& file) {
     // Pictures from addresses and slides arrive within this time.
-    runUntil([] { return false; }, std::chrono::milliseconds(400));
+    runUntil([] { return false; }, std::chrono::milliseconds(options_.stillMotion ? 150 : 400));
     const bool written = lightened(window_->grabWindow()).save(QString::fromStdString(file));
     log_.answer(Json{{"picture", file}, {"written", written}});
 }

@@ -14,13 +14,28 @@ Rectangle {
     LayoutMirroring.enabled: account.rightToLeft
     LayoutMirroring.childrenInherit: true
 
-    // What the Tab key leads to comes into view.
+    // What the Tab key leads to comes into view, and a card that is new.
     function reveal(item: Item): void {
-        if (item === null || !visible || !page.contains(item.mapToItem(page, 0, 0))) return
-        const top = item.mapToItem(page, 0, 0).y
-        scroll.contentY = Math.max(Math.min(scroll.contentY, top), top + item.height + 48 - scroll.height)
+        if (item === null || !visible) return
+        const place = item.mapToItem(page, 0, 0)
+        if (place.y < 0 || place.y > page.height) return
+        const least = place.y + item.height + 48 - scroll.height
+        const most = Math.max(0, place.y - 16)
+        scroll.contentY = Math.max(0, Math.min(Math.max(scroll.contentY, least), most))
     }
 
+    // A card comes while the component still lies over the page.
+    property Item fresh: null
+    onVisibleChanged: soon.restart()
+
+    function revealFresh(): void {
+        if (!visible) return
+        reveal(fresh)
+        fresh = null
+    }
+
+    // Once it is laid out.
+    Timer { id: soon; interval: 0; onTriggered: home.revealFresh() }
     Window.onActiveFocusItemChanged: reveal(Window.activeFocusItem)
 
     Flickable {
@@ -85,6 +100,7 @@ Rectangle {
             Repeater {
                 id: cards
                 model: home.account.receipts
+                onItemAdded: (index, item) => { home.fresh = item; soon.restart() }
                 ReceiptCard {
                     look: home.look
                     account: home.account

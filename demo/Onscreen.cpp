@@ -60,9 +60,14 @@ Json visibleTexts(const QQuickWindow& window) {
 QQuickItem* visibleItem(const QQuickWindow& window, const QString& name) {
     std::vector<QQuickItem*> found;
     collectNamed(window.contentItem(), name, found);
-    const QRectF shown(QPointF(), window.size());
-    std::erase_if(found, [&](const QQuickItem* item) { return !shown.contains(middleOf(*item)); });
-    return found.empty() ? nullptr : found.back();
+    if (found.empty()) return nullptr;
+    const auto inside =
+        std::find_if(found.rbegin(), found.rend(), [](const QQuickItem* item) { return isInside(*item); });
+    return inside != found.rend() ? *inside : found.back();
+}
+
+bool isInside(const QQuickItem& item) {
+    return QRectF(QPointF(), item.window()->size()).contains(middleOf(item));
 }
 
 void pressOn(const QQuickItem& item, bool down) {

@@ -12,9 +12,12 @@ namespace ombrivane::demo {
 /// Every text that can be seen in the window, with where it stands and what it is to assistive technology.
 Json visibleTexts(const QQuickWindow& window);
 
-/// The item with that object name that can be seen in the window, the topmost of several; nullptr where there
-/// is none.
+/// The shown item with that object name, the topmost of several, and of those inside of the window where one
+/// is; nullptr where there is none.
 QQuickItem* visibleItem(const QQuickWindow& window, const QString& name);
+
+/// Whether its middle is inside of the window, and so can be pressed.
+bool isInside(const QQuickItem& item);
 
 /// A customer's finger goes down on the item's middle, or comes up from it.
 void pressOn(const QQuickItem& item, bool down);

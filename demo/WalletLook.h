@@ -47,8 +47,6 @@ public:
     QColor hairline() const { return colours().hairline; }
     double radius() const { return shown().appearance.cornerRadius.value_or(0); }
     QString family() const;
-    /// Of letters that have `size` at their usual one.
-    Q_INVOKABLE int points(double size) const { return qRound(size * textScale_); }
     /// What a text of any language is drawn in.
     Q_INVOKABLE QString familyOf(const QString& text) const;
 

@@ -9,7 +9,7 @@ Text {
     textFormat: Text.PlainText
     color: look.ink
     font.family: look.family
-    font.pixelSize: look.points(size)
+    font.pixelSize: Math.round(size * look.textScale)
     wrapMode: Text.Wrap
     lineHeight: 1.15
     horizontalAlignment: Text.AlignLeft

@@ -21,7 +21,10 @@ int run(const ombrivane::demo::DemoOptions& options, ombrivane::sandbox::Sandbox
     ombrivane::demo::DemoWallet wallet(options, service);
     if (!wallet.isReady()) return broken;
     if (!options.picture.empty()) return wallet.takePicture(options.picture);
-    return options.script.empty() ? QGuiApplication::exec() : wallet.playScript();
+    if (options.script.empty()) return QGuiApplication::exec();
+    const int ending = wallet.playScript();
+    if (options.stays) QGuiApplication::exec();
+    return ending;
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QImage>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
 
@@ -152,7 +154,7 @@ TEST_F(DemoTest, AStripWithoutRoomStandsBehindAButtonAndIsWorkedByKeys) {
     ownService = false;
     play("destroy");
     wallet->window().resize(390, 844);
-    EXPECT_EQ(demo::visibleItem(wallet->window(), "offline"), nullptr);
+    EXPECT_TRUE(Window::waitFor([&] { return demo::visibleItem(wallet->window(), "offline") == nullptr; }));
     click("conditions");
     QTest::keyClick(&wallet->window(), Qt::Key_Tab);
     EXPECT_EQ(wallet->window().activeFocusItem()->objectName(), "Look Device");
@@ -169,6 +171,25 @@ TEST_F(DemoTest, AStripWithoutRoomStandsBehindAButtonAndIsWorkedByKeys) {
     EXPECT_EQ(wallet->conditions().on(), QStringList());
     QTest::keyClick(&wallet->window(), Qt::Key_Escape);
     EXPECT_EQ(demo::visibleItem(wallet->window(), "offline"), nullptr);
+}
+
+TEST_F(DemoTest, PlaysWhatTheGalleryAndTheWalletShow) {
+    const QTemporaryDir folder;
+    options.pictures = folder.path().toStdString();
+    for (const char* file : {"tests/view/gallery/home.script",
+                             "tests/view/gallery/payment.script",
+                             "tests/view/gallery/trouble.script",
+                             "demo/booking.script"}) {
+        SCOPED_TRACE(file);
+        play((std::string("play ") + file).c_str());
+        wallet.reset();
+    }
+    for (const char* picture : {"session-expired", "ticket", "no-offers", "wallet-paid"})
+        EXPECT_FALSE(QImage(folder.filePath(QString(picture) + ".png")).isNull()) << picture;
+    ownService = false;
+    std::istringstream faults("faults /documents drop");
+    wallet = std::make_unique<DemoWallet>(options);
+    EXPECT_EQ(wallet->play(faults), 2) << "of another booking service";
 }
 
 TEST_F(DemoTest, ABalanceThatDoesNotReachStays) {
