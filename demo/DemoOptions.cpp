@@ -57,6 +57,7 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--region", [&](Value value) { options.region = value; }},
         {"--time-zone", [&](Value value) { options.timeZone = value; }},
         {"--text-scale", [&](Value value) { options.textScale = number(value, 0.5, 4); }},
+        {"--pace", [&](Value value) { options.pace = whole(value, 0, largest); }},
         {"--width", [&](Value value) { options.width = whole(value, 100, largest); }},
         {"--height", [&](Value value) { options.height = whole(value, 100, largest); }},
     };
@@ -110,6 +111,7 @@ std::string DemoOptions::usage() {
            "                       texts (every visible text), picture FILE, look NAME (a picture into the\n"
            "                       folder of --pictures DIR), click NAME (an item by its object name),\n"
            "                       faults [FAULT] (of the own booking service), figures\n"
+           "  --pace MS            stands still at each new screen of a script, to be watched\n"
            "  --stay               the window stays open when the script is through\n"
            "  --picture FILE       takes a picture of the first screen and ends\n";
 }

@@ -31,6 +31,7 @@ struct DemoOptions {
     int height = 844;
     bool stillMotion = false; ///< without motion whatever the device says
     bool stays = false;       ///< does not end with its script
+    int pace = 0;             ///< milliseconds that a script stands still at each new screen
     bool help = false;
 
     /// Whether a customer uses it, and no script.

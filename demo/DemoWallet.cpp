@@ -6,6 +6,7 @@
 #include "base/Fault.h"
 #include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
+#include "keyed/Navigator.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 
@@ -195,13 +196,22 @@ bool DemoWallet::runUntil(const std::function<bool()>& done, std::chrono::millis
     return done();
 }
 
+Navigator* DemoWallet::watched() {
+    const Navigator* stack = session_->navigator();
+    if (options_.pace > 0 && stack != nullptr && seen_ != stack->top()->name()) {
+        seen_ = stack->top()->name();
+        runUntil([] { return false; }, std::chrono::milliseconds(options_.pace));
+    }
+    return session_->navigator();
+}
+
 journey::Stage DemoWallet::stage() {
     return {
         .runUntil = [this](const auto& done, auto limit) { return runUntil(done, limit); },
         .advance = [this](auto duration) { queue_->advance(duration); },
         .open = [this] { QMetaObject::invokeMethod(window_, "openComponent"); },
         .destroy = [this] { QMetaObject::invokeMethod(window_, "closeComponent"); },
-        .navigator = [this] { return session_->navigator(); },
+        .navigator = [this] { return watched(); },
         .faulted = [this] { return faulted_.load(); },
         .log = log_,
         .clock = *clock_,

@@ -55,6 +55,8 @@ private:
     /// The language and the region that the wallet writes its own amounts and days in.
     QLocale locale() const;
     journey::Stage stage();
+    /// The stack that a script works on; whoever watches has seen its topmost screen.
+    Navigator* watched();
     bool runUntil(const std::function<bool()>& done, std::chrono::milliseconds limit);
     void writePicture(const std::string& file);
     void click(const std::string& name);
@@ -72,6 +74,7 @@ private:
         std::make_shared<journey::ScriptedReachability>();
     std::shared_ptr<SwitchedReachability> reachability_;
     std::shared_ptr<journey::ScriptedPhotos> photos_ = std::make_shared<journey::ScriptedPhotos>();
+    std::string seen_; ///< the topmost screen, by its name
     std::atomic<bool> faulted_ = false;
     WalletAccount account_;
     Conditions conditions_;
