@@ -9,6 +9,7 @@
 #include "words/LanguageChoice.h"
 
 #include <fstream>
+#include <mutex>
 #include <sstream>
 #include <utility>
 #include <vector>
@@ -69,7 +70,19 @@ std::chrono::milliseconds milliseconds(double count) {
 
 } // namespace
 
-Script::Script(Stage stage) : stage_(std::move(stage)) {
+struct Script::Calls {
+    std::mutex mutex; // they end on threads of the network
+    std::map<std::string, std::size_t> ended;
+    std::map<std::string, std::size_t> awaited;
+};
+
+Script::Script(Stage stage) :
+    stage_(std::move(stage)),
+    calls_(std::make_shared<Calls>()),
+    listening_(HostEvents::shared().listen(nullptr, [calls = calls_](const EndedCall& call) {
+        const std::lock_guard lock(calls->mutex);
+        ++calls->ended[std::string(call.endpoint)];
+    })) {
     commands_ = {
         {"show", [this](const std::string&) { show(); }},
         {"get", [this](const std::string& path) { get(path); }},
@@ -82,6 +95,7 @@ Script::Script(Stage stage) : stage_(std::move(stage)) {
         {"wait", [this](const std::string& arguments) { wait(arguments); }},
         {"wait-screen", [this](const std::string& arguments) { waitScreen(arguments); }},
         {"wait-event", [this](const std::string& arguments) { waitEvent(arguments); }},
+        {"wait-call", [this](const std::string& arguments) { waitCall(arguments); }},
         {"no-event", [this](const std::string& name) { noEvent(name); }},
         {"pause", [this](const std::string& arguments) { pause(arguments); }},
         {"advance", [this](const std::string& arguments) { advance(arguments); }},
@@ -122,6 +136,7 @@ std::string Script::help() {
            "                                waits for an event: callback, reservation, closed,\n"
            "                                failed-call, opened-url, shared; one that holds all members of\n"
            "                                OBJECT, at any depth\n"
+           "  wait-call ENDPOINT [SECONDS]  waits until another request to it has ended, well or badly\n"
            "  no-event NAME                 ends the script if there is such an event that was not waited "
            "for\n"
            "  pause SECONDS                 real time, for what is not to happen\n"
@@ -291,6 +306,20 @@ void Script::waitEvent(const std::string& arguments) {
         throw ExpectationFailed("the event " + name + " did not come; there were " +
                                 stage_.log.waiting(name).dump());
     }
+}
+
+void Script::waitCall(const std::string& arguments) {
+    const auto [endpoint, text] = split(arguments);
+    const auto arrived = [&, name = endpoint] {
+        const std::lock_guard lock(calls_->mutex);
+        return stage_.faulted() || calls_->ended[name] > calls_->awaited[name];
+    };
+    if (!stage_.runUntil(arrived, milliseconds(seconds(text, defaultSeconds))))
+        throw ExpectationFailed("no request to " + endpoint + " has ended");
+    ++calls_->awaited[endpoint];
+    // The end is told before the answer has come to the main queue.
+    constexpr std::chrono::milliseconds settling(20);
+    stage_.runUntil([this] { return stage_.faulted(); }, settling);
 }
 
 void Script::noEvent(const std::string& name) {

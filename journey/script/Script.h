@@ -2,6 +2,7 @@
 
 #include "EventLog.h"
 #include "ScriptedPorts.h"
+#include "events/HostEvents.h"
 #include "platform/AdjustableClock.h"
 #include "session/OmbrivaneView.h"
 
@@ -76,6 +77,7 @@ private:
     void wait(const std::string& arguments);
     void waitScreen(const std::string& arguments);
     void waitEvent(const std::string& arguments);
+    void waitCall(const std::string& arguments);
     void noEvent(const std::string& name);
     void pause(const std::string& arguments);
     void advance(const std::string& arguments);
@@ -87,7 +89,12 @@ private:
     /// The value that is there, or why there is none, as a sentence.
     std::string seen(const std::string& path) const;
 
+    /// How many requests to each endpoint have ended, and how many of them were waited for.
+    struct Calls;
+
     Stage stage_;
+    std::shared_ptr<Calls> calls_;
+    HostEvents::Listening listening_;
     /// The line that is being run, with its number and the file it was played from.
     std::string place_;
     std::map<std::string, Command> commands_;

@@ -40,6 +40,9 @@ std::string faultLike(const EndedCall& call) {
     case ErrorKind::answerMissing:
         return "empty";
     case ErrorKind::refused:
+        // The one refusal that has a screen of its own.
+        if (call.endpoint == "/search-flights") return "refuse=Sorry! No flight recommendations found.";
+        [[fallthrough]];
     case ErrorKind::credentialsRefused:
         return "refuse=Refused.";
     case ErrorKind::unsupportedSystem:
@@ -97,8 +100,7 @@ void Recorder::did(const Screen& screen, std::string_view key, const std::vector
     const std::lock_guard lock(mutex_);
     if (key == "picked")
         return insertBeforeLastDeed(arguments.front() == true ? pickedPicture : "pick-cancel");
-    const auto thought = std::chrono::floor<std::chrono::seconds>(platform().clock->now() - last_);
-    if (thought.count() > 0) write(fmt::format("advance {}", thought.count()));
+    writePause();
     if (std::exchange(isOffline_, false)) write("reachability 2");
     if (!key.empty()) write(fmt::format("wait {} {{\"enabled\":true}}", *path));
     lastDeed_ = lines_.size();
@@ -122,6 +124,7 @@ void Recorder::happened(const Event& event) {
         write(fmt::format("# the fare moved from {} to {}", *event.formerFare, *event.fare));
         break;
     case EventKind::expired:
+        writePause();
         write("# the ten minutes were over");
         break;
     case EventKind::closed:
@@ -139,17 +142,23 @@ void Recorder::ended(const EndedCall& call) {
     const std::lock_guard lock(mutex_);
     const std::string endpoint(call.endpoint);
     const std::size_t before = calls_[endpoint]++;
-    write(fmt::format("# {} {} after {} ms{}",
-                      endpoint,
+    write(fmt::format("# {} after {} ms{}",
                       call.status,
                       call.took.count(),
                       call.error ? fmt::format(": {}", nameOf(*call.error)) : ""));
+    write("wait-call " + endpoint);
     if (!call.error) return;
     const std::string fault = faultLike(call);
     if (!fault.empty())
         service_.push_back(fmt::format("--fault \"{} {} times=1 after={}\"", endpoint, fault, before));
     if (*call.error == ErrorKind::noConnection && !std::exchange(isOffline_, true))
         insertBeforeLastDeed("reachability 0");
+}
+
+/// The time for which nothing was awaited and nothing done.
+void Recorder::writePause() {
+    const auto thought = std::chrono::floor<std::chrono::seconds>(platform().clock->now() - last_);
+    if (thought.count() > 0) write(fmt::format("advance {}", thought.count()));
 }
 
 void Recorder::write(const std::string& line) {

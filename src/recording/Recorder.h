@@ -35,6 +35,7 @@ private:
     void did(const Screen& screen, std::string_view key, const std::vector<Json>& arguments);
     void happened(const Event& event);
     void ended(const EndedCall& call);
+    void writePause();
     void write(const std::string& line);
     void insertBeforeLastDeed(const std::string& line);
     Json argument(std::string_view key, const Json& value) const;
