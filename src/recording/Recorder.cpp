@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::array lettersOfPages{"scrolled", "measured"}; // what a page tells by itself
 /// Actions whose texts belong to a journey and not to a customer.
-constexpr std::array namesOfPlacesAndDays{"type", "tapDay", "chooseGender"};
+constexpr std::array namesOfPlacesAndDays{"type", "tap", "tapDay", "chooseGender"};
 constexpr const char* pickedPicture = "pick journeys/data/passport.png";
 constexpr std::array daysOfCustomers{"pickDateOfBirth", "pickExpiryDate"};
 
@@ -113,6 +113,7 @@ void Recorder::did(const Screen& screen, std::string_view key, const std::vector
 
 void Recorder::happened(const Event& event) {
     const std::lock_guard lock(mutex_);
+    if (isClosed_) return; // what comes into view as the view goes
     switch (event.kind) {
     case EventKind::screenShown:
         if (event.screen != "PhotoPicker") write("wait-screen " + event.screen);
@@ -128,6 +129,7 @@ void Recorder::happened(const Event& event) {
         write("# the ten minutes were over");
         break;
     case EventKind::closed:
+        isClosed_ = true;
         if (event.closedBy == ClosedBy::reservation)
             write("wait-event callback {\"dictionary\":{\"exit\":true}}");
         if (event.closedBy == ClosedBy::error) write("wait-event callback {\"dictionary\":null}");

@@ -53,6 +53,7 @@ private:
     std::vector<std::string> service_; ///< arguments of the sandbox
     std::map<std::string, std::size_t, std::less<>> calls_;
     bool isOffline_ = false;
+    bool isClosed_ = false;
 
     std::shared_ptr<const void> deeds_;
     HostEvents::Listening events_;
