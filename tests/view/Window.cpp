@@ -86,8 +86,6 @@ void Window::settle() {
         EXPECT_TRUE(waitFor([&drawn] { return drawn; })) << "no frame is drawn";
         QObject::disconnect(watch);
     }
-    // What that frame has left for later, a row made ahead of being seen, for instance.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
 void Window::open() { session_->open(); }
