@@ -1,8 +1,12 @@
-#include "Window.h"
-
+#include "Walk.h"
 #include "keyed/Navigator.h"
 
 #include <gtest/gtest.h>
+
+#include <QQmlEngine>
+#include <QQmlIncubationController>
+
+#include <sstream>
 
 namespace ombrivane::view {
 namespace {
@@ -33,6 +37,30 @@ TEST(TeardownTest, aViewIsDroppedWhileItsAirportsAreOnTheirWay) {
     service().setFaults({});
     window.open();
     EXPECT_TRUE(window.waitForScreen("MainView"));
+}
+
+/// What is half made then would be complained of.
+TEST(TeardownTest, aPageGoesWhileItsRowsAreBeingMade) {
+    for (const bool drops : {true, false}) {
+        SCOPED_TRACE(drops ? "the host drops the view" : "the customer goes back");
+        service().reset();
+        WalkPorts ports;
+        Window window;
+        std::istringstream toOffers("play journeys/steps/abroad.steps\nplay journeys/steps/one-way.steps\n");
+        walk(ports, window, toOffers, [](const std::string&) {});
+        QQuickItem* list = window.item("offers");
+        ASSERT_NE(list, nullptr);
+        constexpr int farAhead = 6000; // so many points of rows begin to be made
+        list->setProperty("cacheBuffer", farAhead);
+        window.waitFor([] { return true; });
+        ASSERT_GT(qmlEngine(list)->incubationController()->incubatingObjectCount(), 0);
+        if (drops)
+            window.session().drop();
+        else
+            window.session().navigator()->back();
+        window.settle();
+        EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
+    }
 }
 
 } // namespace

@@ -195,6 +195,7 @@ void OmbrivaneSession::open() {
                                             given(phone),
                                             given(environment),
                                             callback());
+    stage_.useEngine(qmlEngine(this));
     if (records) view_->record();
     view_->restoreState(std::exchange(kept_, std::string()));
     const QPointer<OmbrivaneSession> self(this);

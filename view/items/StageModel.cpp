@@ -3,6 +3,8 @@
 #include "adapters/PageTable.h"
 #include "base/Fault.h"
 
+#include <QQmlIncubationController>
+
 #include <algorithm>
 
 namespace ombrivane::view {
@@ -54,6 +56,16 @@ bool StageModel::back() {
     return went;
 }
 
+/// A list makes rows ahead in idle time. One that is left half made as its page goes is complained of by the
+/// toolkit.
+void StageModel::finishRows() {
+    QQmlIncubationController* making = engine_ ? engine_->incubationController() : nullptr;
+    constexpr int milliseconds = 5; // at a time; a row takes less
+    constexpr int enough = 100;     // of them, should one ever ask for another
+    for (int i = 0; making != nullptr && making->incubatingObjectCount() > 0 && i < enough; ++i)
+        making->incubateFor(milliseconds);
+}
+
 void StageModel::update() {
     static const std::vector<Navigator::Entry> nothing;
     const auto& stack = navigator_ != nullptr ? navigator_->stack() : nothing;
@@ -63,6 +75,7 @@ void StageModel::update() {
         ++same;
     }
     if (same < entries_.size()) {
+        finishRows();
         beginRemoveRows({}, static_cast<int>(same), count() - 1);
         entries_.resize(same);
         endRemoveRows();

@@ -3,6 +3,7 @@
 #include "keyed/Navigator.h"
 
 #include <QAbstractListModel>
+#include <QPointer>
 #include <QQmlEngine>
 
 #include <memory>
@@ -25,6 +26,8 @@ class StageModel : public QAbstractListModel {
 public:
     /// Follows `navigator`, which must outlive this; nullptr shows nothing.
     void follow(Navigator* navigator);
+    /// The engine that makes the pages, where it is known.
+    void useEngine(QQmlEngine* engine) { engine_ = engine; }
 
     int firstInView() const;
     int count() const { return static_cast<int>(entries_.size()); }
@@ -43,7 +46,9 @@ private:
         Presentation presentation;
     };
     void update();
+    void finishRows();
 
+    QPointer<QQmlEngine> engine_;
     Navigator* navigator_ = nullptr;
     std::vector<Entry> entries_;
     Subscription watch_;
