@@ -46,6 +46,8 @@ TEST(TeardownTest, aPageGoesWhileItsRowsAreBeingMade) {
         service().reset();
         WalkPorts ports;
         Window window;
+        auto* engine = qmlEngine(&window.session());
+        engine->setIncubationController(window.window().incubationController()); // as a window in QML does
         std::istringstream toOffers("play journeys/steps/abroad.steps\nplay journeys/steps/one-way.steps\n");
         walk(ports, window, toOffers, [](const std::string&) {});
         QQuickItem* list = window.item("offers");
@@ -53,7 +55,7 @@ TEST(TeardownTest, aPageGoesWhileItsRowsAreBeingMade) {
         constexpr int farAhead = 6000; // so many points of rows begin to be made
         list->setProperty("cacheBuffer", farAhead);
         window.waitFor([] { return true; });
-        ASSERT_GT(qmlEngine(list)->incubationController()->incubatingObjectCount(), 0);
+        ASSERT_GT(engine->incubationController()->incubatingObjectCount(), 0);
         if (drops)
             window.session().drop();
         else
