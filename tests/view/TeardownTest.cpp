@@ -60,6 +60,7 @@ TEST(TeardownTest, aPageGoesWhileItsRowsAreBeingMade) {
             window.session().drop();
         else
             window.session().navigator()->back();
+        EXPECT_EQ(engine->incubationController()->incubatingObjectCount(), 0);
         window.settle();
         EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
     }
