@@ -26,7 +26,7 @@ Rectangle {
 
     // A card comes while the component still lies over the page.
     property Item fresh: null
-    onVisibleChanged: soon.restart()
+    onVisibleChanged: awaitsFrame = true
 
     function revealFresh(): void {
         if (!visible) return
@@ -35,7 +35,15 @@ Rectangle {
     }
 
     // Once it is laid out.
-    Timer { id: soon; interval: 0; onTriggered: home.revealFresh() }
+    property bool awaitsFrame: false
+    Connections {
+        target: home.Window.window
+        enabled: home.awaitsFrame
+        function onFrameSwapped(): void {
+            home.awaitsFrame = false
+            home.revealFresh()
+        }
+    }
     Window.onActiveFocusItemChanged: reveal(Window.activeFocusItem)
 
     Flickable {
@@ -100,7 +108,7 @@ Rectangle {
             Repeater {
                 id: cards
                 model: home.account.receipts
-                onItemAdded: (index, item) => { home.fresh = item; soon.restart() }
+                onItemAdded: (index, item) => { home.fresh = item; home.awaitsFrame = true }
                 ReceiptCard {
                     look: home.look
                     account: home.account
