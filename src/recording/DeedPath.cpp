@@ -47,7 +47,7 @@ std::optional<std::string> pathOf(const Navigator& navigator, const Screen& scre
         // A part that no other on the stack is called like needs no way to it.
         const bool isKnown = at->place().list.empty() && navigator.find(at->name()).get() == at;
         if (isKnown) return std::string(at->name()) + '.' + path;
-        path = stepTo(*at, *host) + '.' + path;
+        path.insert(0, stepTo(*at, *host) + '.');
         at = host.get();
     }
     if (!isOnStack(navigator, *at)) return std::nullopt;
