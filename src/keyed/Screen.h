@@ -64,7 +64,7 @@ public:
     /// Where a row stood in a list of its host when it was made.
     struct Place {
         std::string_view list = {}; ///< the key of the list; empty for what is no row
-        std::size_t index = 0;
+        std::size_t index = 0;      ///< from 0
     };
     /// For a list: where this row of it stands.
     void setPlace(Place place) { place_ = place; }
