@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/Api.h"
 #include "base/Json.h"
 
 #include <functional>
@@ -14,7 +13,7 @@ class Screen;
 
 /// What a customer does, told to whoever records it, before it takes effect. What an action does in its turn
 /// is none. Those of the process. Main thread.
-class OMBRIVANE_API Deeds {
+class Deeds {
 public:
     /// The screen whose control it is, the key of the action, and the arguments; the gesture for back has the
     /// topmost screen and no key. All of it is good until the listener returns.
@@ -31,7 +30,7 @@ public:
 };
 
 /// While one lives an action is under way.
-class OMBRIVANE_API ActionUnderWay {
+class ActionUnderWay {
 public:
     ActionUnderWay();
     ~ActionUnderWay();
