@@ -107,10 +107,10 @@ void expectApart(const std::vector<const QQuickItem*>& texts) {
 }
 
 /// A row that a list has made ahead stands outside of the window, and is laid out by the frame after.
-bool isAhead(const Window& window, const QQuickItem* item) {
+bool isAhead(const QQuickItem* item) {
     for (; item != nullptr; item = item->parentItem()) {
         if (item->inherits("ombrivane::view::RowHolder"))
-            return !placeOf(*item).intersects(QRectF(0, 0, window.width(), window.height()));
+            return !placeOf(*item).intersects(QRectF(QPointF(), item->window()->size()));
     }
     return false;
 }
@@ -125,7 +125,7 @@ void expectSound(Window& window) {
     int controls = 0;
     std::vector<const QQuickItem*> texts;
     for (QQuickItem* item : window.visibleItems()) {
-        if (!isFocused(*item) || item->opacity() == 0 || isAhead(window, item)) continue;
+        if (!isFocused(*item) || item->opacity() == 0 || isAhead(item)) continue;
         if (item->inherits("QQuickText")) {
             if (item->property("text").toString().isEmpty()) continue;
             expectText(*item);
