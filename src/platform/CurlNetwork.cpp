@@ -35,7 +35,7 @@ public:
     void add(std::unique_ptr<CurlTransfer> transfer) {
         {
             const std::lock_guard lock(mutex_);
-            arrived_.push_back(std::move(transfer));
+            asked_.transfers.push_back(std::move(transfer));
         }
         curl_multi_wakeup(multi_.get());
     }
@@ -43,7 +43,7 @@ public:
     void expect(const std::string& url) {
         {
             const std::lock_guard lock(mutex_);
-            expected_ = url;
+            asked_.expected = url;
         }
         curl_multi_wakeup(multi_.get());
     }
@@ -51,9 +51,16 @@ public:
 private:
     using Transfers = std::vector<std::unique_ptr<CurlTransfer>>;
 
-    Transfers takeArrived() {
+    /// What was asked for since the last turn, in one piece: a request, and then the one that is likely to
+    /// follow.
+    struct Asked {
+        Transfers transfers;
+        std::string expected; ///< the address of a request that is likely soon; empty for none
+    };
+
+    Asked takeAsked() {
         const std::lock_guard lock(mutex_);
-        return std::exchange(arrived_, {});
+        return std::exchange(asked_, {});
     }
 
     bool isStopping() {
@@ -70,21 +77,11 @@ private:
             transfer->complete(CURLE_FAILED_INIT);
     }
 
-    void startAll(Transfers arrived) {
-        for (auto& transfer : arrived) {
+    void startAll(Transfers transfers) {
+        for (auto& transfer : transfers) {
             if (transfer->isIsolated()) transfer->useConnection(standing_.take(transfer->url()));
             start(std::move(transfer));
         }
-    }
-
-    void openExpected() {
-        std::string url;
-        {
-            const std::lock_guard lock(mutex_);
-            url = std::exchange(expected_, {});
-        }
-        if (!url.empty()) standing_.open(url);
-        standing_.closeOld();
     }
 
     void advance() {
@@ -105,10 +102,12 @@ private:
 
     void run() {
         while (!isStopping()) {
-            auto arrived = takeArrived();
-            openExpected();
+            auto [transfers, expected] = takeAsked();
             advance(); // what has connected before a transfer arrived can be taken by it
-            startAll(std::move(arrived));
+            startAll(std::move(transfers));
+            // One that a transfer has just taken does not stand in the way of the next.
+            if (!expected.empty()) standing_.open(expected);
+            standing_.closeOld();
             advance();
             // libcurl wakes up for what it waits for itself; whether an answer is silent, and whether a
             // connection has stood too long, is looked at here.
@@ -121,7 +120,7 @@ private:
         }
         running_.clear();
         // A completion may ask for more, and so may the answer to that; nothing is left without one.
-        for (auto left = takeArrived(); !left.empty(); left = takeArrived())
+        for (auto left = takeAsked().transfers; !left.empty(); left = takeAsked().transfers)
             for (auto& transfer : left)
                 transfer->abandon();
     }
@@ -139,8 +138,7 @@ private:
     std::unique_ptr<CURLM, FreeMulti> multi_{curl_multi_init()};
     StandingConnections standing_{multi_.get()};
     std::mutex mutex_;
-    Transfers arrived_;
-    std::string expected_; ///< the address of a request that is likely soon; empty for none
+    Asked asked_;
     std::map<CURL*, std::unique_ptr<CurlTransfer>> running_;
     bool stopping_ = false;
     std::thread thread_;

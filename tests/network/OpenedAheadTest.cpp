@@ -22,12 +22,14 @@ void answersOne(sandbox::TlsConnection& connection) {
     if (readRequest(connection)) connection.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n{}");
 }
 
+HttpRequest to(const std::string& url) {
+    HttpRequest request;
+    request.url = url;
+    return request;
+}
+
 HttpAnswer get(CurlNetwork& network, const std::string& url) {
-    return awaited([&](HttpCompletion completion) {
-        HttpRequest request;
-        request.url = url;
-        network.send(std::move(request), std::move(completion));
-    });
+    return awaited([&](HttpCompletion completion) { network.send(to(url), std::move(completion)); });
 }
 
 bool comesTrue(const std::function<bool()>& condition) {
@@ -49,6 +51,24 @@ TEST(OpenedAheadTest, ARequestTakesUpTheConnectionAndTheSessionOfTheOneBefore) {
         EXPECT_EQ(server.connections(), request) << "over the one that stood";
     }
     EXPECT_EQ(SSL_CTX_sess_hits(tls), 2);
+}
+
+TEST(OpenedAheadTest, AsOneIsTakenTheNextIsOpened) {
+    TlsServer server(answersOne);
+    CurlNetwork network({.caFile = server.caFile()});
+    network.expect(server.url());
+    ASSERT_TRUE(comesTrue([&] { return server.connections() == 1; }));
+    // From the network's own thread, so that it finds both at once.
+    const HttpAnswer second = awaited([&](HttpCompletion completion) {
+        network.send(to(server.url()), [&network, &server, completion](const HttpAnswer& /*first*/) {
+            network.send(to(server.url()), completion);
+            network.expect(server.url());
+        });
+        network.expect(server.url());
+    });
+    EXPECT_EQ(second.data, "{}");
+    EXPECT_TRUE(comesTrue([&] { return server.connections() == 3; }))
+        << "one for whatever comes after the second";
 }
 
 TEST(OpenedAheadTest, AConnectionThatDiesBeforeTlsStandsIsReplacedByAnother) {
