@@ -8,6 +8,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <string_view>
+#include <vector>
 
 namespace ombrivane::sandbox {
 
@@ -96,31 +98,85 @@ HttpAnswer Sandbox::answerControl(const HttpRequest& request) {
     }
 }
 
-HttpAnswer Sandbox::control(const HttpRequest& request) {
+/// One call: how it is asked for, what it answers or does, and how.
+struct Sandbox::ControlCall {
+    std::string_view name;
+    std::string_view meaning;
+    HttpAnswer (*answer)(Sandbox& sandbox, const Json& body);
+};
+
+/// @throws std::invalid_argument, Json::exception where `body` is not what the call takes
+const std::vector<Sandbox::ControlCall>& Sandbox::controlCalls() {
     using Texts = std::vector<std::string>;
-    const std::string call = request.method + " " + request.path;
-    if (call == "GET /sandbox") return pageAnswer();
-    if (call == "GET /sandbox/state") return jsonAnswer(state());
-    if (call == "GET /sandbox/requests") return jsonAnswer(recordedJson(log_.requests()));
-    if (call == "GET /sandbox/bookings") return jsonAnswer(service_->bookings());
-    if (call == "GET /sandbox/scenarios") return jsonAnswer(state().at("scenarios"));
-    if (call == "GET /sandbox/faults") return jsonAnswer(faultsJson(faults_->entries()));
-    if (call == "GET /sandbox/counters") return jsonAnswer(countersJson(log_.counters()));
+    static const auto done = [] { return jsonAnswer(Json::object()); };
+    static const std::vector<ControlCall> calls{
+        {"GET /sandbox", "a page of all this", [](Sandbox&, const Json&) { return pageAnswer(); }},
+        {"GET /sandbox/state",
+         "what the page shows",
+         [](Sandbox& sandbox, const Json&) { return jsonAnswer(sandbox.state()); }},
+        {"GET /sandbox/requests",
+         "every request, whole, with what was wrong in it",
+         [](Sandbox& sandbox, const Json&) { return jsonAnswer(recordedJson(sandbox.log_.requests())); }},
+        {"GET /sandbox/bookings",
+         "every reservation and how far it has come",
+         [](Sandbox& sandbox, const Json&) { return jsonAnswer(sandbox.service_->bookings()); }},
+        {"GET /sandbox/scenarios",
+         "the scenarios, and which are in force",
+         [](Sandbox& sandbox, const Json&) { return jsonAnswer(sandbox.state().at("scenarios")); }},
+        {"GET /sandbox/faults",
+         "the faults in force, and how often each was met",
+         [](Sandbox& sandbox, const Json&) { return jsonAnswer(faultsJson(sandbox.faults_->entries())); }},
+        {"GET /sandbox/counters",
+         "how many connections and requests there were",
+         [](Sandbox& sandbox, const Json&) { return jsonAnswer(countersJson(sandbox.log_.counters())); }},
+        {"POST /sandbox/play",
+         "{\"scenarios\": [NAME, ...], \"faults\": [FAULT, ...]}, in place of all before",
+         [](Sandbox& sandbox, const Json& body) {
+             sandbox.play(body.at("scenarios").get<Texts>(), body.at("faults").get<Texts>());
+             return done();
+         }},
+        {"POST /sandbox/faults",
+         "[FAULT, ...], in place of all before",
+         [](Sandbox& sandbox, const Json& body) {
+             sandbox.setFaults(body.get<Texts>());
+             return done();
+         }},
+        {"POST /sandbox/scenarios",
+         "[NAME, ...], in place of all before",
+         [](Sandbox& sandbox, const Json& body) {
+             sandbox.setScenarios(body.get<Texts>());
+             return done();
+         }},
+        {"POST /sandbox/clock",
+         "{\"advance\": SECONDS}",
+         [](Sandbox& sandbox, const Json& body) {
+             sandbox.advanceClock(std::chrono::seconds(body.at("advance").get<int>()));
+             return done();
+         }},
+        {"POST /sandbox/reset",
+         "forgets faults, requests, tokens, searches and bookings",
+         [](Sandbox& sandbox, const Json&) {
+             sandbox.reset();
+             return done();
+         }},
+    };
+    return calls;
+}
+
+std::string Sandbox::controlText() {
+    std::string text;
+    for (const ControlCall& call : controlCalls())
+        text += fmt::format("  {:<24} {}\n", call.name, call.meaning);
+    return text;
+}
+
+HttpAnswer Sandbox::control(const HttpRequest& request) {
+    const std::string asked = request.method + " " + request.path;
     const Json body = Json::parse(request.body, nullptr, false);
-    if (call == "POST /sandbox/play") {
-        play(body.at("scenarios").get<Texts>(), body.at("faults").get<Texts>());
-    } else if (call == "POST /sandbox/faults") {
-        setFaults(body.get<Texts>());
-    } else if (call == "POST /sandbox/scenarios") {
-        setScenarios(body.get<Texts>());
-    } else if (call == "POST /sandbox/clock") {
-        advanceClock(std::chrono::seconds(body.at("advance").get<int>()));
-    } else if (call == "POST /sandbox/reset") {
-        reset();
-    } else {
-        return controlRefusal(fmt::format("{} is no call of the sandbox.", call));
+    for (const ControlCall& call : controlCalls()) {
+        if (call.name == asked) return call.answer(*this, body);
     }
-    return jsonAnswer(Json::object());
+    return controlRefusal(fmt::format("{} is no call of the sandbox.", asked));
 }
 
 Json Sandbox::state() const {

@@ -62,7 +62,12 @@ public:
     /// Forgets faults, log, counters, tokens, searches and bookings, as after a fresh start without faults.
     void reset();
 
+    /// The calls below /sandbox, a line each with what it answers or does.
+    [[nodiscard]] static std::string controlText();
+
 private:
+    struct ControlCall;
+    static const std::vector<ControlCall>& controlCalls();
     bool answer(const HttpRequest& request, bool isFirst, TlsConnection& connection);
     HttpAnswer answerControl(const HttpRequest& request);
     HttpAnswer control(const HttpRequest& request);

@@ -42,7 +42,8 @@ int main(int count, char** values) {
     try {
         const CommandLine line = parseCommandLine(std::vector<std::string>(values + 1, values + count));
         if (line.help) {
-            std::fputs(helpText().c_str(), stdout);
+            std::fputs((helpText() + "\nWhile it runs it answers:\n\n" + Sandbox::controlText()).c_str(),
+                       stdout);
             return 0;
         }
         const int signals = endSignals();

@@ -165,10 +165,6 @@ std::string helpText() {
                             form.value.empty() ? std::string(form.name)
                                                : fmt::format("{}={}", form.name, form.value),
                             form.meaning);
-    text += "\nWhile it runs: GET /sandbox/requests, /sandbox/counters, /sandbox/bookings and "
-            "/sandbox/scenarios; POST\n"
-            "/sandbox/faults (an array of faults), /sandbox/scenarios (an array of names), /sandbox/clock "
-            "({\"advance\": SECONDS}) and /sandbox/reset.\n";
     return text;
 }
 
