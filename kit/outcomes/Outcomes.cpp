@@ -1,12 +1,14 @@
 #include "base/ErrorDomains.h"
+#include "base/ErrorTexts.h"
 #include "booking/HandOverFlight.h"
 #include "outcomes/StandIn.h"
-#include "records/DecodeError.h"
 #include "records/Encode.h"
 #include "records/FlightBooking.h"
 #include "records/FlightsSummary.h"
 #include "records/RTFlightsSummary.h"
 #include "services/CustomError.h"
+#include "services/ErrorWords.h"
+#include "words/Words.h"
 
 #include <cstdint>
 #include <string>
@@ -139,8 +141,8 @@ Dictionary confirmation(const Booked& booked) {
 }
 
 Error errorOf(ErrorKind kind) {
-    const auto of = [](const char* domain, auto code, const char* text) {
-        return Error{.domain = domain, .code = static_cast<int>(code), .localizedDescription = text};
+    const auto of = [](const char* domain, auto code, std::string text) {
+        return inCustomersWords({domain, static_cast<int>(code), std::move(text)});
     };
     switch (kind) {
     case ErrorKind::unsupportedSystem:
@@ -148,34 +150,29 @@ Error errorOf(ErrorKind kind) {
     case ErrorKind::noConnection:
         return makeError(CustomError::noInternetConnection);
     case ErrorKind::serviceNotReached:
-        return of(
-            errorDomain::network, NetworkError::notConnected, "The booking service could not be reached.");
+        return of(errorDomain::network, NetworkError::notConnected, errorText::notReached);
     case ErrorKind::serviceNotTrusted:
-        return of(errorDomain::network,
-                  NetworkError::notTrusted,
-                  "A secure connection to the booking service could not be made.");
+        return of(errorDomain::network, NetworkError::notTrusted, errorText::notSecured);
     case ErrorKind::timedOut:
-        return of(
-            errorDomain::network, NetworkError::timedOut, "The booking service did not answer in time.");
+        return of(errorDomain::network, NetworkError::timedOut, errorText::timedOut);
     case ErrorKind::connectionLost:
-        return of(
-            errorDomain::network, NetworkError::broken, "The connection to the booking service was lost.");
+        return of(errorDomain::network, NetworkError::broken, errorText::connectionLost);
     case ErrorKind::answerTooLarge:
-        return of(errorDomain::network, NetworkError::tooLarge, "The answer is too large.");
+        return of(errorDomain::network, NetworkError::tooLarge, errorText::answerTooLarge);
     case ErrorKind::answerNotUnderstood:
-        return of(errorDomain::decoding, 0, notUnderstood);
+        return of(errorDomain::decoding, 0, errorText::answerNotUnderstood);
     case ErrorKind::credentialsRefused:
         return of(errorDomain::authentication, 0, "Invalid credentials.");
     case ErrorKind::refused:
         return of(errorDomain::service, ServiceError::refused, "Sorry! The service is closed.");
     case ErrorKind::answerMissing:
-        return of(errorDomain::service, ServiceError::unanswered, "The operation ended without an answer.");
+        return of(errorDomain::service, ServiceError::unanswered, errorText::answerMissing);
     case ErrorKind::invalidRequest:
-        return of(errorDomain::encoding, 0, "The request could not be written.");
+        return of(errorDomain::encoding, 0, said(Text::errorRequestNotWritten));
     case ErrorKind::unforeseen:
         break;
     }
-    return of(errorDomain::service, ServiceError::notCompleted, "The operation could not be completed.");
+    return of(errorDomain::service, ServiceError::notCompleted, errorText::notCompleted);
 }
 
 } // namespace ombrivane::kit

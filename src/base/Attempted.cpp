@@ -1,16 +1,15 @@
 #include "base/Attempted.h"
 
 #include "base/ErrorDomains.h"
+#include "base/ErrorTexts.h"
 #include "base/Fault.h"
 
 namespace ombrivane {
 namespace {
 
 Error unforeseen(const char* what) {
-    return {errorDomain::service,
-            static_cast<int>(ServiceError::notCompleted),
-            "The operation could not be completed.",
-            what};
+    return {
+        errorDomain::service, static_cast<int>(ServiceError::notCompleted), errorText::notCompleted, what};
 }
 
 } // namespace

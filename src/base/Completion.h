@@ -3,6 +3,7 @@
 #include "base/Attempted.h"
 #include "base/Error.h"
 #include "base/ErrorDomains.h"
+#include "base/ErrorTexts.h"
 #include "base/Fault.h"
 
 #include <atomic>
@@ -50,7 +51,7 @@ private:
                 handler(Result(),
                         Error{errorDomain::service,
                               static_cast<int>(ServiceError::unanswered),
-                              "The operation ended without an answer."});
+                              errorText::answerMissing});
             });
         }
 

@@ -2,6 +2,7 @@
 
 #include "base/Attempted.h"
 #include "base/ErrorDomains.h"
+#include "base/ErrorTexts.h"
 #include "platform/TlsRules.h"
 
 #include <utility>
@@ -20,23 +21,20 @@ static_assert(static_cast<int>(NetworkError::notTrusted) == CURLE_PEER_FAILED_VE
 static_assert(static_cast<int>(NetworkError::tooLarge) == CURLE_FILESIZE_EXCEEDED);
 static_assert(static_cast<int>(NetworkError::noCertificates) == CURLE_SSL_CACERT_BADFILE);
 
-constexpr const char* tooLargeText = "The answer is too large.";
-constexpr const char* abandonedText = "The request was cancelled.";
-
 /// What a customer reads; curl's own words are for those who know it.
 const char* textOf(CURLcode result) {
     switch (result) {
     case CURLE_COULDNT_RESOLVE_HOST:
     case CURLE_COULDNT_CONNECT:
-        return "The booking service could not be reached.";
+        return errorText::notReached;
     case CURLE_OPERATION_TIMEDOUT:
-        return "The booking service did not answer in time.";
+        return errorText::timedOut;
     case CURLE_PEER_FAILED_VERIFICATION:
     case CURLE_SSL_CONNECT_ERROR:
     case CURLE_SSL_CACERT_BADFILE:
-        return "A secure connection to the booking service could not be made.";
+        return errorText::notSecured;
     default:
-        return "The connection to the booking service was lost.";
+        return errorText::connectionLost;
     }
 }
 
@@ -215,7 +213,7 @@ int CurlTransfer::status() const {
 }
 
 void CurlTransfer::complete(CURLcode result) {
-    if (!tooLarge_.empty()) return fail(CURLE_FILESIZE_EXCEEDED, tooLargeText, tooLarge_);
+    if (!tooLarge_.empty()) return fail(CURLE_FILESIZE_EXCEEDED, errorText::answerTooLarge, tooLarge_);
     if (silent_) {
         return fail(CURLE_OPERATION_TIMEDOUT,
                     textOf(CURLE_OPERATION_TIMEDOUT),
@@ -225,6 +223,6 @@ void CurlTransfer::complete(CURLcode result) {
     contained([&] { completion_({std::move(received_), std::nullopt, status()}); });
 }
 
-void CurlTransfer::abandon() { fail(CURLE_ABORTED_BY_CALLBACK, abandonedText); }
+void CurlTransfer::abandon() { fail(CURLE_ABORTED_BY_CALLBACK, errorText::requestCancelled); }
 
 } // namespace ombrivane

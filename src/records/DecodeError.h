@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Attempted.h"
+#include "base/ErrorTexts.h"
 
 #include <stdexcept>
 #include <string>
@@ -8,17 +9,14 @@
 
 namespace ombrivane {
 
-/// What a customer reads when an answer has another form than it should have.
-inline constexpr const char* notUnderstood = "The service's answer could not be understood.";
-
 /// A record that did not decode: where it failed and why. Thrown inside of one decode and turned into an
 /// `Error` before a completion hears of it.
 class DecodeError : public std::exception, public ErrorSource {
 public:
-    /// @param description what the customer may read
     /// @param reason what was wrong, for the developer
-    DecodeError(std::string description, std::string reason) :
-        description_(std::move(description)), reason_(std::move(reason)) {}
+    /// @param description what the customer may read
+    explicit DecodeError(std::string reason, std::string description = errorText::answerNotUnderstood) :
+        reason_(std::move(reason)), description_(std::move(description)) {}
 
     /// Called while the failure climbs out of the key that holds what failed.
     void within(std::string_view key);
@@ -33,8 +31,8 @@ public:
 
 private:
     std::string path_;
-    std::string description_;
     std::string reason_;
+    std::string description_;
 };
 
 } // namespace ombrivane

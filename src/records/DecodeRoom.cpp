@@ -8,12 +8,11 @@ namespace ombrivane {
 
 void DecodeRoom::refuse() const {
     throw DecodeError(
-        notUnderstood,
         fmt::format("takes more than {} MiB of memory beyond the answer's bytes", limit_ / limits::mebibyte));
 }
 
 void DecodeRoom::refuseCount() {
-    throw DecodeError(notUnderstood, fmt::format("more than {} elements", limits::listElements));
+    throw DecodeError(fmt::format("more than {} elements", limits::listElements));
 }
 
 } // namespace ombrivane

@@ -25,9 +25,7 @@ using JsonElement = simdjson::dom::element;
 
 template <class T> struct Decoder;
 
-[[noreturn]] inline void wants(const char* what) {
-    throw DecodeError(notUnderstood, std::string("wants ") + what);
-}
+[[noreturn]] inline void wants(const char* what) { throw DecodeError(std::string("wants ") + what); }
 
 template <> struct Decoder<std::string> {
     static void decode(const JsonElement& json, std::string& value, DecodeRoom& room) {
@@ -173,7 +171,7 @@ private:
             const Iterator found = (*walk.places)[Row];
             if (!(found != end)) {
                 if constexpr (isOptional<Value>) return;
-                DecodeError error(notUnderstood, "is missing");
+                DecodeError error("is missing");
                 error.within(row.key);
                 throw error;
             }

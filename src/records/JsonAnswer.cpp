@@ -60,7 +60,7 @@ struct JsonAnswer::Parts {
 
     std::string keyOf(std::string_view json) {
         std::string_view text;
-        if (parse(json).get(text) != simdjson::SUCCESS) throw DecodeError(notUnderstood, "is no JSON");
+        if (parse(json).get(text) != simdjson::SUCCESS) throw DecodeError("is no JSON");
         room.takeText(text.size());
         return std::string(text);
     }
@@ -106,7 +106,7 @@ simdjson::dom::element JsonAnswer::value(std::string_view key) const {
         within(key, [&] { value = parts_->parse(member.json); });
         return value;
     }
-    DecodeError error(notUnderstood, "is missing");
+    DecodeError error("is missing");
     error.within(key);
     throw error;
 }
@@ -126,7 +126,7 @@ void JsonAnswer::checkUnread() const {
 
 JsonAnswer::Elements JsonAnswer::elementsOf(std::string_view element) const {
     JsonScanner scanner(element);
-    if (!scanner.isAt('[')) throw DecodeError(notUnderstood, "wants an array");
+    if (!scanner.isAt('[')) throw DecodeError("wants an array");
     Elements elements = readElements(scanner);
     scanner.expectEnd();
     return elements;

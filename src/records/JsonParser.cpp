@@ -99,7 +99,7 @@ simdjson::dom::element JsonParser::parse(std::string_view json, std::size_t read
         maskHugeNumbers(copy.size());
         failure = parser_->parse(copy, value);
     }
-    if (failure != simdjson::SUCCESS) throw DecodeError(notUnderstood, simdjson::error_message(failure));
+    if (failure != simdjson::SUCCESS) throw DecodeError(simdjson::error_message(failure));
     return value;
 }
 

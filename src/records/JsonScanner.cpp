@@ -8,7 +8,7 @@
 namespace ombrivane {
 namespace {
 
-[[noreturn]] void refuse() { throw DecodeError(notUnderstood, "is no JSON"); }
+[[noreturn]] void refuse() { throw DecodeError("is no JSON"); }
 
 bool isSpace(char character) {
     return character == ' ' || character == '\n' || character == '\r' || character == '\t';

@@ -10,7 +10,7 @@ constexpr std::int64_t mostOfOneType = 1000;
 
 void checkDay(const std::string& text, const char* key) {
     if (Day::parse(text)) return;
-    DecodeError error(notUnderstood, "is no day");
+    DecodeError error("is no day");
     error.within(key);
     error.within("data.flightsSummary");
     throw error;
@@ -21,7 +21,7 @@ void checkDay(const std::string& text, const char* key) {
 void checkTravellers(const AvailabilitySummary& summary) {
     for (const auto count : {summary.numberAdult, summary.numberChild, summary.numberInfant}) {
         if (count >= 0 && count <= mostOfOneType) continue;
-        DecodeError error(notUnderstood, "counts travellers that no booking has");
+        DecodeError error("counts travellers that no booking has");
         error.within("data.availabilitySummary");
         throw error;
     }

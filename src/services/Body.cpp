@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "base/ErrorDomains.h"
+#include "words/Words.h"
 
 namespace ombrivane {
 namespace {
@@ -39,7 +40,7 @@ std::optional<std::string> Body::serialised() const {
 std::string Body::serialisedOrFail() const {
     auto text = serialised();
     if (!text)
-        throw Error{errorDomain::encoding, 0, "The request could not be written.", "a text is no UTF-8"};
+        throw Error{errorDomain::encoding, 0, said(Text::errorRequestNotWritten), "a text is no UTF-8"};
     return *std::move(text);
 }
 

@@ -22,14 +22,14 @@ namespace {
 using simdjson::dom::element;
 
 [[noreturn]] void breach(std::string_view key, const char* reason) {
-    DecodeError error(notUnderstood, reason);
+    DecodeError error(reason);
     error.within(key);
     throw error;
 }
 
 element at(const element& object, std::string_view key) {
     element value;
-    if (!object.is_object()) throw DecodeError(notUnderstood, "wants an object");
+    if (!object.is_object()) throw DecodeError("wants an object");
     if (object.at_key(key).get(value) != simdjson::SUCCESS) breach(key, "is missing");
     return value;
 }
@@ -52,7 +52,7 @@ template <class Key, class Function> auto within(Key key, Function function) {
 
 simdjson::dom::array arrayOf(const element& value) {
     simdjson::dom::array array;
-    if (value.get(array) != simdjson::SUCCESS) throw DecodeError(notUnderstood, "wants an array");
+    if (value.get(array) != simdjson::SUCCESS) throw DecodeError("wants an array");
     return array;
 }
 
@@ -156,7 +156,7 @@ std::array<std::vector<std::shared_ptr<const Offer>>, 2> Envelope::pairOfOffers(
         std::array<std::vector<std::shared_ptr<const Offer>>, 2> pair;
         for (std::size_t index = 0; index < std::max(lists.size(), pair.size()); ++index) {
             if (index >= lists.size()) {
-                throw DecodeError(notUnderstood, "lacks its list " + std::to_string(index));
+                throw DecodeError("lacks its list " + std::to_string(index));
             }
             within(index, [&] {
                 if (index < pair.size()) {

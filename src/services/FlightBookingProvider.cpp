@@ -5,6 +5,7 @@
 #include "services/Endpoints.h"
 #include "services/Frame.h"
 #include "state/AppState.h"
+#include "words/Words.h"
 
 namespace ombrivane {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 Error notEncodable() {
     return {errorDomain::encoding,
             0,
-            "The booking could not be sent.",
+            said(Text::errorBookingNotSent),
             "availabilitySummary: encodes to no object"};
 }
 

@@ -7,8 +7,10 @@
 #include "platform/Platform.h"
 #include "services/CustomError.h"
 #include "services/Endpoints.h"
+#include "services/ErrorWords.h"
 #include "services/Reachability.h"
 #include "state/AppState.h"
+#include "words/Words.h"
 
 #include <string_view>
 
@@ -19,7 +21,7 @@ namespace {
 void requireOneLine(const std::string& name, const std::string& value) {
     using namespace std::string_view_literals;
     if (value.find_first_of("\r\n\0"sv) == std::string::npos) return;
-    throw Error{errorDomain::encoding, 0, "The request could not be written.", name + ": more than one line"};
+    throw Error{errorDomain::encoding, 0, said(Text::errorRequestNotWritten), name + ": more than one line"};
 }
 
 HttpRequest requestFor(const ServiceCall& call, std::string url) {
@@ -100,7 +102,8 @@ std::optional<Error> detail::readAnswer(HttpAnswer answer, std::size_t structure
                                         const std::string& failureDomain,
                                         const std::function<void(const Envelope&)>& read) {
     // The response itself is not looked at: a status says less than the envelope.
-    if (!answer.data || answer.error) return std::move(answer.error);
+    if (answer.error) return inCustomersWords(*std::move(answer.error));
+    if (!answer.data) return std::nullopt;
     std::optional<Error> refusal;
     auto failure = attempted([&] {
         const Envelope envelope(*std::move(answer.data), structureBytes);
@@ -111,7 +114,7 @@ std::optional<Error> detail::readAnswer(HttpAnswer answer, std::size_t structure
         }
         envelope.checkUnread();
     });
-    return failure ? failure : refusal;
+    return failure ? inCustomersWords(*std::move(failure)) : refusal;
 }
 
 } // namespace ombrivane

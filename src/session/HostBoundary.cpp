@@ -3,6 +3,7 @@
 #include "base/Fault.h"
 #include "events/HostEvents.h"
 #include "platform/Platform.h"
+#include "services/ErrorWords.h"
 #include "session/Reservations.h"
 
 namespace ombrivane {
@@ -55,7 +56,7 @@ bool HostBoundary::isDropped() {
 void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<Error> error) {
     if (error) {
         const bool open = endUse(State::closed, ClosedBy::error, error);
-        if (open && callback_) callback_(std::nullopt, std::move(error));
+        if (open && callback_) callback_(std::nullopt, inCustomersWords(*std::move(error)));
         return closeIf(open);
     }
     if (!dictionary) return closeIf(endUse(State::closed, ClosedBy::customer));

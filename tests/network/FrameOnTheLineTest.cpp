@@ -1,3 +1,4 @@
+#include "base/ErrorKind.h"
 #include "fakes/World.h"
 #include "network/Line.h"
 #include "network/TlsServer.h"
@@ -5,9 +6,11 @@
 #include "services/AuthenticationProvider.h"
 #include "services/FlightSearchOneWayProvider.h"
 #include "services/ServiceHosts.h"
+#include "words/LanguageChoice.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <future>
 
 namespace ombrivane::network {
@@ -71,10 +74,17 @@ TEST_P(FrameOnTheLineTest, ABrokenAnswerIsOneErrorThatTellsNoSecret) {
     server().reset();
     server().setFaults({std::string("/get-token ") + GetParam().first});
 
+    LanguageChoice nepali;
+    nepali.language = "ne";
+    chooseLanguage(nepali);
     const Outcome outcome = authenticate();
     EXPECT_FALSE(outcome.result);
     ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->domain, GetParam().second) << outcome.error->localizedDescription;
+    const std::string& text = outcome.error->localizedDescription;
+    EXPECT_EQ(outcome.error->domain, GetParam().second) << text;
+    const bool isForeign =
+        std::any_of(text.begin(), text.end(), [](unsigned char byte) { return byte > 127; });
+    EXPECT_EQ(isForeign, kindOf(*outcome.error) != ErrorKind::credentialsRefused) << text;
     expectNothingGivenAway(*outcome.error, good.result->accessToken);
     EXPECT_EQ(server().requests().size(), 1U);
 }
