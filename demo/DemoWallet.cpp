@@ -7,15 +7,12 @@
 #include "base/SharedInstance.h"
 #include "device/QtPlatform.h"
 #include "keyed/Navigator.h"
+#include "pages/PagePlayer.h"
 #include "platform/SystemLocalization.h"
 #include "services/ServiceHosts.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QEventLoop>
 #include <QFontDatabase>
-#include <QTimer>
 
 #include <fstream>
 #include <iostream>
@@ -25,6 +22,7 @@ namespace ombrivane::demo {
 namespace {
 
 using journey::Ending;
+using kit::PagePlayer;
 
 /// The wallet is written in the component's letters, from its first frame on.
 void addFonts() {
@@ -66,7 +64,7 @@ DemoWallet::~DemoWallet() {
     session_ = nullptr;
     engine_.reset();
     Platform::endNetwork();
-    runUntil([] { return false; }, std::chrono::milliseconds(0));
+    PagePlayer::runUntil([] { return false; }, std::chrono::milliseconds(0));
     dropSharedInstances();
     Platform::install({});
     setFaultHandler(nullptr);
@@ -183,31 +181,18 @@ void DemoWallet::receive(const std::optional<Dictionary>& dictionary, const std:
     log_.event(std::move(event));
 }
 
-bool DemoWallet::runUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) {
-    const QDeadlineTimer deadline(limit);
-    QTimer tick; // wakes the loop so that the condition is looked at
-    tick.start(std::chrono::milliseconds(5));
-    do {
-        QCoreApplication::processEvents(QEventLoop::AllEvents);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        if (done()) return true;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    } while (!deadline.hasExpired());
-    return done();
-}
-
 Navigator* DemoWallet::watched() {
     const Navigator* stack = session_->navigator();
     if (options_.pace > 0 && stack != nullptr && seen_ != stack->top()->name()) {
         seen_ = stack->top()->name();
-        runUntil([] { return false; }, std::chrono::milliseconds(options_.pace));
+        PagePlayer::runUntil([] { return false; }, std::chrono::milliseconds(options_.pace));
     }
     return session_->navigator();
 }
 
 journey::Stage DemoWallet::stage() {
     return {
-        .runUntil = [this](const auto& done, auto limit) { return runUntil(done, limit); },
+        .runUntil = PagePlayer::runUntil,
         .advance = [this](auto duration) { queue_->advance(duration); },
         .open = [this] { QMetaObject::invokeMethod(window_, "openComponent"); },
         .destroy = [this] { QMetaObject::invokeMethod(window_, "closeComponent"); },
@@ -252,10 +237,10 @@ void DemoWallet::click(const std::string& name) {
         if (!isInside(*found)) found->forceActiveFocus(Qt::OtherFocusReason); // which brings it into view
         return isInside(*found);
     };
-    if (!runUntil(isThere, std::chrono::seconds(10)))
+    if (!PagePlayer::runUntil(isThere, std::chrono::seconds(10)))
         throw std::invalid_argument("there is nothing to click on that is called " + name);
     pressOn(*item, true);
-    runUntil([] { return false; }, std::chrono::milliseconds(0));
+    PagePlayer::runUntil([] { return false; }, std::chrono::milliseconds(0));
     pressOn(*item, false);
 }
 
@@ -264,21 +249,25 @@ void DemoWallet::setFaults(const std::string& fault) {
     service_->setFaults(fault.empty() ? std::vector<std::string>() : std::vector{fault});
 }
 
+bool DemoWallet::hasSearch() const {
+    const Navigator* stack = session_->navigator();
+    return stack != nullptr && stack->find("MainView") != nullptr;
+}
+
 void DemoWallet::writePicture(const std::string& file) {
+    // The page of the search is made a piece at a time.
+    PagePlayer::runUntil([this] { return !hasSearch() || visibleItem(*window_, "starting") == nullptr; },
+                         std::chrono::seconds(10));
     // Pictures from addresses and slides arrive within this time.
-    runUntil([] { return false; }, std::chrono::milliseconds(options_.stillMotion ? 150 : 400));
+    PagePlayer::runUntil([] { return false; }, std::chrono::milliseconds(options_.stillMotion ? 150 : 400));
     const bool written = lightened(window_->grabWindow()).save(QString::fromStdString(file));
     log_.answer(Json{{"picture", file}, {"written", written}});
 }
 
 int DemoWallet::takePicture(const std::string& file) {
     QMetaObject::invokeMethod(window_, "openComponent");
-    const bool shown = runUntil(
-        [this] {
-            return session_->navigator() != nullptr && session_->navigator()->find("MainView") != nullptr;
-        },
-        std::chrono::seconds(10));
-    if (!shown) return static_cast<int>(Ending::expectationFailed);
+    if (!PagePlayer::runUntil([this] { return hasSearch(); }, std::chrono::seconds(10)))
+        return static_cast<int>(Ending::expectationFailed);
     writePicture(file);
     return 0;
 }

@@ -57,7 +57,7 @@ private:
     journey::Stage stage();
     /// The stack that a script works on; whoever watches has seen its topmost screen.
     Navigator* watched();
-    bool runUntil(const std::function<bool()>& done, std::chrono::milliseconds limit);
+    bool hasSearch() const;
     void writePicture(const std::string& file);
     void click(const std::string& name);
     void setFaults(const std::string& fault);

@@ -7,8 +7,7 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QProcess>
-#include <QQmlComponent>
-#include <QQmlEngine>
+#include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
 #include <fmt/core.h>
@@ -54,17 +53,16 @@ bool canBeRead(const QQuickItem& item) {
     return item.opacity() > 0.99 && (item.parentItem() == nullptr || canBeRead(*item.parentItem()));
 }
 
-Start start(QQmlEngine& engine, const char* source) {
+/// By the engine of a wallet, which makes pages a piece at a time.
+Start start(QQmlApplicationEngine& engine, const char* source) {
     Start figures;
     QElapsedTimer time;
     time.start();
     const double begin = processorSeconds();
     double looking = 0; // for the text, which is no part of the work
-    QQmlComponent component(&engine);
-    component.setData(source, QUrl("qrc:/bench/Window.qml"));
-    const std::unique_ptr<QObject> root(component.create());
-    auto* window = qobject_cast<QQuickWindow*>(root.get());
-    if (window == nullptr) throw std::runtime_error(component.errorString().toStdString());
+    engine.loadData(source, QUrl("qrc:/bench/Window.qml"));
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+    if (window == nullptr) throw std::runtime_error("no window");
     QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] {
         const double now = processorSeconds();
         const double elapsed = static_cast<double>(time.nsecsElapsed()) / 1e6 - looking * 1e3;
@@ -108,7 +106,7 @@ double medianOf(const std::vector<Start>& starts, double Start::*figure) {
 void startOnce(const QString& kind) {
     Device device;
     if (kind == "awaited") device.service().setFaults({"/get-token latency=300"});
-    QQmlEngine engine;
+    QQmlApplicationEngine engine;
     const Start figures = start(engine, kind == "bare" ? bareWindow : componentWindow);
     fmt::print("{:.3f} {:.3f} {:.3f} {:.3f}\n",
                figures.firstFrame,

@@ -48,7 +48,8 @@ struct ShownLast {
 EntryView::EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal) :
     Screen("OmbrivaneView"),
     arguments_(std::move(arguments)),
-    boundary_(std::make_shared<HostBoundary>(std::move(callback), closing(std::move(dismissal)))) {}
+    boundary_(std::make_shared<HostBoundary>(std::move(callback), closing(std::move(dismissal)))),
+    search(std::make_shared<MainView>(boundary_->internalCallback())) {}
 
 bool EntryView::drop() {
     dropped_ = true;
@@ -94,7 +95,6 @@ void EntryView::authenticated(std::optional<Authentication> authentication) {
     registerFonts();
     AppState::shared().resetNavigation(); // a view that still lives may have left its results there
     if (kept_) kept_->fillForm();
-    const auto search = std::make_shared<MainView>(boundary_->internalCallback());
     view = search;
     if (kept_) std::exchange(kept_, std::nullopt)->show(*search);
 }

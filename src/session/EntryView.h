@@ -16,6 +16,8 @@
 
 namespace ombrivane {
 
+class MainView;
+
 /// What the host passes in.
 struct EntryArguments {
     std::string clientId;
@@ -38,6 +40,10 @@ struct Dismissal {
 /// `MainView`. The bootstrap runs once, when the view comes on screen, and not when the customer comes back
 /// to the search; a failure reaches the host and closes the component.
 class EntryView final : public Screen {
+private:
+    EntryArguments arguments_;
+    std::shared_ptr<HostBoundary> boundary_;
+
 public:
     EntryView(EntryArguments arguments, CompletionCallback callback, Dismissal dismissal);
     ~EntryView() override { drop(); }
@@ -51,6 +57,9 @@ public:
     /// What the customer left earlier; taken up when the search comes. Before it appears.
     void takeUp(KeptState kept) { kept_ = std::move(kept); }
 
+    /// The search, made before the bootstrap, so that its page can be made while the token is on its way. It
+    /// comes on screen as `view`.
+    const std::shared_ptr<MainView> search;
     /// The content, once the bootstrap has finished.
     Published<std::shared_ptr<Screen>> view{fields, "view"};
     Part content{*this, "view", [this] { return view.get(); }};
@@ -58,9 +67,7 @@ public:
 private:
     void authenticated(std::optional<Authentication> authentication);
 
-    EntryArguments arguments_;
     std::optional<KeptState> kept_;
-    std::shared_ptr<HostBoundary> boundary_;
     bool bootstrapped_ = false;
     bool dropped_ = false;
 };

@@ -1,14 +1,12 @@
 #include "Window.h"
 
 #include "keyed/Navigator.h"
+#include "pages/PagePlayer.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QQmlComponent>
 #include <QTest>
-#include <QTimer>
 
 namespace ombrivane::view {
 namespace {
@@ -75,6 +73,7 @@ void Window::setLook(bool dark, double textScale) {
 }
 
 void Window::settle() {
+    EXPECT_TRUE(waitFor([this] { return isMade(); })) << "the search has no page";
     constexpr int enough = 90; // milliseconds; the slowest is a logo from the service
     QTest::qWait(enough);
     // On a busy machine the frame that lays everything out may still be due.
@@ -91,23 +90,19 @@ void Window::settle() {
 void Window::open() { session_->open(); }
 
 bool Window::waitFor(const std::function<bool()>& done) {
-    const QDeadlineTimer deadline(std::chrono::seconds(10));
-    QTimer tick;
-    tick.start(std::chrono::milliseconds(5));
-    do {
-        QCoreApplication::processEvents(QEventLoop::AllEvents);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        if (done()) return true;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    } while (!deadline.hasExpired());
-    return false;
+    return kit::PagePlayer::runUntil(done, std::chrono::seconds(10));
 }
 
 bool Window::waitForScreen(const std::string& name) {
     return waitFor([&] {
         const Navigator* navigator = session_ ? session_->navigator() : nullptr;
-        return navigator != nullptr && navigator->find(name) != nullptr;
+        return navigator != nullptr && navigator->find(name) != nullptr && isMade();
     });
+}
+
+bool Window::isMade() {
+    const Navigator* navigator = session_ ? session_->navigator() : nullptr;
+    return navigator == nullptr || !navigator->find("MainView") || item("starting") == nullptr;
 }
 
 std::vector<QQuickItem*> Window::visibleItems() {

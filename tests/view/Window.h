@@ -4,7 +4,7 @@
 #include "sandbox/Sandbox.h"
 
 #include <QPointer>
-#include <QQmlEngine>
+#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -45,6 +45,8 @@ public:
     QQuickItem* item(const QString& name);
     void click(const QString& name);
     std::vector<QQuickItem*> visibleItems();
+    /// Whether the search, where there is one, has its page.
+    bool isMade();
     int width() const { return window_->width(); }
     void setLook(bool dark, double textScale);
     /// Turns the event loop until pictures have arrived and nothing moves any more.
@@ -56,7 +58,7 @@ public:
     int closings = 0;
 
 private:
-    QQmlEngine engine_;
+    QQmlApplicationEngine engine_; // a wallet's, which makes pages a piece at a time
     std::unique_ptr<QObject> root_;
     QQuickWindow* window_ = nullptr;
     QPointer<OmbrivaneSession> session_;

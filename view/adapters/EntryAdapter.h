@@ -2,28 +2,28 @@
 
 #include "adapters/MainViewAdapter.h"
 #include "adapters/ScreenAdapter.h"
+#include "search/MainView.h"
 #include "session/EntryView.h"
-
-#include <memory>
 
 namespace ombrivane::view {
 
-/// The root of all pages: nothing until the bootstrap has finished, then the search. By hand, since it reads
-/// no key.
+/// The root of all pages: a placeholder until the bootstrap has finished, then the search, whose page may be
+/// made before. By hand, since it reads no key.
 class EntryAdapter : public ombrivane::view::ScreenAdapter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the component")
-    Q_PROPERTY(ombrivane::view::MainViewAdapter* content READ content NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool hasStarted READ hasStarted NOTIFY hasStartedChanged FINAL)
     OMBRIVANE_SCREEN(EntryAdapter, ScreenAdapter, EntryView)
 
+    OMBRIVANE_PART(MainViewAdapter, search, core().search)
+
 public:
-    MainViewAdapter* content();
-    Q_SIGNAL void contentChanged();
+    bool hasStarted() const { return core().view.get() != nullptr; }
+    Q_SIGNAL void hasStartedChanged();
 
 private:
-    std::unique_ptr<MainViewAdapter> content_;
-    Subscription watch_ = watch(core().view, [this] { emit contentChanged(); });
+    Subscription watch_ = watch(core().view, [this] { emit hasStartedChanged(); });
 };
 
 } // namespace ombrivane::view

@@ -5,6 +5,8 @@
 #include "appearance/ThemedScope.h"
 #include "platform/Platform.h"
 
+#include <QFontDatabase>
+#include <QGuiApplication>
 #include <QQmlContext>
 
 #include <algorithm>
@@ -26,10 +28,18 @@ Theme* themeOfEngine(QQmlEngine& engine) {
     return theme;
 }
 
+/// The component's own family, once its faces are there.
+QString ownFamily() {
+    const QString name = QStringLiteral("Fira Sans");
+    return QFontDatabase::hasFamily(name) ? name : QString();
+}
+
 } // namespace
 
 Theme::Theme(QQmlEngine& engine) : QObject(&engine) {
     connect(&words_, &WordsAdapter::fontFamilyChanged, this, &Theme::chooseFont);
+    // Faces come when the component has started, to pages that were measured without them.
+    connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &Theme::chooseFont, Qt::QueuedConnection);
     chooseFont();
 }
 
@@ -83,7 +93,7 @@ void Theme::chooseFont() {
     const QString ofFaces = addFontFaces(appearance_.fontFaces);
     const QString own = appearance_.fontFamily.isEmpty() ? ofFaces : appearance_.fontFamily;
     const QString ofDevice = WordsAdapter::fontFamily();
-    QString family = own.isEmpty() ? QStringLiteral("Fira Sans") : own;
+    QString family = own.isEmpty() ? ownFamily() : own;
     if (!ofDevice.isEmpty() && !WordsAdapter::hasLetters(own)) family = ofDevice;
     const double overhang = ofDevice.isEmpty() ? 1 : 8;
     if (family == fontFamily_ && overhang == overhang_) return;

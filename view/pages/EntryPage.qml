@@ -1,23 +1,27 @@
 import QtQuick
 import Ombrivane.Private
 
-// A placeholder until the component has started, then the search.
+// A placeholder until the component has started, then the search. Its page is made meanwhile, a piece at a time.
 Item {
     id: page
 
     required property EntryAdapter screen
+    readonly property bool isReady: screen.hasStarted && search.status === Loader.Ready
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     ProgressLine {
+        objectName: "starting"
         anchors.centerIn: parent
         width: 120
-        visible: page.screen.content === null
+        visible: !page.isReady
         label: Words.starting
     }
     // By its address, so that the first frame does not wait for the types of the search.
     Loader {
-        readonly property MainViewAdapter main: page.screen.content
+        id: search
         anchors.fill: parent
-        onMainChanged: if (main !== null) setSource(Qt.resolvedUrl("MainView.qml"), {"screen": main}); else source = ""
+        asynchronous: true
+        visible: page.isReady
+        Component.onCompleted: setSource(Qt.resolvedUrl("MainView.qml"), {"screen": page.screen.search})
     }
 }
