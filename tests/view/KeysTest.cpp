@@ -42,6 +42,7 @@ public:
     }
     /// Goes with Tab to the next control of a name. A list is one stop on the way.
     void go(const std::string& name) {
+        ASSERT_TRUE(window_.waitFor([this] { return window_.isMade(); }));
         std::vector<std::string> stops{place()};
         const QQuickItem* list = listAround(focused());
         do {

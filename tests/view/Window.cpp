@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QQmlComponent>
+#include <QQmlIncubationController>
 #include <QTest>
 
 namespace ombrivane::view {
@@ -76,6 +77,9 @@ void Window::settle() {
     EXPECT_TRUE(waitFor([this] { return isMade(); })) << "the search has no page";
     constexpr int enough = 90; // milliseconds; the slowest is a logo from the service
     QTest::qWait(enough);
+    const QQmlIncubationController* making = engine_.incubationController();
+    EXPECT_TRUE(waitFor([making] { return making == nullptr || making->incubatingObjectCount() == 0; }))
+        << "a row is never made";
     // On a busy machine the frame that lays everything out may still be due.
     bool drawn = false;
     const auto watch =

@@ -22,6 +22,8 @@ Item {
         anchors.fill: parent
         asynchronous: true
         visible: page.isReady
+        // A view that goes meanwhile has no use for it.
+        Component.onDestruction: active = false
         Component.onCompleted: setSource(Qt.resolvedUrl("MainView.qml"), {"screen": page.screen.search})
     }
 }
