@@ -23,14 +23,10 @@ public:
         thread_ = std::thread([this] { run(); });
     }
 
-    ~Worker() {
-        {
-            const std::lock_guard lock(mutex_);
-            stopping_ = true;
-        }
-        curl_multi_wakeup(multi_.get());
-        thread_.join();
-    }
+    ~Worker() { stop(End::abandoning); }
+
+    /// What is under way stays as it stands, and nobody hears of it.
+    void leave() { stop(End::leaving); }
 
     void add(std::unique_ptr<CurlTransfer> transfer) {
         {
@@ -63,9 +59,21 @@ private:
         return std::exchange(asked_, {});
     }
 
-    bool isStopping() {
+    enum class End { none, abandoning, leaving };
+
+    void stop(End end) {
+        if (!thread_.joinable()) return;
+        {
+            const std::lock_guard lock(mutex_);
+            end_ = end;
+        }
+        curl_multi_wakeup(multi_.get());
+        thread_.join();
+    }
+
+    End end() {
         const std::lock_guard lock(mutex_);
-        return stopping_;
+        return end_;
     }
 
     void start(std::unique_ptr<CurlTransfer> transfer) {
@@ -101,7 +109,7 @@ private:
     }
 
     void run() {
-        while (!isStopping()) {
+        while (end() == End::none) {
             auto [transfers, expected] = takeAsked();
             advance(); // what has connected before a transfer arrived can be taken by it
             startAll(std::move(transfers));
@@ -114,6 +122,7 @@ private:
             const int pause = running_.empty() && standing_.empty() ? std::numeric_limits<int>::max() : 1000;
             curl_multi_poll(multi_.get(), nullptr, 0, pause, nullptr);
         }
+        if (end() == End::leaving) return;
         for (auto& [handle, transfer] : running_) {
             curl_multi_remove_handle(multi_.get(), handle);
             transfer->abandon();
@@ -140,7 +149,7 @@ private:
     std::mutex mutex_;
     Asked asked_;
     std::map<CURL*, std::unique_ptr<CurlTransfer>> running_;
-    bool stopping_ = false;
+    End end_ = End::none;
     std::thread thread_;
 };
 
@@ -154,6 +163,8 @@ void CurlNetwork::send(HttpRequest request, HttpCompletion completion) {
     transfer->isolate();
     worker_->add(std::move(transfer));
 }
+
+void CurlNetwork::leave() { worker_->leave(); }
 
 void CurlNetwork::expect(const std::string& url) {
     if (settings_.proxy.empty()) worker_->expect(url); // a proxy's connections are the proxy's to open

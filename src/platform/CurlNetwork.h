@@ -22,6 +22,7 @@ public:
     ~CurlNetwork() override;
 
     void send(HttpRequest request, HttpCompletion completion) override;
+    void leave() override;
     void expect(const std::string& url) override;
     void fetchPicture(const std::string& url, HttpCompletion completion) override;
 

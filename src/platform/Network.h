@@ -18,6 +18,10 @@ public:
     /// server's certificate must be trusted and name the host. Any thread.
     virtual void send(HttpRequest request, HttpCompletion completion) = 0;
 
+    /// The process ends: from here on nothing is called any more, since those who would be may be gone. Once,
+    /// on the thread that ends it.
+    virtual void leave() {}
+
     /// A request to the host of `url` is likely within seconds: a network may open a connection for it, on
     /// which it sends nothing. Any thread.
     virtual void expect(const std::string& /*url*/) {}

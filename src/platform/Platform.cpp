@@ -2,19 +2,28 @@
 
 #include "base/Fault.h"
 
+#include <cstdlib>
 #include <optional>
 
 namespace ombrivane {
 namespace {
 
+/// Never destroyed: threads of the network read it until the process has gone.
 std::optional<Platform>& installed() {
-    static std::optional<Platform> instance;
+    static auto& instance = *new std::optional<Platform>;
     return instance;
+}
+
+void leaveNetwork() {
+    if (installed() && installed()->network) installed()->network->leave();
 }
 
 } // namespace
 
-void Platform::install(Platform platform) { installed() = std::move(platform); }
+void Platform::install(Platform platform) {
+    [[maybe_unused]] static const int registered = std::atexit(leaveNetwork);
+    installed() = std::move(platform);
+}
 
 void Platform::endNetwork() {
     if (!installed()) return;

@@ -1,5 +1,6 @@
 #include "network/Line.h"
 #include "network/TlsServer.h"
+#include "platform/Platform.h"
 
 #include <curl/curl.h>
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <thread>
 
 #include <unistd.h>
 
@@ -89,6 +91,24 @@ TEST_F(EnvironmentTest, NoKeyIsLoggedAndNoPasswordAdded) {
         EXPECT_TRUE(!std::filesystem::exists(keyLog()) || std::filesystem::is_empty(keyLog()));
     };
     EXPECT_EXIT((test(), end()), testing::ExitedWithCode(0), "");
+}
+
+/// A wallet whose main function returns while a request is under way: what its completion would use has gone.
+TEST_F(EnvironmentTest, AProcessMayEndInTheMiddleOfARequest) {
+    const auto test = [] {
+        static auto& server = *new TlsServer(saysNothing);
+        static int called = 0;
+        std::atexit([] { std::_Exit(called); }); // behind what the platform does at the end
+        Platform ports;
+        ports.network = std::make_shared<CurlNetwork>(CurlSettings{.caFile = server.caFile()});
+        Platform::install(std::move(ports));
+        HttpRequest request;
+        request.url = server.url();
+        platform().network->send(std::move(request), [](const HttpAnswer&) { called = 1; });
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        std::exit(0);
+    };
+    EXPECT_EXIT(test(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(EnvironmentTest, NoWeakerTlsIsSpoken) {
