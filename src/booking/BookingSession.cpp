@@ -95,10 +95,11 @@ void BookingSession::appear() {
 void BookingSession::tick() {
     if (timeRemaining >= 1) {
         timeRemaining = timeRemaining - 1;
-    } else {
-        if (!showSessionExpiredAlert) reporter_.happened({.kind = EventKind::expired});
-        showSessionExpiredAlert = true;
+        return;
     }
+    const auto hold = shared_from_this(); // whoever hears of it may drop the view
+    if (!showSessionExpiredAlert) reporter_.happened({.kind = EventKind::expired});
+    showSessionExpiredAlert = true;
 }
 
 bool BookingSession::lendsInput() const {

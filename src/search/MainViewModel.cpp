@@ -12,6 +12,13 @@ constexpr const char* homeCountry = "Nepal";
 
 MainViewModel& MainViewModel::shared() { return SharedInstance<MainViewModel>::get(); }
 
+void MainViewModel::closeSheets() {
+    showTravellerSheet = false;
+    showNationalitySheet = false;
+    showAlert = false;
+    showDestinationSameAlert = false;
+}
+
 void MainViewModel::swapLocations() {
     const std::string texts[] = {originText, destinationText};
     const std::string cities[] = {departCity, destCity};

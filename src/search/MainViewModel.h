@@ -19,6 +19,9 @@ class MainViewModel {
 public:
     static MainViewModel& shared();
 
+    /// No sheet and no alert lies over the form.
+    void closeSheets();
+
     /// Exchanges origin and destination: texts, cities, codes and countries.
     void swapLocations();
 

@@ -52,6 +52,9 @@ public:
     /// @return whether it is the view that was shown last, whose navigation flags those of the process are
     bool drop();
 
+    /// Whether the component has neither closed nor been dropped.
+    bool isOpen() const { return boundary_->isOpen(); }
+
     void appear() override;
 
     /// What the customer left earlier; taken up when the search comes. Before it appears.

@@ -53,6 +53,11 @@ bool HostBoundary::isDropped() {
     return state_ == State::dropped;
 }
 
+bool HostBoundary::isOpen() {
+    const std::lock_guard lock(mutex_);
+    return state_ == State::open;
+}
+
 void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<Error> error) {
     if (error) {
         const bool open = endUse(State::closed, ClosedBy::error, error);

@@ -38,6 +38,9 @@ public:
 
     void receive(std::optional<Dictionary> dictionary, std::optional<Error> error);
 
+    /// Whether nothing has ended the opening yet.
+    bool isOpen();
+
     /// The host has dropped the view: from here on nothing is closed.
     void drop();
 

@@ -3,6 +3,7 @@
 #include "events/HostEvents.h"
 #include "keyed/Navigator.h"
 #include "recording/Recorder.h"
+#include "search/MainViewModel.h"
 #include "services/Frame.h"
 #include "session/EntryView.h"
 #include "session/KeptState.h"
@@ -25,10 +26,13 @@ struct OmbrivaneView::Parts {
         screens = {};
         if (recorder) recorder->letGo();
         navigator.reset();
-        if (ownsFlags) AppState::shared().resetNavigation();
+        if (!ownsFlags) return;
+        AppState::shared().resetNavigation();
+        MainViewModel::shared().closeSheets();
     }
 
     void cameIntoView() {
+        if (!entry || !entry->isOpen()) return; // an opening that has ended shows nothing more
         expectCall();
         // The root is a frame: what is seen there is its content.
         const auto lying = Navigator::withParts(navigator->top());

@@ -57,6 +57,7 @@ TEST_F(EventsTest, ABookingTellsItsStationsInTheirOrder) {
     EXPECT_EQ(screens.at(1), "MainView");
     EXPECT_EQ(std::count(screens.begin(), screens.end(), "OWBookingDetailsView"), 3)
         << "come to, and come back to from two forms";
+    EXPECT_EQ(events_.back().kind, EventKind::closed) << "nothing is shown after it";
     EXPECT_EQ(told(),
               (Told{"opened",
                     "searchSent",
@@ -136,6 +137,16 @@ TEST_F(EventsTest, TheExpiryIsToldOnce) {
     told();
     world.pass(std::chrono::seconds(700));
     EXPECT_EQ(told(), Told{"expired"});
+}
+
+TEST_F(EventsTest, AHostMayLetGoOfTheViewAtTheExpiry) {
+    const auto dropping = HostEvents::shared().listen([this](const Event& event) {
+        if (event.kind == EventKind::expired) wallet.drop();
+    });
+    wallet.toSession();
+    told();
+    world.pass(std::chrono::seconds(700));
+    EXPECT_EQ(told(), (Told{"closed host", "expired"}));
 }
 
 TEST_F(EventsTest, AListenerThatThrowsOrHasGoneDisturbsNobody) {

@@ -318,6 +318,8 @@ TEST_F(OmbrivaneViewTest, ShownAgainItStartsAgainAndKeepsWhatTheProcessKeeps) {
     EXPECT_TRUE(taken().empty()) << "the bootstrap before counts no more";
     world.answer(granted);
     state.nationality = "IN";
+    MainViewModel::shared().showTravellerSheet = true;
+    ASSERT_EQ(view->navigator()->stack().size(), 2U);
     const std::size_t sent = world.network->sent().size();
 
     view->show();
@@ -330,6 +332,7 @@ TEST_F(OmbrivaneViewTest, ShownAgainItStartsAgainAndKeepsWhatTheProcessKeeps) {
     EXPECT_NE(content(), nullptr);
     EXPECT_EQ(state.accessToken.get(), "T2");
     EXPECT_EQ(state.nationality.get(), "IN");
+    EXPECT_EQ(view->navigator()->stack().size(), 1U) << "a sheet that lay over the form is gone";
     EXPECT_EQ(world.fonts->registered, (Log{"one.ttf", "two.ttf"})) << "once per process";
     ASSERT_EQ(world.diagnostics->lines.size(), 1U) << "that nobody named a service, once";
     EXPECT_TRUE(world.diagnostics->lines[0].ends_with("asking https://localhost:8443"));
