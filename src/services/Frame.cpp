@@ -1,6 +1,7 @@
 #include "services/Frame.h"
 
 #include "base/Attempted.h"
+#include "base/Https.h"
 #include "base/Url.h"
 #include "events/HostEvents.h"
 #include "platform/ElapsedTime.h"
@@ -88,7 +89,7 @@ void detail::perform(const ServiceCall& call, HttpCompletion answered) {
         return answered(failed(makeError(CustomError::noInternetConnection)));
     }
     std::string url = Endpoints::shared().address(call.endpoint) + call.query;
-    if (!isUrl(url)) return answered(failed(makeError(CustomError::invalidUrl)));
+    if (!isUrl(url) || !isHttps(url)) return answered(failed(makeError(CustomError::invalidUrl)));
     HttpRequest request;
     auto failure = attempted([&] { request = requestFor(call, std::move(url)); });
     if (failure) return answered(failed(*std::move(failure)));

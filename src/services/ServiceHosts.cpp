@@ -30,6 +30,9 @@ bool ServiceHosts::areOfNobody() {
 
 void ServiceHosts::use(ServiceHosts hosts) {
     const std::lock_guard lock(mutex);
+    // The paths of the service begin with a slash.
+    for (std::string* host : {&hosts.production, &hosts.test})
+        host->erase(host->find_last_not_of('/') + 1);
     chosen() = std::move(hosts);
 }
 

@@ -22,6 +22,11 @@ TEST_F(FrameTest, NothingButTestSelectsTheTestHost) {
     }
 }
 
+TEST_F(FrameTest, ASlashBehindAHostIsNotSentTwice) {
+    ServiceHosts::use({"https://production.example/", "https://test.example//"});
+    EXPECT_EQ(Endpoints::shared().address(endpoint::token), "https://test.example/api/b2b/v2/get-token");
+}
+
 TEST_F(FrameTest, TheFirstUseFixesTheAddresses) {
     const std::string first = Endpoints::shared().baseURL;
     AppState::shared().environment = "production";

@@ -1,5 +1,6 @@
 #include "services/AuthenticationProvider.h"
 
+#include "base/SharedInstance.h"
 #include "fakes/World.h"
 #include "services/ServiceHosts.h"
 #include "state/AppState.h"
@@ -55,14 +56,18 @@ TEST_F(TokenRequestTest, WithoutAConnectionNothingIsBuiltOrSent) {
 
 TEST_F(TokenRequestTest, AnAddressThatIsNoneEndsTheCallBeforeAnythingIsSent) {
     const ServiceHosts before = ServiceHosts::current();
-    ServiceHosts::use({"https://a b", "https://a b"});
-    authenticate();
+    for (const std::string host : {"https://a b", "http://a.example", "a.example"}) {
+        dropSharedInstances(); // the first address stays for the life of the process
+        calls = 0;
+        ServiceHosts::use({host, host});
+        authenticate();
+        EXPECT_EQ(calls, 1) << host;
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->localizedDescription, "The provided url is not valid.");
+        EXPECT_EQ(error->code, 0);
+        EXPECT_TRUE(world.network->sent().empty()) << host;
+    }
     ServiceHosts::use(before);
-    EXPECT_EQ(calls, 1);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->localizedDescription, "The provided url is not valid.");
-    EXPECT_EQ(error->code, 0);
-    EXPECT_TRUE(world.network->sent().empty());
 }
 
 TEST_F(TokenRequestTest, ATransportErrorComesAsItIsAndWinsOverWhatElseArrived) {
