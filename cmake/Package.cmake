@@ -17,6 +17,9 @@ file(RELATIVE_PATH from_pkgconfig_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /
 configure_file(${CMAKE_CURRENT_LIST_DIR}/ombrivane-core.pc.in ${PROJECT_BINARY_DIR}/ombrivane-core.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/ombrivane-core.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 include(Sbom)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs FILES_MATCHING PATTERN *.md)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/contract)
 if(OMBRIVANE_TOOLS)
     install(EXPORT OmbrivaneKit NAMESPACE Ombrivane:: DESTINATION ${package_folder})
@@ -41,5 +44,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 # What a host builds against.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "libcurl4-openssl-dev (>= 7.87), libfmt-dev, libicu-dev, libjpeg-dev, libpng-dev, libsimdjson-dev, libssl-dev, nlohmann-json3-dev")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-declarative-dev, qt6-svg-dev")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS 
+    "qt6-declarative-dev, qt6-svg-dev, qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-dialogs, \
+qml6-module-qtquick-layouts, qml6-module-qtquick-shapes, qml6-module-qtquick-templates, qml6-module-qtquick-window, \
+qml6-module-qtqml-models, qml6-module-qtqml-workerscript, zlib1g-dev")
 include(CPack)

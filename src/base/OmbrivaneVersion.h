@@ -2,7 +2,9 @@
 
 #include "base/Api.h"
 
+#ifdef __cplusplus
 extern "C" {
+#endif
 
 /// Which component this is, in a form that compares: 1.2.3 is 1.0203, so a later version is the larger
 /// number.
@@ -10,4 +12,7 @@ OMBRIVANE_API extern const double OmbrivaneVersionNumber;
 
 /// The same as text, "1.2.3", closed by a null character.
 OMBRIVANE_API extern const char OmbrivaneVersionString[];
+
+#ifdef __cplusplus
 }
+#endif
