@@ -14,7 +14,9 @@ tells anything else than the code.
 
 - A **field** can be read and set. A flag that shows something says so.
 - A **text**, **flag**, **number** or **list** is computed from fields and can be read.
-- An **action** is what a control does; the value tells whether the control can be used. Most take no argument.
+- An **action** is what a control does; the value tells whether the control can be used. Most take no argument;
+  what begins with `type` takes a text, `tapDay` and the picks of dates one such as `"2027-01-10"`, `chooseGender` `"Female"`,
+  `tap` of the tab bar `"roundTrip"`, `slide` and its like a number.
 - **Rows** are small screens of their own, made when they are drawn: `rows[0].tap`.
 - A **part** is a screen shown inside of this one.
 - Keys below a **model** are reached as `model.key`. A model that several screens share is told once.
