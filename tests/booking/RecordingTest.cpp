@@ -2,7 +2,6 @@
 #include "recording/Pseudonym.h"
 
 #include <fmt/ranges.h>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <regex>
@@ -11,8 +10,7 @@
 namespace ombrivane {
 namespace {
 
-using testing::HasSubstr;
-using testing::Not;
+bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 TEST(RecordingTest, WhatIsTypedKeepsItsShapeAndNothingElse) {
     constexpr std::uint64_t salt = 7;
@@ -67,7 +65,7 @@ TEST(RecordingTest, AnOpeningBecomesAJourney) {
     wallet.fail();
     const std::string text = wallet.recording();
     for (const char* secret : {"Asha", "asha@", "1990-05-17"})
-        EXPECT_THAT(text, Not(HasSubstr(secret)));
+        EXPECT_FALSE(has(text, secret)) << text;
     const auto commands = commandsOf(text);
     for (const char* part : {"wait-screen MainView\n",
                              "tap OneWayView.search\nwait-screen FlightListView\n",
@@ -78,9 +76,9 @@ TEST(RecordingTest, AnOpeningBecomesAJourney) {
                              "tap TravellerInformationView.openPhotoPicker\n",
                              "advance 61\nback\n",
                              "tap OWBookingDetailsView.continue\n"})
-        EXPECT_THAT(fmt::format("{}\n", fmt::join(commands, "\n")), HasSubstr(part)) << text;
-    EXPECT_THAT(text, HasSubstr("#: sandbox --offers 1\n"));
-    EXPECT_THAT(text, HasSubstr("#: sandbox --fault \"/reservation silence times=1 after=0\"\n"));
+        EXPECT_TRUE(has(fmt::format("{}\n", fmt::join(commands, "\n")), part)) << part << text;
+    EXPECT_TRUE(has(text, "#: sandbox --offers 1\n")) << text;
+    EXPECT_TRUE(has(text, "#: sandbox --fault \"/reservation silence times=1 after=0\"\n")) << text;
 }
 
 } // namespace
