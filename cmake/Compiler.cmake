@@ -12,10 +12,10 @@ target_compile_options(ombrivane_warnings INTERFACE
 target_compile_options(ombrivane_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
 # A wallet counts the bytes that it ships: a release is built for size, but for the sources that go through long answers,
-# and linked without what nobody calls, its relocations packed where linker and loader can.
+# and linked without what nobody calls, its relocations packed where linker and loader can. A linker that cannot only warns.
 include(CheckLinkerFlag)
 set(thrifty $<$<NOT:$<PLATFORM_ID:Darwin>>:-Wl,--gc-sections>)
-check_linker_flag(CXX -Wl,-z,pack-relative-relocs OMBRIVANE_PACKS_RELOCATIONS)
+check_linker_flag(CXX -Wl,--fatal-warnings,-z,pack-relative-relocs OMBRIVANE_PACKS_RELOCATIONS)
 if(OMBRIVANE_PACKS_RELOCATIONS)
     list(APPEND thrifty -Wl,-z,pack-relative-relocs)
 endif()
