@@ -15,6 +15,12 @@ template <class Told> void tellOne(const std::function<void(const Told&)>& liste
     if (listener) (void)attempted([&] { listener(told); });
 }
 
+/// So that one which another lets go of, while they are told, is told no more.
+template <class Listener>
+std::vector<std::weak_ptr<Listener>> weakly(const std::vector<std::shared_ptr<Listener>>& living) {
+    return {living.begin(), living.end()};
+}
+
 } // namespace
 
 HostEvents& HostEvents::shared() { return SharedInstance<HostEvents>::get(); }
@@ -48,13 +54,15 @@ std::vector<std::shared_ptr<const HostEvents::Listener>> HostEvents::listeners()
 }
 
 void HostEvents::tell(const Event& event) const {
-    for (const auto& listener : listeners())
-        tellOne(listener->happened, event);
+    for (const auto& each : weakly(listeners())) {
+        if (const auto listener = each.lock()) tellOne(listener->happened, event);
+    }
 }
 
 void HostEvents::tell(const EndedCall& call) const {
-    for (const auto& listener : listeners())
-        tellOne(listener->callEnded, call);
+    for (const auto& each : weakly(listeners())) {
+        if (const auto listener = each.lock()) tellOne(listener->callEnded, call);
+    }
 }
 
 } // namespace ombrivane

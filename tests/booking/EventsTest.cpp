@@ -146,7 +146,7 @@ TEST_F(EventsTest, AHostMayLetGoOfTheViewAtTheExpiry) {
     wallet.toSession();
     told();
     world.pass(std::chrono::seconds(700));
-    EXPECT_EQ(told(), (Told{"closed host", "expired"}));
+    EXPECT_EQ(told(), (Told{"expired", "closed host"}));
 }
 
 TEST_F(EventsTest, AListenerThatThrowsOrHasGoneDisturbsNobody) {
