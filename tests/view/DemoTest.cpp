@@ -1,3 +1,4 @@
+#include "Complaints.h"
 #include "DemoWallet.h"
 #include "Onscreen.h"
 #include "Walk.h"
@@ -78,6 +79,7 @@ TEST_F(DemoTest, WhatCannotBeUsedIsSaidBeforeAnyWindow) {
 
 TEST_F(DemoTest, MayBeClosedAtAnyOfItsFirstFrames) {
     // Each of them takes minutes under the sanitizers, so that is for the long run.
+    const demo::Complaints complaints;
     const bool every = std::getenv("OMBRIVANE_EVERY_TURN") != nullptr;
     for (int events = 0; events < 200; events += every || events < 20 ? 1 : 12) {
         SCOPED_TRACE(events);
@@ -88,6 +90,7 @@ TEST_F(DemoTest, MayBeClosedAtAnyOfItsFirstFrames) {
             QTest::qWait(1);
         if (events % 2 == 0) wallet->window().close();
         wallet.reset();
+        EXPECT_EQ(demo::Complaints::count(), 0);
     }
 }
 

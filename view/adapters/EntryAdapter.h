@@ -21,6 +21,8 @@ class EntryAdapter : public ombrivane::view::ScreenAdapter {
 public:
     bool hasStarted() const { return core().view.get() != nullptr; }
     Q_SIGNAL void hasStartedChanged();
+    /// The view goes; the page follows with a later turn of the event loop.
+    Q_SIGNAL void left();
 
 private:
     Subscription watch_ = watch(core().view, [this] { emit hasStartedChanged(); });

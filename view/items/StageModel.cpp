@@ -1,5 +1,6 @@
 #include "items/StageModel.h"
 
+#include "adapters/EntryAdapter.h"
 #include "adapters/PageTable.h"
 #include "base/Fault.h"
 
@@ -76,6 +77,7 @@ void StageModel::update() {
     }
     if (same < entries_.size()) {
         finishRows();
+        if (auto* entry = qobject_cast<EntryAdapter*>(entries_[same].adapter.get())) emit entry->left();
         beginRemoveRows({}, static_cast<int>(same), count() - 1);
         entries_.resize(same);
         endRemoveRows();

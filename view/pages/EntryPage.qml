@@ -16,14 +16,15 @@ Item {
         visible: !page.isReady
         label: Words.starting
     }
+    // What is being made for a view that goes is of no use.
+    Connections { target: page.screen; function onLeft() { search.source = "" } }
     // By its address, so that the first frame does not wait for the types of the search.
     Loader {
         id: search
         anchors.fill: parent
         asynchronous: true
         visible: page.isReady
-        // A view that goes meanwhile has no use for it.
-        Component.onDestruction: active = false
+        Component.onDestruction: source = ""
         Component.onCompleted: setSource(Qt.resolvedUrl("MainView.qml"), {"screen": page.screen.search})
     }
 }
