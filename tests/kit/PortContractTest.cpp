@@ -13,6 +13,7 @@
 #include <atomic>
 #include <future>
 #include <map>
+#include <mutex>
 #include <thread>
 
 namespace ombrivane::kit {
@@ -62,13 +63,28 @@ struct WrongQueue final : MainQueue {
     enum class Fault { runsAtOnce, runsTwice, forgetsTicks, runsDropped, onOtherThread };
     explicit WrongQueue(Fault which) : fault(which) {}
     ~WrongQueue() override {
-        for (auto& thread : threads)
-            thread.join();
+        while (true) {
+            std::vector<std::thread> running;
+            {
+                const std::lock_guard lock(mutex);
+                running.swap(threads);
+            }
+            if (running.empty()) return;
+            for (auto& thread : running) {
+                // The last owner may be a step on one of them.
+                const bool isThisOne = thread.get_id() == std::this_thread::get_id();
+                isThisOne ? thread.detach() : thread.join();
+            }
+        }
     }
 
     void async(Step step) override {
         if (fault == Fault::runsAtOnce) return (void)guarded(step);
-        if (fault == Fault::onOtherThread) return (void)threads.emplace_back([step] { guarded(step); });
+        if (fault == Fault::onOtherThread) {
+            const std::lock_guard lock(mutex); // a step on such a thread may ask for another one
+            threads.emplace_back([step] { guarded(step); });
+            return;
+        }
         if (fault == Fault::runsTwice) loop->async(step);
         loop->async(std::move(step));
     }
@@ -90,6 +106,7 @@ struct WrongQueue final : MainQueue {
 
     Fault fault;
     std::vector<WorkItem> kept;
+    std::mutex mutex; // of the threads
     std::vector<std::thread> threads;
 };
 
