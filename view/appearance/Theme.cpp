@@ -37,10 +37,10 @@ QString ownFamily() {
 } // namespace
 
 Theme::Theme(QQmlEngine& engine) : QObject(&engine) {
-    connect(&words_, &WordsAdapter::fontFamilyChanged, this, &Theme::chooseFont);
+    connect(&words_, &WordsAdapter::fontFamilyChanged, this, &Theme::chooseLettering);
     // Faces come when the component has started, to pages that were measured without them.
-    connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &Theme::chooseFont, Qt::QueuedConnection);
-    chooseFont();
+    connect(
+        qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &Theme::chooseLettering, Qt::QueuedConnection);
 }
 
 /// Objects hang in contexts from their creation on, long before they have a place in a window; delegates,
@@ -67,7 +67,7 @@ void Theme::setAppearance(const Appearance& appearance) {
     }
     if (!complaints_.isEmpty() && !std::exchange(complains_, true))
         QMetaObject::invokeMethod(this, &Theme::complain, Qt::QueuedConnection);
-    chooseFont();
+    chooseLettering();
     emit changed();
 }
 
@@ -89,16 +89,25 @@ void Theme::complain() {
     }
 }
 
-void Theme::chooseFont() {
+Theme::Lettering Theme::chosenLettering() const {
     const QString ofFaces = addFontFaces(appearance_.fontFaces);
     const QString own = appearance_.fontFamily.isEmpty() ? ofFaces : appearance_.fontFamily;
     const QString ofDevice = WordsAdapter::fontFamily();
     QString family = own.isEmpty() ? ownFamily() : own;
     if (!ofDevice.isEmpty() && !WordsAdapter::hasLetters(own)) family = ofDevice;
-    const double overhang = ofDevice.isEmpty() ? 1 : 8;
-    if (family == fontFamily_ && overhang == overhang_) return;
-    fontFamily_ = family;
-    overhang_ = overhang;
+    return {family, ofDevice.isEmpty() ? 1.0 : 8.0};
+}
+
+const Theme::Lettering& Theme::lettering() {
+    if (!lettering_) lettering_ = chosenLettering();
+    return *lettering_;
+}
+
+void Theme::chooseLettering() {
+    if (!lettering_) return;
+    auto chosen = chosenLettering();
+    if (chosen == *lettering_) return;
+    lettering_ = std::move(chosen);
     emit fontFamilyChanged();
 }
 

@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <array>
+#include <optional>
 
 /// A colour of the pages by its name and its role.
 #define OMBRIVANE_COLOUR(name, role)                                                                         \
@@ -139,8 +140,8 @@ public:
     bool isMotionReduced() const { return look_.reducedMotion; }
     int textWeight() const;
     static QColor dimColor() { return QColor(0, 0, 0, 128); }
-    QString fontFamily() const { return fontFamily_; }
-    double overhang() const { return overhang_; }
+    QString fontFamily() { return lettering().family; }
+    double overhang() { return lettering().overhang; }
     double cardRadius() const;
     double fieldRadius() const;
     int stateDuration() const { return look_.reducedMotion ? 0 : 150; }
@@ -157,8 +158,16 @@ public:
     Q_SIGNAL void fontFamilyChanged();
 
 private:
+    struct Lettering {
+        QString family;
+        double overhang = 1;
+        bool operator==(const Lettering&) const = default;
+    };
+
     const Colours& colours() const { return colours_[look_.dark ? 1 : 0]; }
-    void chooseFont();
+    const Lettering& lettering();
+    Lettering chosenLettering() const;
+    void chooseLettering();
     void complain();
 
     Appearance appearance_;
@@ -169,8 +178,8 @@ private:
     QSet<QString> told_;     ///< complaints that the diagnostics have heard
     bool complains_ = false; ///< whether `complain` is due
     WordsAdapter words_;     ///< tells when the letters of the language have changed
-    QString fontFamily_;
-    double overhang_ = 1;
+    /// None until a text asks: the device's list of fonts costs more than the first frame, which has no text.
+    std::optional<Lettering> lettering_;
 };
 
 } // namespace ombrivane::view
