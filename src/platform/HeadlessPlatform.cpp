@@ -53,6 +53,7 @@ Platform headlessPlatform(std::shared_ptr<RunLoop> loop, const std::string& caFi
     Platform ports;
     ports.mainQueue = std::move(loop);
     ports.network = std::make_shared<CurlNetwork>(settings);
+    ports.background = std::make_shared<SerialQueue>("pictures");
     ports.reachability = std::make_shared<RouteReachability>(reachabilityAddress);
     ports.clock = std::make_shared<AdjustableClock>();
     ports.bundles = std::make_shared<NoResources>();

@@ -15,7 +15,9 @@ std::optional<Platform>& installed() {
 }
 
 void leaveNetwork() {
-    if (installed() && installed()->network) installed()->network->leave();
+    if (!installed()) return;
+    installed()->background.reset();
+    if (installed()->network) installed()->network->leave();
 }
 
 } // namespace
@@ -27,6 +29,7 @@ void Platform::install(Platform platform) {
 
 void Platform::endNetwork() {
     if (!installed()) return;
+    installed()->background.reset(); // what it is at is sent, and answered as all else
     // Out of the platform before its thread ends: completions on that thread still read the other ports.
     std::shared_ptr<Network> network = std::move(installed()->network);
     network.reset();

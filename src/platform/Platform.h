@@ -10,6 +10,7 @@
 #include "platform/PhotoLibrary.h"
 #include "platform/ReachabilityMeasure.h"
 #include "platform/ResourceBundles.h"
+#include "platform/SerialQueue.h"
 #include "platform/Sharing.h"
 #include "platform/SystemVersion.h"
 
@@ -23,6 +24,9 @@ struct OMBRIVANE_API Platform {
     std::shared_ptr<MainQueue> mainQueue; ///< runs on the thread that shows the view
     /// Reaches the booking service and the addresses of pictures.
     std::shared_ptr<Network> network;
+    /// Where pictures are written for an upload, which takes a quarter of a second for each; left empty, it
+    /// is done where it is asked for, and holds up the screen.
+    std::shared_ptr<SerialQueue> background;
     std::shared_ptr<ReachabilityMeasure> reachability; ///< asked before each request
     std::shared_ptr<Clock> clock;                      ///< what "today" and the session's end are read from
     std::shared_ptr<ResourceBundles> bundles;          ///< where the fonts are found
@@ -32,7 +36,8 @@ struct OMBRIVANE_API Platform {
     std::shared_ptr<PhotoLibrary> photos;              ///< where a picture of a document is picked
     std::shared_ptr<UrlOpener> urls;                   ///< opens the e-ticket and the contacts of the footer
     std::shared_ptr<ShareSheet> sharing;               ///< hands an e-ticket on
-    /// Hears lines for a developer; they hold itinerary data only.
+    /// Hears lines for a developer: itineraries, codes of countries and references of tickets among them, and
+    /// nothing that names a customer.
     std::shared_ptr<Diagnostics> diagnostics = std::make_shared<SilentDiagnostics>();
     SystemVersion system; ///< decides whether the component starts, and how it closes
 
@@ -40,7 +45,8 @@ struct OMBRIVANE_API Platform {
     static void install(Platform platform);
 
     /// Ends the installed network: what is under way is answered, and lets go of its screens, while all other
-    /// ports still stand. What a host does before it ends. Waits for nobody outside. Main thread.
+    /// ports still stand. What a host does before it ends. Waits for nobody outside; for a picture that is
+    /// being written, it does. Main thread.
     static void endNetwork();
 };
 

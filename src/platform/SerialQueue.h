@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Api.h"
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -8,7 +10,7 @@
 namespace ombrivane {
 
 /// One background thread that runs steps in their order. It starts with the first step.
-class SerialQueue {
+class OMBRIVANE_API SerialQueue {
 public:
     using Step = std::function<void()>;
 

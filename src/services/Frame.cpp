@@ -38,15 +38,33 @@ HttpRequest requestFor(const ServiceCall& call, std::string url) {
     }
     for (const auto& [name, value] : request.headers)
         requireOneLine(name, value);
-    if (call.pieces) {
-        request.pieces = call.pieces();
-    } else {
-        request.body = call.body();
-    }
+    if (!call.pieces) request.body = call.body();
     return request;
 }
 
 HttpAnswer failed(Error error) { return {std::nullopt, std::move(error)}; }
+
+void sendOn(Network& network, HttpRequest request, HttpCompletion answered) {
+    const std::string next = request.url;
+    network.send(std::move(request), std::move(answered));
+    network.expect(next); // a key typed follows another, an upload its reservation
+}
+
+using Pieces = std::function<std::vector<std::string>()>;
+
+/// The screen goes on meanwhile, where the platform has a background.
+void sendWritten(const Pieces& pieces, HttpRequest request, HttpCompletion answered) {
+    auto step = [pieces,
+                 network = platform().network,
+                 request = std::move(request),
+                 answered = std::move(answered)]() mutable {
+        const auto failure = attempted([&] { request.pieces = pieces(); });
+        if (failure) return answered(failed(*failure));
+        sendOn(*network, std::move(request), std::move(answered));
+    };
+    if (const auto background = platform().background) return background->async(std::move(step));
+    step();
+}
 
 /// What is told where the network has neither an answer nor an error.
 const Error& nothing() {
@@ -93,10 +111,8 @@ void detail::perform(const ServiceCall& call, HttpCompletion answered) {
     HttpRequest request;
     auto failure = attempted([&] { request = requestFor(call, std::move(url)); });
     if (failure) return answered(failed(*std::move(failure)));
-    const std::string next = request.url;
-    const auto network = platform().network;
-    network->send(std::move(request), std::move(answered));
-    network->expect(next); // a key typed follows another, an upload its reservation
+    if (call.pieces) return sendWritten(call.pieces, std::move(request), std::move(answered));
+    sendOn(*platform().network, std::move(request), std::move(answered));
 }
 
 std::optional<Error> detail::readAnswer(HttpAnswer answer, std::size_t structureBytes,

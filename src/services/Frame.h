@@ -24,7 +24,7 @@ struct ServiceCall {
     /// Asked for when the request is otherwise built. No text: the request goes out without a body. An
     /// `Error` that it throws ends the call before anything is sent.
     std::function<std::optional<std::string>()> body = [] { return std::nullopt; };
-    /// In place of `body` for a long one, see `HttpRequest::pieces`.
+    /// In place of `body` for a long one, see `HttpRequest::pieces`. Asked for in the platform's background.
     std::function<std::vector<std::string>()> pieces;
     std::string contentType = "application/json";
     bool bearerToken = true;
@@ -60,7 +60,7 @@ void expectCall();
 namespace detail {
 
 /// Goes through the frame: the online check, the address, the request. `answered` hears of the answer on a
-/// thread of the network, or of why nothing was sent on the caller's.
+/// thread of the network, or of why nothing was sent on the one that would have sent it.
 void perform(const ServiceCall& call, HttpCompletion answered);
 
 /// Hands the envelope of a success to `read`. @return why there is no success, or nothing also where the

@@ -12,8 +12,8 @@ namespace ombrivane {
 namespace {
 
 /// @throws Error for a picture that cannot be written
-std::string pngOf(const DocumentPicture& picture) {
-    auto png = picture.jpeg ? platform().images->pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
+std::string pngOf(ImageCodec& images, const DocumentPicture& picture) {
+    auto png = picture.jpeg ? images.pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
     if (!png)
         throw Error{errorDomain::encoding, 0, "A document could not be sent.", "a picture has no PNG form"};
     return *std::move(png);
@@ -31,16 +31,17 @@ void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers
     call.endpoint = endpoint::documents;
     call.contentType = form.contentType();
     call.wholeInterval = limits::upload;
-    call.pieces = [&] {
-        form.addText("user_type", AppState::shared().userType.get());
-        form.addText("bookingReferenceID", bookingReferenceID);
+    form.addText("user_type", AppState::shared().userType.get());
+    form.addText("bookingReferenceID", bookingReferenceID);
+    call.pieces = [form, passengers, documents, bookedPassengers, images = platform().images]() mutable {
         // The answer may book more than were sent: nothing is known of those.
         const auto known = std::min({bookedPassengers.size(), passengers.size(), documents.size()});
         for (std::size_t i = 0; i < known; ++i) {
             const std::string& id = bookedPassengers[i].passengerID;
             form.addText("documentType[" + id + "]", passengers[i].documentType);
             if (documents[i]) {
-                form.addFile("documentImage[" + id + "]", "imagename.png", "image/png", pngOf(*documents[i]));
+                form.addFile(
+                    "documentImage[" + id + "]", "imagename.png", "image/png", pngOf(*images, *documents[i]));
             }
         }
         return form.finished();

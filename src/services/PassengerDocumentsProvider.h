@@ -14,9 +14,9 @@ namespace ombrivane {
 /// Uploads the pictures of the travel documents of a reservation.
 class PassengerDocumentsProvider {
 public:
-    /// Walks the service's passengers by position: the i-th of the answer is the i-th of the request. A local
-    /// list that is shorter than the answer, and a picture that cannot be written as PNG, are faults. The
-    /// body is built on the calling thread.
+    /// Walks the service's passengers by position: the i-th of the answer is the i-th of the request; those
+    /// of whom nothing is known here are left out. A picture that cannot be written as PNG is an error. The
+    /// pictures are written in the platform's background.
     void upload(const std::vector<Passenger>& passengers,
                 const std::vector<std::optional<DocumentPicture>>& documents,
                 const std::vector<FlightBookingPassenger>& bookedPassengers,

@@ -5,6 +5,8 @@
 #include "services/PassengerDocumentsProvider.h"
 #include "services/ServiceFixture.h"
 
+#include <future>
+
 namespace ombrivane {
 namespace {
 
@@ -122,6 +124,51 @@ TEST_F(BookingTest, APictureThatCannotBeWrittenIsAnErrorBeforeAnythingIsSent) {
     ASSERT_TRUE(outcome.error);
     EXPECT_EQ(outcome.error->localizedDescription, "A document could not be sent.");
     EXPECT_TRUE(world.network->sent().empty());
+}
+
+/// Writes no picture before it may.
+class AwaitedCodec final : public ImageCodec {
+public:
+    std::optional<Image> decode(const std::string& /*bytes*/, const PictureLimits& /*limits*/) override {
+        return std::nullopt;
+    }
+    std::optional<std::string> jpeg(const Image& /*image*/, double /*quality*/) override { return "jpeg"; }
+    std::optional<std::string> png(const Image& /*image*/) override { return "png"; }
+    std::optional<std::string> pngOfJpeg(const std::string& jpeg, const PictureLimits& /*limits*/) override {
+        hasBegun.set_value();
+        if (mayWrite.get_future().wait_for(std::chrono::seconds(5)) == std::future_status::timeout)
+            ADD_FAILURE() << "the screen waits for its picture";
+        return jpeg.empty() ? std::nullopt : std::optional(jpeg);
+    }
+    std::promise<void> hasBegun;
+    std::promise<void> mayWrite;
+};
+
+TEST_F(BookingTest, PicturesAreWrittenWhileTheScreenGoesOn) {
+    for (const char* jpeg : {"a picture", ""}) {
+        Platform ports = platform();
+        const auto codec = std::make_shared<AwaitedCodec>();
+        ports.images = codec;
+        ports.background = std::make_shared<SerialQueue>("pictures");
+        Platform::install(std::move(ports));
+        Outcome outcome;
+        PassengerDocumentsProvider().upload(
+            std::vector<Passenger>(1),
+            {DocumentPicture{2, 1, std::make_shared<const std::string>(jpeg)}},
+            {{"P1", "", ""}},
+            "R1",
+            into<Booking>(outcome));
+        codec->hasBegun.get_future().wait();
+        EXPECT_EQ(world.network->outstanding(), 0U);
+        codec->mayWrite.set_value();
+        Platform::endNetwork(); // waits for the picture
+        world.install();
+        const bool isWritten = *jpeg != '\0';
+        EXPECT_EQ(world.network->outstanding(), isWritten ? 1U : 0U);
+        EXPECT_EQ(outcome.completions, isWritten ? 0 : 1);
+        if (isWritten) world.answer(captured("reservation").dump());
+        EXPECT_EQ(outcome.completions, 1);
+    }
 }
 
 /// Takes what is sent as the network does, and joins nothing.

@@ -17,6 +17,7 @@ Platform qtPlatform(const std::string& caFile, const std::string& reachabilityAd
     Platform ports;
     ports.mainQueue = std::make_shared<QtMainQueue>();
     ports.network = std::make_shared<CurlNetwork>(settings);
+    ports.background = std::make_shared<SerialQueue>("pictures");
     if (reachabilityAddress.empty())
         ports.reachability = std::make_shared<QtReachability>();
     else
