@@ -5,6 +5,7 @@
 #include "events/HostEvents.h"
 #include "platform/Platform.h"
 #include "search/MainView.h"
+#include "search/MainViewModel.h"
 #include "services/CustomError.h"
 #include "services/ServiceHosts.h"
 #include "session/Fonts.h"
@@ -86,6 +87,11 @@ void EntryView::appear() {
         });
 }
 
+void EntryView::clearStack() {
+    AppState::shared().resetNavigation();
+    MainViewModel::shared().closeSheets();
+}
+
 void EntryView::authenticated(std::optional<Authentication> authentication) {
     if (dropped_) return;
     AppState::shared().update(authentication ? authentication->accessToken : "",
@@ -93,7 +99,7 @@ void EntryView::authenticated(std::optional<Authentication> authentication) {
                               arguments_.walletBalance,
                               arguments_.phone);
     registerFonts();
-    AppState::shared().resetNavigation(); // a view that still lives may have left its results there
+    clearStack(); // a view that still lives may have left its results there
     if (kept_) kept_->fillForm();
     view = search;
     if (kept_) std::exchange(kept_, std::nullopt)->show(*search);

@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace ombrivane {
 
@@ -57,8 +58,18 @@ public:
 
     void appear() override;
 
+    /// What names the opening in the events of the host; empty before it appears.
+    const std::string& opening() const { return boundary_->opening(); }
+
     /// What the customer left earlier; taken up when the search comes. Before it appears.
     void takeUp(KeptState kept) { kept_ = std::move(kept); }
+    /// Whether it was given what it has not taken up.
+    bool hasYetToTakeUp() const { return kept_.has_value(); }
+    /// Gives that back: an opening that failed leaves it to the next one.
+    std::optional<KeptState> giveBack() { return std::exchange(kept_, std::nullopt); }
+
+    /// Lowers every flag of the process that brings a screen or a sheet into view.
+    static void clearStack();
 
     /// The search, made before the bootstrap, so that its page can be made while the token is on its way. It
     /// comes on screen as `view`.

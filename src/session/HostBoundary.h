@@ -32,6 +32,7 @@ public:
 
     /// What names the opening, for the event of its end; without a name nothing is told. Before it is used.
     void setOpening(std::string opening) { opening_ = std::move(opening); }
+    const std::string& opening() const { return opening_; }
 
     /// What screens call as their completion callback. It keeps this boundary alive.
     CompletionCallback internalCallback();

@@ -3,32 +3,34 @@
 #include "events/HostEvents.h"
 #include "keyed/Navigator.h"
 #include "recording/Recorder.h"
-#include "search/MainViewModel.h"
 #include "services/Frame.h"
 #include "session/EntryView.h"
 #include "session/KeptState.h"
-#include "state/AppState.h"
 
 #include <utility>
 
 namespace ombrivane {
 
 struct OmbrivaneView::Parts {
-    ~Parts() { leave(); }
-
     /// Every screen leaves, and takes the flags that kept it on the stack along: they are those of the
     /// process, and would show it in the next view. The screens go first, so that none comes into view by
     /// that.
     void leave() {
         const auto leaving = std::exchange(entry, nullptr);
         if (!leaving) return;
+        if (!kept) kept = leaving->giveBack();
         const bool ownsFlags = leaving->drop();
+        if (entry) return; // whoever heard of it has shown the view again
         screens = {};
         if (recorder) recorder->letGo();
         navigator.reset();
-        if (!ownsFlags) return;
-        AppState::shared().resetNavigation();
-        MainViewModel::shared().closeSheets();
+        if (ownsFlags) EntryView::clearStack();
+    }
+
+    /// What was given by `restoreState` and no opening has come to; empty where there is none.
+    std::string unrestored() const {
+        const bool waits = entry ? entry->hasYetToTakeUp() : kept.has_value();
+        return waits ? keptText : std::string();
     }
 
     void cameIntoView() {
@@ -40,7 +42,7 @@ struct OmbrivaneView::Parts {
         const std::string name(lying[isFrame ? 1 : 0]->name());
         if (std::exchange(shown, name) == name) return;
         HostEvents::shared().tell(
-            Event{.kind = EventKind::screenShown, .opening = HostEvents::shared().opening(), .screen = name});
+            Event{.kind = EventKind::screenShown, .opening = entry->opening(), .screen = name});
     }
 
     EntryArguments arguments;
@@ -49,7 +51,7 @@ struct OmbrivaneView::Parts {
     bool records = false;
     std::unique_ptr<Recorder> recorder; ///< of the opening that was shown last
     std::optional<KeptState> kept;      ///< for the next time that it is shown
-    std::string keptText;               ///< the same as it was given
+    std::string keptText;               ///< as it was given last
     std::shared_ptr<EntryView> entry;   ///< while it is shown
     std::unique_ptr<Navigator> navigator;
     std::string shown;    ///< the name of what lies on top
@@ -60,7 +62,7 @@ OmbrivaneView::OmbrivaneView(std::string clientId, std::string clientSecret,
                              std::optional<std::string> userType, std::optional<double> walletBalance,
                              std::optional<std::string> phone, std::optional<std::string> environment,
                              CompletionCallback callback) :
-    parts_(std::make_unique<Parts>()) {
+    parts_(std::make_shared<Parts>()) {
     parts_->arguments = {std::move(clientId),
                          std::move(clientSecret),
                          std::move(userType),
@@ -70,7 +72,7 @@ OmbrivaneView::OmbrivaneView(std::string clientId, std::string clientSecret,
     parts_->callback = std::move(callback);
 }
 
-OmbrivaneView::~OmbrivaneView() = default;
+OmbrivaneView::~OmbrivaneView() { parts_->leave(); }
 
 void OmbrivaneView::onClose(std::function<void()> dismiss, std::function<void()> dismissFrontmost) {
     if (!dismissFrontmost) dismissFrontmost = dismiss;
@@ -78,18 +80,26 @@ void OmbrivaneView::onClose(std::function<void()> dismiss, std::function<void()>
 }
 
 void OmbrivaneView::show() {
-    parts_->leave();
-    parts_->shown.clear();
-    const std::string form = parts_->kept ? parts_->keptText : KeptState::save(nullptr);
-    parts_->entry = std::make_shared<EntryView>(parts_->arguments, parts_->callback, parts_->dismissal);
-    if (parts_->kept) parts_->entry->takeUp(*std::exchange(parts_->kept, std::nullopt));
-    parts_->navigator = std::make_unique<Navigator>(parts_->entry);
-    if (parts_->records) parts_->recorder = std::make_unique<Recorder>(*parts_->navigator, form);
-    parts_->screens = parts_->navigator->observe([parts = parts_.get()] { parts->cameIntoView(); });
-    parts_->navigator->start(); // in which the host may let go of this view
+    const auto parts = parts_;
+    parts->leave();
+    // The host has heard of that, and may have let go of this view or shown it by itself.
+    if (parts.use_count() == 1 || parts->entry) return;
+    parts->shown.clear();
+    const std::string form = parts->kept ? parts->keptText : KeptState::save(nullptr);
+    parts->entry = std::make_shared<EntryView>(parts->arguments, parts->callback, parts->dismissal);
+    if (parts->kept) parts->entry->takeUp(*std::exchange(parts->kept, std::nullopt));
+    parts->navigator = std::make_unique<Navigator>(parts->entry);
+    if (parts->records) parts->recorder = std::make_unique<Recorder>(*parts->navigator, form);
+    parts->screens = parts->navigator->observe([shown = parts.get()] { shown->cameIntoView(); });
+    parts->navigator->start(); // in which it may do so too
 }
 
-std::string OmbrivaneView::saveState() const { return KeptState::save(parts_->navigator.get()); }
+std::string OmbrivaneView::saveState() const {
+    const std::string unrestored = parts_->unrestored();
+    return unrestored.empty() ? KeptState::save(parts_->navigator.get()) : unrestored;
+}
+
+std::string OmbrivaneView::unrestoredState() const { return parts_->unrestored(); }
 
 bool OmbrivaneView::restoreState(const std::string& state) {
     auto kept = KeptState::read(state);

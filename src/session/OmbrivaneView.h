@@ -21,7 +21,7 @@ public:
     /// @param clientId who the wallet is to the booking service
     /// @param clientSecret the secret to it; goes to the service and nowhere else
     /// @param userType "customer" when absent
-    /// @param walletBalance whole units of the service's currency; absent means no limit
+    /// @param walletBalance whole units of the service's currency, finite; absent means no limit
     /// @param phone the customer's telephone number
     /// @param environment exactly "test", which absent means too, or anything else for production
     /// @param callback see `CompletionCallback`
@@ -44,12 +44,14 @@ public:
 
     /// Where the customer stands in the search, for `restoreState` of a later process: the form, the tab, and
     /// whether the offers were there. Opaque, UTF-8, of some hundred bytes; without token, traveller or
-    /// picture. The component keeps it nowhere.
+    /// picture. The component keeps it nowhere. Until the search has come it is what `restoreState` took.
     std::string saveState() const;
-    /// Takes up what `saveState` gave: the next `show` comes to the form as it stood, and searches again
-    /// where the offers were there. Days that have gone by meanwhile are asked for anew.
+    /// Takes up what `saveState` gave: the next `show` that gets its token comes to the form as it stood, and
+    /// searches again where the offers were there. Days that have gone by meanwhile are asked for anew.
     /// @return false where `state` is another version's or damaged; nothing changes then
     bool restoreState(const std::string& state);
+    /// What `restoreState` took and no opening has come to; empty where there is nothing like that.
+    std::string unrestoredState() const;
     /// Whether `restoreState` would take it.
     static bool isState(const std::string& state);
     /// Another customer may come: empties what the process knows of the last one (token, balance, telephone
@@ -70,7 +72,7 @@ public:
 
 private:
     struct Parts;
-    std::unique_ptr<Parts> parts_;
+    std::shared_ptr<Parts> parts_;
 };
 
 } // namespace ombrivane

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <stdexcept>
 
 namespace ombrivane {
@@ -130,6 +131,22 @@ TEST_F(EventsTest, WhatIsReservedAfterTheViewHasGoneBelongsToItsOpening) {
     for (const Event& event : events_)
         EXPECT_EQ(event.opening, opening) << nameOf(event.kind);
     EXPECT_EQ(told(), (Told{"reservationAnswered", "uploadSent", "uploadAnswered"}));
+}
+
+/// The search of the second opening takes the process's flags, and with them the first one's list.
+TEST_F(EventsTest, AScreenBelongsToTheOpeningOfItsView) {
+    wallet.toGate();
+    const std::string first = HostEvents::shared().opening();
+    Wallet another(world);
+    another.show();
+    events_.clear();
+    another.answer(world.network->outstanding() - 1);
+    std::map<std::string, std::string> shown;
+    for (const Event& event : events_)
+        if (event.kind == EventKind::screenShown) shown[event.opening] = event.screen;
+    EXPECT_EQ(shown.size(), 2U);
+    EXPECT_EQ(shown[first], "MainView");
+    EXPECT_EQ(shown[HostEvents::shared().opening()], "MainView");
 }
 
 TEST_F(EventsTest, TheExpiryIsToldOnce) {

@@ -1,5 +1,6 @@
 #include "session/OmbrivaneView.h"
 
+#include "events/HostEvents.h"
 #include "fakes/World.h"
 #include "keyed/Navigator.h"
 #include "search/MainView.h"
@@ -308,6 +309,69 @@ TEST_F(OmbrivaneViewTest, TheHostMayDropShowAgainOrShowAnotherInsideOfEveryCall)
             view.reset();
         }
     }
+}
+
+/// In the middle of what it hears.
+TEST_F(OmbrivaneViewTest, AListenerMayDropTheViewOrShowItAgain) {
+    for (const EventKind kind : {EventKind::closed, EventKind::opened, EventKind::screenShown}) {
+        for (const bool drops : {true, false}) {
+            SCOPED_TRACE(std::string(nameOf(kind)) + (drops ? " drops" : " shows"));
+            make();
+            show();
+            world.answer(granted);
+            int heardOf = 0;
+            const auto listening = HostEvents::shared().listen([&](const Event& event) {
+                if (event.kind != kind || heardOf++ > 0) return;
+                if (drops) {
+                    view.reset();
+                } else {
+                    view->show();
+                }
+            });
+            view->show();
+            while (world.network->outstanding() > 0)
+                world.answer(granted);
+            EXPECT_EQ(content() != nullptr, !drops);
+            EXPECT_GE(heardOf, 1);
+            view.reset();
+        }
+    }
+}
+
+TEST_F(OmbrivaneViewTest, WhatIsRestoredWaitsForTheOpeningThatGetsItsToken) {
+    auto& form = MainViewModel::shared();
+    form.departCity = "Delhi";
+    const std::string kept = OmbrivaneView("", "", {}, {}, {}, {}, nullptr).saveState();
+    form.departCity = "";
+    make();
+    ASSERT_TRUE(view->restoreState(kept));
+    EXPECT_EQ(view->saveState(), kept);
+    world.reachability->word = 0;
+    show();
+    world.queue->drain();
+    EXPECT_EQ(view->unrestoredState(), kept);
+    world.reachability->word = reachableFlag;
+    show();
+    EXPECT_EQ(view->saveState(), kept) << "the token is under way";
+    EXPECT_EQ(form.departCity.get(), "");
+    world.answer(granted);
+    EXPECT_EQ(form.departCity.get(), "Delhi");
+    EXPECT_EQ(view->unrestoredState(), "");
+    form.departCity = "Doha";
+    EXPECT_NE(view->saveState(), kept);
+    show();
+    world.answer(granted);
+    EXPECT_EQ(form.departCity.get(), "Doha") << "taken up once";
+}
+
+TEST_F(OmbrivaneViewTest, AnotherViewBeginsWithoutTheSheetOfTheOneThatLives) {
+    show();
+    world.answer(granted);
+    MainViewModel::shared().showTravellerSheet = true;
+    OmbrivaneView another("id", "secret", {}, {}, {}, {}, nullptr);
+    another.show();
+    world.answer(granted);
+    EXPECT_EQ(another.navigator()->stack().size(), 1U);
 }
 
 TEST_F(OmbrivaneViewTest, ShownAgainItStartsAgainAndKeepsWhatTheProcessKeeps) {

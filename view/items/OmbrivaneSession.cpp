@@ -71,79 +71,16 @@ void OmbrivaneSession::giveContacts(const SupportContacts& contacts) {
     if (view_) SupportContacts::use(contacts);
 }
 
-QString OmbrivaneSession::givenSupportMobile() const {
-    return QString::fromStdString(givenContacts().mobile);
-}
-
-void OmbrivaneSession::setSupportMobile(const QString& number) {
-    auto contacts = givenContacts();
-    contacts.mobile = number.toStdString();
-    giveContacts(contacts);
-}
-
-void OmbrivaneSession::resetSupportMobile() {
-    auto contacts = givenContacts();
-    contacts.mobile = SupportContacts().mobile;
-    giveContacts(contacts);
-}
-
-QString OmbrivaneSession::givenSupportViber() const {
-    return QString::fromStdString(givenContacts().viber.value_or(std::string()));
-}
-
-void OmbrivaneSession::setSupportViber(const QString& number) {
-    auto contacts = givenContacts();
-    contacts.viber = number.toStdString();
-    giveContacts(contacts);
-}
-
-void OmbrivaneSession::resetSupportViber() {
-    auto contacts = givenContacts();
-    contacts.viber = SupportContacts().viber;
-    giveContacts(contacts);
-}
-
-QString OmbrivaneSession::givenSupportWhatsapp() const {
-    return QString::fromStdString(givenContacts().whatsapp.value_or(std::string()));
-}
-
-void OmbrivaneSession::setSupportWhatsapp(const QString& number) {
-    auto contacts = givenContacts();
-    contacts.whatsapp = number.toStdString();
-    giveContacts(contacts);
-}
-
-void OmbrivaneSession::resetSupportWhatsapp() {
-    auto contacts = givenContacts();
-    contacts.whatsapp = SupportContacts().whatsapp;
-    giveContacts(contacts);
-}
-
-QString OmbrivaneSession::givenSupportLandLine() const {
-    return QString::fromStdString(givenContacts().landLine);
-}
-
-void OmbrivaneSession::setSupportLandLine(const QString& number) {
-    auto contacts = givenContacts();
-    contacts.landLine = number.toStdString();
-    giveContacts(contacts);
-}
-
-void OmbrivaneSession::resetSupportLandLine() {
-    auto contacts = givenContacts();
-    contacts.landLine = SupportContacts().landLine;
-    giveContacts(contacts);
-}
-
 void OmbrivaneSession::drop() {
     opened_.reset();
     stage_.follow(nullptr);
     if (view_ && records) recorded_ = view_->recording();
+    if (view_ && kept_.empty()) kept_ = view_->unrestoredState();
     view_.reset();
 }
 
 QString OmbrivaneSession::saveState() const {
-    return view_ ? QString::fromStdString(view_->saveState()) : QString();
+    return QString::fromStdString(view_ ? view_->saveState() : kept_);
 }
 
 bool OmbrivaneSession::restoreState(const QString& state) {

@@ -59,7 +59,8 @@ public:
     /// Drops the component, as a host may at any time, also inside of the callback and of every signal.
     Q_INVOKABLE void drop();
 
-    /// As `OmbrivaneView::saveState`, for a host that may be ended in the background; empty while not open.
+    /// As `OmbrivaneView::saveState`, for a host that may be ended in the background; while not open, what
+    /// `restoreState` took and no opening has come to.
     Q_INVOKABLE QString saveState() const;
     /// As `OmbrivaneView::restoreState`, for the next `open`.
     Q_INVOKABLE bool restoreState(const QString& state);
@@ -105,13 +106,13 @@ public:
     /// For QML.
     QVariantMap givenTexts() const { return texts; }
     /// For QML: as it is shown.
-    QString givenSupportMobile() const;
+    QString givenSupportMobile() const { return givenContact<&SupportContacts::mobile>(); }
     /// For QML: empty where absent.
-    QString givenSupportViber() const;
+    QString givenSupportViber() const { return givenContact<&SupportContacts::viber>(); }
     /// For QML: empty where absent.
-    QString givenSupportWhatsapp() const;
+    QString givenSupportWhatsapp() const { return givenContact<&SupportContacts::whatsapp>(); }
     /// For QML: as it is shown.
-    QString givenSupportLandLine() const;
+    QString givenSupportLandLine() const { return givenContact<&SupportContacts::landLine>(); }
     /// For QML: NaN where absent.
     double givenWalletBalance() const;
     /// Given from here on, also when it is empty.
@@ -127,13 +128,21 @@ public:
     /// Texts by key, from here on, in the place of those given before.
     void setTexts(const QVariantMap& given);
     /// The number that is called, from here on.
-    void setSupportMobile(const QString& number);
+    void setSupportMobile(const QString& number) {
+        giveContact<&SupportContacts::mobile>(number.toStdString());
+    }
     /// The number that is written to, from here on.
-    void setSupportViber(const QString& number);
+    void setSupportViber(const QString& number) {
+        giveContact<&SupportContacts::viber>(number.toStdString());
+    }
     /// The number that is written to, from here on.
-    void setSupportWhatsapp(const QString& number);
+    void setSupportWhatsapp(const QString& number) {
+        giveContact<&SupportContacts::whatsapp>(number.toStdString());
+    }
     /// The number that is called, from here on.
-    void setSupportLandLine(const QString& number);
+    void setSupportLandLine(const QString& number) {
+        giveContact<&SupportContacts::landLine>(number.toStdString());
+    }
     /// NaN is absent, as it is what an absent balance reads as.
     void setWalletBalance(double given);
     /// Absent from here on.
@@ -147,13 +156,13 @@ public:
     /// Absent from here on.
     void resetRegion();
     /// The component's own from here on.
-    void resetSupportMobile();
+    void resetSupportMobile() { giveContact<&SupportContacts::mobile>(SupportContacts().mobile); }
     /// `supportMobile` from here on.
-    void resetSupportViber();
+    void resetSupportViber() { giveContact<&SupportContacts::viber>(SupportContacts().viber); }
     /// `supportMobile` from here on.
-    void resetSupportWhatsapp();
+    void resetSupportWhatsapp() { giveContact<&SupportContacts::whatsapp>(SupportContacts().whatsapp); }
     /// The component's own from here on.
-    void resetSupportLandLine();
+    void resetSupportLandLine() { giveContact<&SupportContacts::landLine>(SupportContacts().landLine); }
     /// Absent from here on.
     void resetWalletBalance() { walletBalance.reset(); }
 
@@ -163,6 +172,14 @@ private:
     void speakAgain() const;
     void giveContacts(const SupportContacts& contacts);
     SupportContacts givenContacts() const { return supportContacts.value_or(SupportContacts()); }
+    template <auto contact> QString givenContact() const {
+        return QString::fromStdString(std::optional<std::string>(givenContacts().*contact).value_or(""));
+    }
+    template <auto contact, class Number> void giveContact(const Number& number) {
+        auto contacts = givenContacts();
+        contacts.*contact = number;
+        giveContacts(contacts);
+    }
 
     struct Opened {};
 
