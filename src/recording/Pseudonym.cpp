@@ -17,11 +17,11 @@ UChar32 another(std::mt19937_64& dice, UChar32 first, int count, UChar32 own) {
     return first + (chosen - first + 1) % count;
 }
 
-UChar32 alike(std::mt19937_64& dice, UChar32 letter) {
+UChar32 alike(std::mt19937_64& dice, UChar32 letter, bool beginsNumber) {
     if (u_isdigit(letter)) {
         const UChar32 zero = letter - u_charDigitValue(letter);
         // No number begins to have a leading zero, nor ceases to.
-        if (letter == zero) return letter;
+        if (letter == zero && beginsNumber) return letter;
         return zero + another(dice, 1, 9, letter - zero);
     }
     if (!u_isalpha(letter)) return letter;
@@ -40,8 +40,12 @@ std::string pseudonym(const std::string& text, std::uint64_t salt) {
     std::mt19937_64 dice(std::hash<std::string>()(text) ^ salt);
     const auto letters = icu::UnicodeString::fromUTF8(text);
     icu::UnicodeString others;
-    for (int at = 0; at < letters.length(); at = letters.moveIndex32(at, 1))
-        others.append(alike(dice, letters.char32At(at)));
+    bool isNumber = false;
+    for (int at = 0; at < letters.length(); at = letters.moveIndex32(at, 1)) {
+        const UChar32 letter = letters.char32At(at);
+        others.append(alike(dice, letter, !isNumber));
+        isNumber = u_isdigit(letter);
+    }
     std::string other;
     return others.toUTF8String(other);
 }

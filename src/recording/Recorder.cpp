@@ -79,6 +79,7 @@ std::string Recorder::journey() const {
     text += fmt::format("#: sandbox --now {}\n", began_);
     for (const auto& argument : service_)
         text += fmt::format("#: sandbox {}\n", argument);
+    if (offers_ > 0) text += fmt::format("#: sandbox --offers {}\n", offers_);
     text += fmt::format("#: wallet --now {} --locale {}\n", began_, platform().localization->locale());
     // A form that nobody has seen is of no use, and would have the component opened twice.
     if (hasDeeds_) text += fmt::format("restore {}\n", form_);
@@ -113,13 +114,15 @@ void Recorder::did(const Screen& screen, std::string_view key, const std::vector
 
 void Recorder::happened(const Event& event) {
     const std::lock_guard lock(mutex_);
-    if (isClosed_) return; // what comes into view as the view goes
+    if (event.kind == EventKind::opened) isOver_ = isOver_ || !std::exchange(opening_, event.opening).empty();
+    if (isOver_ || isClosed_ || event.opening != opening_)
+        return; // also what comes into view as the view goes
     switch (event.kind) {
     case EventKind::screenShown:
         if (event.screen != "PhotoPicker") write("wait-screen " + event.screen);
         break;
     case EventKind::searchAnswered:
-        if (event.offers.value_or(0) > 0) service_.push_back(fmt::format("--offers {}", *event.offers));
+        offers_ = std::max(offers_, event.offers.value_or(0) / (hasTwoLists() ? 2 : 1));
         break;
     case EventKind::fareMoved:
         write(fmt::format("# the fare moved from {} to {}", *event.formerFare, *event.fare));
@@ -142,8 +145,10 @@ void Recorder::happened(const Event& event) {
 
 void Recorder::ended(const EndedCall& call) {
     const std::lock_guard lock(mutex_);
+    if (isOver_) return;
     const std::string endpoint(call.endpoint);
-    const std::size_t before = calls_[endpoint]++;
+    const bool wasSent = call.error != ErrorKind::noConnection && call.error != ErrorKind::invalidRequest;
+    const std::size_t before = wasSent ? calls_[endpoint]++ : 0;
     write(fmt::format("# {} after {} ms{}",
                       call.status,
                       call.took.count(),
@@ -155,6 +160,12 @@ void Recorder::ended(const EndedCall& call) {
         service_.push_back(fmt::format("--fault \"{} {} times=1 after={}\"", endpoint, fault, before));
     if (*call.error == ErrorKind::noConnection && !std::exchange(isOffline_, true))
         insertBeforeLastDeed("reachability 0");
+}
+
+/// A special round has two lists, and the sandbox is told the length of one.
+bool Recorder::hasTwoLists() const {
+    const auto list = navigator_ != nullptr ? navigator_->find("DomesticFlightListView") : nullptr;
+    return list != nullptr && list->fields.find("showsTabs")->read() == true;
 }
 
 /// The time for which nothing was awaited and nothing done.

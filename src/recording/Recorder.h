@@ -35,6 +35,7 @@ private:
     void did(const Screen& screen, std::string_view key, const std::vector<Json>& arguments);
     void happened(const Event& event);
     void ended(const EndedCall& call);
+    bool hasTwoLists() const;
     void writePause();
     void write(const std::string& line);
     void insertBeforeLastDeed(const std::string& line);
@@ -51,9 +52,12 @@ private:
     std::size_t lastDeed_ = 0; ///< its line
     bool hasDeeds_ = false;
     std::vector<std::string> service_; ///< arguments of the sandbox
+    std::size_t offers_ = 0;           ///< the most that a list had
     std::map<std::string, std::size_t, std::less<>> calls_;
     bool isOffline_ = false;
+    std::string opening_;
     bool isClosed_ = false;
+    bool isOver_ = false; ///< another opening has begun, and a request does not tell whose it is
 
     std::shared_ptr<const void> deeds_;
     HostEvents::Listening events_;
