@@ -1,6 +1,7 @@
 #include "booking/BookingSession.h"
 
 #include "base/ErrorDomains.h"
+#include "base/WholeNumber.h"
 #include "booking/Travellers.h"
 #include "dates/DateFormatter.h"
 #include "platform/OnMain.h"
@@ -47,7 +48,7 @@ std::optional<std::int64_t> BookingSession::offeredCost() const {
     const auto& offer = flight.get();
     const auto priced = availabilitySummary();
     if (!offer || !priced || offer->currency() != priced->currency) return std::nullopt;
-    return offer->totalCost() + (returnFlight.get() ? returnFlight->value().totalCost() : 0);
+    return sumOf(offer->totalCost(), returnFlight.get() ? returnFlight->value().totalCost() : 0);
 }
 
 /// By how much what was priced is more than the offer, or less; nothing where they are the same.

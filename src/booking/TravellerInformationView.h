@@ -59,7 +59,8 @@ private:
 /// The form of one traveller. Nothing is saved before "Save Details" passes.
 class TravellerInformationView final : public Screen {
 public:
-    /// A session without travel dates is a fault.
+    /// Without travel dates of its own it takes those of the last availability of its kind; without any it is
+    /// a fault.
     explicit TravellerInformationView(TravellerGiven given);
 
     void appear() override { load(); }

@@ -1,8 +1,8 @@
 #include "results/DomesticFlightListView.h"
 
+#include "base/WholeNumber.h"
 #include "offers/OfferFormat.h"
 #include "results/FilterBottomSheetView.h"
-#include "results/WholeNumber.h"
 
 namespace ombrivane {
 namespace {
@@ -98,30 +98,23 @@ void DomesticFlightListView::sendSearch(const FlightQuery& query, bool roundTrip
                                               }));
 }
 
-std::shared_ptr<Screen> DomesticFlightListView::list() const {
-    if (!flightListVM.hasReturnDate) return oneWayList_;
-    return flightListVM.index == departureTab ? departureList_ : returnList_;
+DomesticFlightListView::Side DomesticFlightListView::side() const {
+    auto& model = flightListVM;
+    if (!model.hasReturnDate) return {model.onewayFlights, model.filteredOnewayFlights, oneWayList_};
+    if (model.index == departureTab)
+        return {model.departureFlights, model.filteredDepartureFlights, departureList_};
+    return {model.returnFlights, model.filteredReturnFlights, returnList_};
 }
 
-bool DomesticFlightListView::listIsEmpty() const {
-    if (!flightListVM.hasReturnDate) return flightListVM.filteredOnewayFlights->empty();
-    return flightListVM.index == departureTab ? flightListVM.filteredDepartureFlights->empty()
-                                              : flightListVM.filteredReturnFlights->empty();
-}
+std::shared_ptr<Screen> DomesticFlightListView::list() const { return side().list; }
 
-bool DomesticFlightListView::canBeFiltered() const {
-    if (!flightListVM.hasReturnDate) return !flightListVM.onewayFlights->empty();
-    return flightListVM.index == departureTab ? !flightListVM.departureFlights->empty()
-                                              : !flightListVM.returnFlights->empty();
-}
+bool DomesticFlightListView::listIsEmpty() const { return side().filtered->empty(); }
+
+bool DomesticFlightListView::canBeFiltered() const { return !side().all->empty(); }
 
 bool DomesticFlightListView::isNarrowed() const {
-    const auto narrowed = [](const auto& shown, const auto& all) { return shown->size() < all->size(); };
-    if (!flightListVM.hasReturnDate)
-        return narrowed(flightListVM.filteredOnewayFlights, flightListVM.onewayFlights);
-    return flightListVM.index == departureTab
-               ? narrowed(flightListVM.filteredDepartureFlights, flightListVM.departureFlights)
-               : narrowed(flightListVM.filteredReturnFlights, flightListVM.returnFlights);
+    const Side shown = side();
+    return shown.filtered->size() < shown.all->size();
 }
 
 void DomesticFlightListView::tapReturnTab() {
@@ -143,20 +136,18 @@ void DomesticFlightListView::clearSelection() {
 }
 
 std::shared_ptr<Screen> DomesticFlightListView::makeFilter() {
-    const bool departureList = flightListVM.index == departureTab;
-    auto& all = !flightListVM.hasReturnDate ? flightListVM.onewayFlights
-                : departureList             ? flightListVM.departureFlights
-                                            : flightListVM.returnFlights;
-    auto& filtered = !flightListVM.hasReturnDate ? flightListVM.filteredOnewayFlights
-                     : departureList             ? flightListVM.filteredDepartureFlights
-                                                 : flightListVM.filteredReturnFlights;
+    const Side shown = side();
     const auto hold = weak_from_this();
-    return std::make_shared<FilterBottomSheetView>(
-        FilterBindings{
-            all, nullptr, filtered, nullptr, flightListVM.selectedId, flightListVM.price, flightListVM.time},
-        [this, hold] {
-            if (hold.lock()) clearSelection();
-        });
+    return std::make_shared<FilterBottomSheetView>(FilterBindings{shown.all,
+                                                                  nullptr,
+                                                                  shown.filtered,
+                                                                  nullptr,
+                                                                  flightListVM.selectedId,
+                                                                  flightListVM.price,
+                                                                  flightListVM.time},
+                                                   [this, hold] {
+                                                       if (hold.lock()) clearSelection();
+                                                   });
 }
 
 std::optional<std::int64_t> DomesticFlightListView::totalCost() const {

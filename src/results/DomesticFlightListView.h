@@ -69,6 +69,13 @@ private:
 
     DomesticFlightListView(SearchRequest request, const std::shared_ptr<DomesticFlightListViewModel>& model,
                            CompletionCallback completionCallback);
+    /// The offers of the open tab, or of the one list, and those that its filter left.
+    struct Side {
+        const Field<OneWayOffers>& all;
+        const Field<OneWayOffers>& filtered;
+        const std::shared_ptr<OneWayFlightListView>& list;
+    };
+    Side side() const;
     std::shared_ptr<OneWayFlightListView> makeList(const Field<OneWayOffers>& shown,
                                                    const OfferSelection& selection, Text title);
     using Choice = std::optional<AnyFlight>;

@@ -1,9 +1,9 @@
 #include "results/FilterBottomSheetView.h"
 
 #include "base/Fault.h"
+#include "base/WholeNumber.h"
 #include "offers/OfferFormat.h"
 #include "parts/CustomRadioButtonFieldView.h"
-#include "results/WholeNumber.h"
 
 namespace ombrivane {
 

@@ -1,10 +1,10 @@
 #include "results/FilterBottomSheetViewModel.h"
 
+#include "base/WholeNumber.h"
 #include "offers/OfferJourney.h"
 #include "platform/Platform.h"
 #include "results/AllAirlines.h"
 #include "results/TimeBucket.h"
-#include "results/WholeNumber.h"
 
 #include <algorithm>
 #include <iterator>

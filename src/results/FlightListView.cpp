@@ -1,7 +1,7 @@
 #include "results/FlightListView.h"
 
+#include "base/WholeNumber.h"
 #include "results/FilterBottomSheetView.h"
-#include "results/WholeNumber.h"
 
 namespace ombrivane {
 namespace {

@@ -1,10 +1,10 @@
 #include "results/ResultsScreen.h"
 
+#include "base/WholeNumber.h"
 #include "booking/RulesAndRegulationView.h"
 #include "dates/CustomRoundTripDatePickerView.h"
 #include "dates/DateFormatter.h"
 #include "offers/OfferFormat.h"
-#include "results/WholeNumber.h"
 #include "services/CustomError.h"
 #include "services/ItineraryType.h"
 

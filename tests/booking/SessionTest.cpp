@@ -199,6 +199,18 @@ TEST_P(SessionTest, AFareThatMovedIsToldWithWhatItWas) {
     }
 }
 
+TEST(SessionAmountTest, TwoOffersBeyondEveryAmountStandAtTheLargest) {
+    fakes::World world;
+    Trip dear = specialTrip;
+    dear.offers = [] {
+        const Json list = offers::listOf({{.cost = INT64_MAX}});
+        return Json::array({list, list});
+    };
+    Wallet wallet(world, dear);
+    wallet.toSession();
+    EXPECT_EQ(wallet.get("formerTotal"), "NPR 9,223,372,036,854,775,807");
+}
+
 TEST_P(SessionTest, ContinueSaysWhatIsMissingAndSendsNothing) {
     constexpr const char* contact = "Please fill the details for emergency contact.";
     constexpr const char* passengers = "Please fill the details for all passengers.";

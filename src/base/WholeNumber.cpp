@@ -1,4 +1,4 @@
-#include "results/WholeNumber.h"
+#include "base/WholeNumber.h"
 
 #include "base/Fault.h"
 
