@@ -170,13 +170,8 @@ void DemoWallet::receive(const std::optional<Dictionary>& dictionary, const std:
             [this, text = QString::fromStdString(error->localizedDescription)] { account_.end(text); });
     }
     if (options_.script.empty()) return;
-    Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
-    if (dictionary) event["dictionary"] = withoutToken(*dictionary);
-    if (error) {
-        event["error"] = Json{{"domain", error->domain},
-                              {"code", error->code},
-                              {"localizedDescription", error->localizedDescription}};
-    }
+    Json event =
+        journey::callbackEvent(dictionary ? std::optional(withoutToken(*dictionary)) : std::nullopt, error);
     event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
     log_.event(std::move(event));
 }

@@ -128,13 +128,7 @@ private:
     }
 
     void receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
-        Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
-        if (dictionary) event["dictionary"] = *dictionary;
-        if (error) {
-            event["error"] = Json{{"domain", error->domain},
-                                  {"code", error->code},
-                                  {"localizedDescription", error->localizedDescription}};
-        }
+        Json event = callbackEvent(dictionary, error);
         event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
         log_.event(std::move(event));
     }

@@ -12,6 +12,17 @@ void EventLog::print(const Json& line) {
     std::fflush(stdout);
 }
 
+Json callbackEvent(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
+    Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
+    if (dictionary) event["dictionary"] = *dictionary;
+    if (error) {
+        event["error"] = Json{{"domain", error->domain},
+                              {"code", error->code},
+                              {"localizedDescription", error->localizedDescription}};
+    }
+    return event;
+}
+
 void EventLog::answer(const Json& line) {
     const std::lock_guard lock(mutex_);
     print(line);

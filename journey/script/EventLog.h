@@ -1,13 +1,17 @@
 #pragma once
 
-#include "base/Json.h"
+#include "state/CompletionCallback.h"
 
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace ombrivane::journey {
+
+/// What a callback was given, as the event "callback": {"dictionary", "error"}, either of them null.
+Json callbackEvent(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error);
 
 /// What the program prints: one JSON object a line. Events are kept until the script waits for them. Any
 /// thread.

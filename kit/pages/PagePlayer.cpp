@@ -26,13 +26,7 @@ PagePlayer::PagePlayer(Platform ports) {
 
 CompletionCallback PagePlayer::heardBy(CompletionCallback wallet) {
     return [this, wallet = std::move(wallet)](auto dictionary, auto error) {
-        Json event{{"event", "callback"}, {"dictionary", nullptr}, {"error", nullptr}};
-        if (dictionary) event["dictionary"] = *dictionary;
-        if (error) {
-            event["error"] = Json{{"domain", error->domain},
-                                  {"code", error->code},
-                                  {"localizedDescription", error->localizedDescription}};
-        }
+        Json event = journey::callbackEvent(dictionary, error);
         if (wallet) wallet(std::move(dictionary), std::move(error));
         log_.event(std::move(event));
     };
