@@ -29,8 +29,8 @@ std::optional<HtmlToken> HtmlTokenizer::next() {
         if (startsWithLetter(1)) return takeTag(HtmlToken::Kind::startTag);
         if (rest_.starts_with("</") && startsWithLetter(2)) return takeTag(HtmlToken::Kind::endTag);
         if (rest_.starts_with("<!--")) {
-            // "<!-->" is a whole comment.
-            skipBehind("-->", 2);
+            // "<!-->" is a whole comment, and "--!>" an end that writers have got wrong.
+            skipBehind(rest_.find("--!>", 2) < rest_.find("-->", 2) ? "--!>" : "-->", 2);
         } else if (rest_.starts_with("</") || rest_.starts_with("<!") || rest_.starts_with("<?")) {
             skipBehind(">", 2);
         } else {

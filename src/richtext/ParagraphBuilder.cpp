@@ -140,6 +140,7 @@ void ParagraphBuilder::join(const Row& row) {
     if (filled < 2) return;
 
     const std::size_t first = row.cells.front();
+    opensItem_ = paragraphs_[first].kind == RuleParagraph::Kind::listItem;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
         const std::size_t end = i + 1 < row.cells.size() ? row.cells[i + 1] : paragraphs_.size();
         for (std::size_t at = row.cells[i]; at < end; ++at) {

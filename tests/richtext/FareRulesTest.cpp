@@ -43,6 +43,7 @@ TEST(FareRules, KeepTheTextOfUglyHtml) {
          "a<img src='file:///dev/zero' alt=x><object><p>o</object><svg><text>s</svg>b",
          "ab"},
         {"comments", "a<!-- <p>x --><!-->b<!--->c<!doctype x><?php y ?>d", "abcd"},
+        {"a comment that ends as it should not", "a<!-- <p>x --!>b<!-- y -->c", "abc"},
         {"an endless comment", "a<!-- b <p>c", "a"},
         {"an endless script", "a<script>b</scripty>c", "a"},
         {"an endless tag", "a<b title='c", "a"},
