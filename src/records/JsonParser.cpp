@@ -54,6 +54,15 @@ bool mayBeHuge(std::string_view number) {
     return number.size() > surelyFit || number.find_first_of("eE") != std::string_view::npos;
 }
 
+/// Later versions of the parser tell integers beyond 64 bits by an error of their own.
+template <class Code> bool isOfANumber(Code code) {
+    if constexpr (requires { Code::BIGINT_ERROR; }) {
+        return code == Code::NUMBER_ERROR || code == Code::BIGINT_ERROR;
+    } else {
+        return code == Code::NUMBER_ERROR;
+    }
+}
+
 } // namespace
 
 struct JsonParser::Parser {
@@ -94,7 +103,7 @@ simdjson::dom::element JsonParser::parse(std::string_view json, std::size_t read
     const bool isPadded = readable >= json.size() + simdjson::SIMDJSON_PADDING;
     simdjson::dom::element value;
     auto failure = parser_->parse(isPadded ? json : copied(), value);
-    if (failure == simdjson::NUMBER_ERROR) {
+    if (isOfANumber(failure)) {
         const std::string_view copy = copied();
         maskHugeNumbers(copy.size());
         failure = parser_->parse(copy, value);
@@ -116,7 +125,7 @@ void JsonParser::maskHugeNumbers(std::size_t length) {
         } else if (isDigit(text[at]) || text[at] == '-') {
             const std::size_t end = endOfNumber(text, at);
             const std::string_view number = text.substr(at, end - at);
-            if (end > at && mayBeHuge(number) && parser_->parse(number, value) == simdjson::NUMBER_ERROR) {
+            if (end > at && mayBeHuge(number) && isOfANumber(parser_->parse(number, value))) {
                 std::fill(copy_.begin() + static_cast<std::ptrdiff_t>(at),
                           copy_.begin() + static_cast<std::ptrdiff_t>(end),
                           ' ');
