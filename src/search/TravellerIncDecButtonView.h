@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dates/DateFormatter.h"
 #include "keyed/Action.h"
 #include "keyed/Derived.h"
 #include "keyed/Field.h"
@@ -7,6 +8,7 @@
 #include "search/TravellerRules.h"
 #include "words/Words.h"
 
+#include <cstdlib>
 #include <string>
 
 namespace ombrivane {
@@ -28,6 +30,9 @@ public:
     Derived<std::string> category{fields, "category", [this] { return said(label().category); }};
     Derived<std::string> categoryDetail{fields, "categoryDetail", [this] { return said(label().detail); }};
     Derived<std::string> numberValue{fields, "numberValue", [this] { return count().get(); }};
+    /// The same as the customer reads it.
+    Derived<std::string> number{
+        fields, "number", [this] { return formatNumber(std::atoi(count()->c_str())); }};
     /// Whether the controls are drawn as active.
     Derived<bool> mayIncrement{fields, "mayIncrement", [this] { return counts().mayIncrement(kind_); }};
     Derived<bool> mayDecrement{fields, "mayDecrement", [this] { return counts().mayDecrement(kind_); }};

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 
 namespace ombrivane::view {
 namespace {
@@ -78,6 +81,33 @@ TEST(LanguageTest, AWalletInQmlSaysItsLanguageAndChangesItWhileThePagesAreShown)
     window.session().setLanguage("ne-NP");
     EXPECT_TRUE(Window::waitFor([&] { return shows(window, nepali); }));
     EXPECT_FALSE(shows(window, "Nepal by air"));
+    EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
+    chooseLanguage({});
+}
+
+/// What stands on a card and is said of it.
+TEST(LanguageTest, OffersThatAreShownAreToldInTheNextLanguage) {
+    WalkPorts ports;
+    Window window(390, 844);
+    std::istringstream list("play journeys/steps/abroad.steps\n"
+                            "tap OneWayView.tapDate\n"
+                            "tap CustomOneWayDatePickerView.tapDay \"2027-01-10\"\n"
+                            "tap CustomOneWayDatePickerView.done\n"
+                            "tap OneWayView.search\n"
+                            "wait FlightListView.isLoading false\n"
+                            "look list\n");
+    const auto told = [&] {
+        auto* offer = QAccessible::queryAccessibleInterface(window.item("offer"));
+        return offer != nullptr ? offer->text(QAccessible::Name) : QString();
+    };
+    walk(ports, window, list, [&](const std::string&) {
+        window.settle();
+        ASSERT_TRUE(told().contains("Jan 10, 2027")) << told().toStdString();
+        window.session().setLanguage("ne-NP");
+        window.settle();
+        EXPECT_TRUE(told().contains(QString::fromUtf8("१०"))) << told().toStdString();
+        EXPECT_FALSE(told().contains("Jan 10, 2027")) << told().toStdString();
+    });
     EXPECT_EQ(window.takeWarnings(), std::vector<std::string>());
     chooseLanguage({});
 }

@@ -102,6 +102,10 @@ std::unique_ptr<ScreenAdapter> makeAdapter(const std::shared_ptr<Screen>& screen
     return rowOf(*screen).make(screen);
 }
 
+std::shared_ptr<ScreenAdapter> deletedLater(std::unique_ptr<ScreenAdapter> adapter) {
+    return {adapter.release(), [](ScreenAdapter* object) { object->deleteLater(); }};
+}
+
 QUrl pageOf(const Screen& screen) {
     const char* page = rowOf(screen).page;
     if (page == nullptr) return {};

@@ -15,9 +15,7 @@ ResultsAdapter::ResultsAdapter(std::shared_ptr<Screen> results) :
 QUrl ResultsAdapter::contentPage() const { return pageOf(*contentAdapter_->screen()); }
 
 void ResultsAdapter::followContent() {
-    // The page of the former content may still be at work: its adapter leaves with the next turn of the loop.
-    contentAdapter_ = {makeAdapter(contentScreen_.get()).release(),
-                       [](ScreenAdapter* adapter) { adapter->deleteLater(); }};
+    contentAdapter_ = deletedLater(makeAdapter(contentScreen_.get()));
     QQmlEngine::setObjectOwnership(contentAdapter_.get(), QQmlEngine::CppOwnership);
     emit contentChanged();
 }

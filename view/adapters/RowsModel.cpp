@@ -1,6 +1,7 @@
 #include "adapters/RowsModel.h"
 
 #include "adapters/PageTable.h"
+#include "words/Words.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -16,7 +17,8 @@ RowsModel::RowsModel(std::shared_ptr<Screen> owner, Rows& rows) :
     owner_(std::move(owner)),
     rows_(rows),
     identities_(rows.identities()),
-    watch_(rows.observe([this] { follow(); })) {}
+    watch_(rows.observe([this] { follow(); })),
+    language_(Words::shared().observe(settled([this] { speakAgain(); }))) {}
 
 QHash<int, QByteArray> RowsModel::roleNames() const { return {{rowRole, "row"}}; }
 
@@ -51,6 +53,10 @@ void RowsModel::follow() {
         insertNew(next);
     }
     if (count() != former) emit countChanged();
+}
+
+void RowsModel::speakAgain() {
+    if (count() > 0) emit dataChanged(index(0), index(count() - 1), {rowRole});
 }
 
 bool RowsModel::sharesNone(const std::vector<RowIdentity>& next) const {
@@ -118,6 +124,11 @@ void RowsModel::insertNew(const std::vector<RowIdentity>& next) {
         endInsertRows();
         i = end - 1;
     }
+    // A service may tell the same twice, and once the next time.
+    if (identities_.size() <= next.size()) return;
+    beginRemoveRows({}, static_cast<int>(next.size()), count() - 1);
+    identities_.resize(next.size());
+    endRemoveRows();
 }
 
 } // namespace ombrivane::view

@@ -33,6 +33,8 @@ public:
 
 private:
     void follow();
+    /// Adapters keep their words: in another language each row gets another one.
+    void speakAgain();
     bool sharesNone(const std::vector<RowIdentity>& next) const;
     /// Other rows in the places of those that stand there, as offers follow their placeholders: what is drawn
     /// stays and shows the new ones.
@@ -44,6 +46,7 @@ private:
     Rows& rows_;
     std::vector<RowIdentity> identities_;
     Subscription watch_;
+    Subscription language_;
 };
 
 } // namespace ombrivane::view

@@ -9,7 +9,7 @@ Item {
 
     // Told once the customer has changed it.
     property bool isChanged: false
-    readonly property string count: Words.fill(Words.fieldWithValue, {field: row.category, value: row.numberValue})
+    readonly property string count: Words.fill(Words.fieldWithValue, {field: row.category, value: row.number})
 
     implicitHeight: Math.max(56, texts.implicitHeight + 8)
 
@@ -44,7 +44,7 @@ Item {
         anchors { right: plus.left; verticalCenter: parent.verticalCenter }
         width: 28 * Theme.textScale
         horizontalAlignment: Text.AlignHCenter
-        text: item.row.numberValue
+        text: item.row.number
         Accessible.name: item.count
         font.pixelSize: Theme.sectionSize
         font.weight: Font.Medium

@@ -13,11 +13,6 @@ namespace {
 
 enum Role { screenRole = Qt::UserRole + 1, pageRole, presentationRole };
 
-/// A page may still be at work when its entry goes: its adapter leaves with the next turn of the event loop.
-std::shared_ptr<ScreenAdapter> deletedLater(std::unique_ptr<ScreenAdapter> adapter) {
-    return {adapter.release(), [](ScreenAdapter* object) { object->deleteLater(); }};
-}
-
 } // namespace
 
 void StageModel::follow(Navigator* navigator) {
@@ -31,7 +26,9 @@ QHash<int, QByteArray> StageModel::roleNames() const {
 }
 
 QVariant StageModel::data(const QModelIndex& index, int role) const {
-    const Entry& entry = entries_.at(static_cast<std::size_t>(index.row()));
+    const auto position = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || position >= entries_.size()) return {};
+    const Entry& entry = entries_[position];
     switch (role) {
     case screenRole:
         return QVariant::fromValue<QObject*>(entry.adapter.get());

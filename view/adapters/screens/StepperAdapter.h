@@ -14,7 +14,7 @@ class StepperAdapter : public ombrivane::view::ScreenAdapter {
     OMBRIVANE_SCREEN(StepperAdapter, ScreenAdapter, TravellerIncDecButtonView)
     OMBRIVANE_TEXT(category, core().category)
     OMBRIVANE_TEXT(categoryDetail, core().categoryDetail)
-    OMBRIVANE_TEXT(numberValue, core().numberValue)
+    OMBRIVANE_TEXT(number, core().number)
     OMBRIVANE_FLAG(mayIncrement, core().mayIncrement)
     OMBRIVANE_FLAG(mayDecrement, core().mayDecrement)
     OMBRIVANE_INTENT(increment, core().increment)
