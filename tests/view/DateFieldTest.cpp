@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QDir>
 #include <QtTest/QTest>
 
@@ -56,11 +57,15 @@ void keepPicture(Window& window, const std::string& look) {
 }
 
 void openWheels(Window& window) {
-    window.item("dateOfBirth")->forceActiveFocus(); // which brings it into view
+    for (QQuickItem* item : window.visibleItems()) // it may lie below the window
+        if (item->objectName() == "dateOfBirth") item->forceActiveFocus();
     window.settle();
     window.click("dateOfBirth");
     EXPECT_TRUE(window.waitFor([&] { return window.item("year") != nullptr; }));
     window.settle();
+    const QQuickItem* done = window.item("done");
+    ASSERT_NE(done, nullptr);
+    EXPECT_LE(done->mapToScene(QPointF(0, done->height())).y(), window.window().height());
 }
 
 void chooseDate(Window& window, const std::string& look) {
@@ -76,6 +81,13 @@ void chooseDate(Window& window, const std::string& look) {
     }
 
     openWheels(window);
+    // As a finger does with a screen reader, and back.
+    for (const auto& [action, day] : {std::pair(QAccessibleActionInterface::increaseAction(), "1977-01-10"),
+                                      std::pair(QAccessibleActionInterface::decreaseAction(), proposal)}) {
+        QAccessible::queryAccessibleInterface(window.item("year"))->actionInterface()->doAction(action);
+        window.settle();
+        expectWheels(window, day);
+    }
     for (const auto& turn : turns) {
         window.item(turn.wheel)->forceActiveFocus();
         QTest::keyClick(&window.window(), turn.key);
@@ -96,7 +108,10 @@ TEST(DateFieldTest, ADateIsTurnedWithinItsLimits) {
         int height;
         double textScale;
     };
-    for (const auto& look : {Look{"phone", 390, 844, 1}, Look{"narrow-large-text", 320, 568, 2}}) {
+    for (const auto& look : {Look{"phone", 390, 844, 1},
+                             Look{"narrow-large-text", 320, 568, 2},
+                             Look{"lying", 640, 360, 1},
+                             Look{"lying-large-text", 640, 360, 2}}) {
         SCOPED_TRACE(look.name);
         WalkPorts ports;
         Window window(look.width, look.height);

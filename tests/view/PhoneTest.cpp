@@ -33,6 +33,8 @@ TEST(PhoneTest, AScreenKeepsItsBarsAndAKeyboardItsPlace) {
         {"all of it", screen, screen, {0, 47, 0, 34, 0}},
         {"below a title of the host", {0, 100, 390, 744}, screen, {0, 0, 0, 34, 0}},
         {"above tabs of the host", {0, 0, 390, 780}, screen, {0, 47, 0, 0, 0}},
+        {"a page that waits beside the screen", {390, 0, 390, 844}, screen, {}},
+        {"a page that slides in", {195, 0, 390, 844}, screen, {0, 47, 0, 34, 0}},
         {"a window among others", {0, 0, 390, 700}, {0, 0, 390, 700}, {}},
     };
     for (const auto& [what, view, window, kept] : cases)

@@ -50,6 +50,13 @@ TEST(ResultPagesTest, AWideWindowShowsTheFilterBesideTheListAndANarrowOneOverIt)
                 EXPECT_EQ(beside, !look.covered);
                 EXPECT_LE(placeOf(*offer).right(), look.width);
             }
+            // As a finger moves it with a screen reader.
+            auto* slider = window.item("price");
+            ASSERT_NE(slider, nullptr);
+            const QString dearest = slider->property("valueText").toString();
+            QAccessible::queryAccessibleInterface(slider)->actionInterface()->doAction(
+                QAccessibleActionInterface::decreaseAction());
+            EXPECT_NE(slider->property("valueText").toString(), dearest);
         });
         EXPECT_EQ(looks, 1);
     }

@@ -24,6 +24,8 @@ void DeviceInsets::watch(QQuickWindow* window) {
         connect(window, &QWindow::yChanged, this, &DeviceInsets::read);
         connect(window, &QWindow::widthChanged, this, &DeviceInsets::read);
         connect(window, &QWindow::heightChanged, this, &DeviceInsets::read);
+        connect(
+            window, &QQuickWindow::afterAnimating, this, &DeviceInsets::read); // what holds the view may move
         connect(window, &QWindow::screenChanged, this, &DeviceInsets::watchScreen);
     }
     watchScreen(window != nullptr ? window->screen() : nullptr);

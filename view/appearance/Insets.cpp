@@ -5,11 +5,12 @@
 namespace ombrivane::view {
 
 Insets screenInsets(const QRectF& view, const QRectF& window, const QRectF& screen, const QRectF& free) {
-    if (!window.contains(screen) || !free.isValid()) return {};
-    return {.left = std::max(0.0, free.left() - view.left()),
-            .top = std::max(0.0, free.top() - view.top()),
-            .right = std::max(0.0, view.right() - free.right()),
-            .bottom = std::max(0.0, view.bottom() - free.bottom())};
+    const QRectF seen = view.intersected(screen); // a page that slides in hangs off the screen
+    if (!window.contains(screen) || !free.isValid() || seen.isEmpty()) return {};
+    return {.left = std::max(0.0, free.left() - seen.left()),
+            .top = std::max(0.0, free.top() - seen.top()),
+            .right = std::max(0.0, seen.right() - free.right()),
+            .bottom = std::max(0.0, seen.bottom() - free.bottom())};
 }
 
 double keyboardInset(const QRectF& view, const QRectF& keyboard) {

@@ -51,12 +51,12 @@ const std::vector<Drawn>& drawn() {
     static const std::vector<Drawn> table{
         {ink, {canvas, card, segment, range, filterBackground, noticeFill}, text},
         {quiet, {canvas, card, segment, range, filterBackground}, text},
-        {primary, {canvas, card}, text},
-        {secondary, {canvas, card, segment}, text},
+        {primary, {canvas, card, segment}, text},
+        {secondary, {canvas, card, segment, range}, text},
         {primaryText, {primary}, text},
         {secondaryText, {secondary}, text},
         {notice, {noticeFill}, text},
-        {fieldBorder, {canvas, card}, border},
+        {fieldBorder, {canvas, card, filterBackground}, border},
     };
     return table;
 }

@@ -19,6 +19,10 @@ Item {
     readonly property real least: 0.1
     readonly property real step: 0.02
 
+    function keepAll() {
+        startX = startY = 0
+        endX = endY = 1
+    }
     function moveCorner(atRight: bool, atBottom: bool, x: real, y: real) {
         if (atRight) endX = Math.min(1, Math.max(startX + least, x)); else startX = Math.max(0, Math.min(endX - least, x))
         if (atBottom) endY = Math.min(1, Math.max(startY + least, y)); else startY = Math.max(0, Math.min(endY - least, y))
@@ -49,6 +53,8 @@ Item {
             readonly property real place: atRight ? frame.endX : frame.startX
             readonly property real level: atBottom ? frame.endY : frame.startY
 
+            // Along its diagonal, outwards for what is more than 0.
+            function widen(by: real) { moveBy(atRight ? by : -by, atBottom ? by : -by) }
             function moveBy(across: real, down: real) { frame.moveCorner(atRight, atBottom, place + across, level + down) }
 
             x: place * frame.width - width / 2
@@ -56,9 +62,11 @@ Item {
             width: Theme.target
             height: Theme.target
             activeFocusOnTab: true
-            Accessible.role: Accessible.Indicator
+            Accessible.role: Accessible.Slider
             Accessible.name: modelData
             Accessible.focusable: true
+            Accessible.onIncreaseAction: widen(frame.step)
+            Accessible.onDecreaseAction: widen(-frame.step)
             Keys.onLeftPressed: moveBy(-frame.step, 0)
             Keys.onRightPressed: moveBy(frame.step, 0)
             Keys.onUpPressed: moveBy(0, -frame.step)

@@ -12,6 +12,10 @@ Sheet {
     required property string day
     signal picked(day: string)
 
+    // In landscape the wheels show what there is room for, and the title gives its place to them.
+    readonly property real room: height - 40 - Theme.target - 2 * Theme.margin - done.implicitHeight - column.spacing
+    readonly property bool cramped: room < heading.implicitHeight + column.spacing + 3 * dayWheel.entryHeight
+
     name: title
     wantedHeight: column.implicitHeight + 2 * Theme.margin
 
@@ -32,6 +36,8 @@ Sheet {
         width: parent.width - 2 * x
         spacing: Theme.margin
         PlainText {
+            id: heading
+            visible: !sheet.cramped
             Layout.fillWidth: true
             text: sheet.title
             font.pixelSize: Theme.titleSize
@@ -40,11 +46,13 @@ Sheet {
             Accessible.role: Accessible.Heading
         }
         RowLayout {
+            Layout.maximumHeight: sheet.cramped ? Math.max(dayWheel.entryHeight, sheet.room) : implicitHeight
             spacing: 8
             Wheel {
                 id: monthWheel
                 objectName: "month"
                 Layout.fillWidth: true
+                Layout.fillHeight: true
                 focus: true
                 label: Words.wheelMonth
                 model: choice.months
@@ -55,6 +63,7 @@ Sheet {
                 id: dayWheel
                 objectName: "day"
                 Layout.fillWidth: true
+                Layout.fillHeight: true
                 label: Words.wheelDay
                 model: choice.days
                 chosen: choice.dayIndex
@@ -64,6 +73,7 @@ Sheet {
                 id: yearWheel
                 objectName: "year"
                 Layout.fillWidth: true
+                Layout.fillHeight: true
                 label: Words.wheelYear
                 model: choice.years
                 chosen: choice.yearIndex
@@ -71,6 +81,7 @@ Sheet {
             }
         }
         MainButton {
+            id: done
             objectName: "done"
             Layout.fillWidth: true
             text: Words.done

@@ -7,6 +7,8 @@ Rectangle {
 
     signal tapped
 
+    // Its margins are those of the device, whatever is written on it.
+    LayoutMirroring.enabled: false
     anchors {
         fill: parent
         leftMargin: -Theme.safeLeft

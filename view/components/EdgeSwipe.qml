@@ -31,6 +31,7 @@ Item {
         way = wayOf(front)
         page = way !== null ? front : null
         moved = 0
+        part = 0
     }
     function follow(points: real) {
         moved = points

@@ -18,6 +18,7 @@ PlainText {
             text: found.text
             font: found.font
             color: Theme.secondaryColor
+            alignment: found.effectiveHorizontalAlignment
             origin: Qt.point(found.leftPadding, found.topPadding)
             lineHeight: found.lineHeight
             strength: 2

@@ -20,12 +20,7 @@ Rectangle {
     Accessible.role: Accessible.StaticText
     Accessible.name: message
 
-    Announcement {
-        id: said
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: said.text
-        text: notice.message
-    }
+    Aloud { text: notice.message }
     Icon {
         id: icon
         anchors { left: parent.left; leftMargin: 14; verticalCenter: parent.verticalCenter }

@@ -20,9 +20,9 @@ Rectangle {
             Layout.fillWidth: true
             spacing: 8
             Icon { width: 22; height: 22; name: "departureBlackIcon"; color: Theme.blackColor }
-            CardText { text: block.journey.departureCountry; font.weight: Font.Medium }
+            CardText { width: implicitWidth > parent.width ? parent.width : undefined; text: block.journey.departureCountry; font.weight: Font.Medium }
             Icon { width: 20; height: 22; name: "toIcon"; color: Theme.placeHolderColor }
-            CardText { text: block.journey.arrivalCountry; font.weight: Font.Medium }
+            CardText { width: implicitWidth > parent.width ? parent.width : undefined; text: block.journey.arrivalCountry; font.weight: Font.Medium }
         }
         Repeater {
             model: block.journey.segments

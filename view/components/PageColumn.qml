@@ -12,6 +12,9 @@ Flickable {
     property real inset: 0
     readonly property real covered: inset > Theme.tallHeader || parent !== null && parent.height < 300 ? 0 : inset
 
+    // Something to read: one stop of the Tab key where it is longer than the page.
+    property bool isRead: false
+
     // What lies over its lower end for a while.
     property real footCover: 0
 
@@ -55,6 +58,9 @@ Flickable {
 
     contentHeight: inset + column.implicitHeight + 2 * Theme.margin + footCover
     clip: true
+    activeFocusOnTab: isRead && contentHeight > height
+    Keys.onPressed: event => event.accepted = isRead && keys.scroll(event.key)
+    ScrollKeys { id: keys; area: area }
 
     function revealFocus() {
         const focused = area.Window.activeFocusItem

@@ -20,6 +20,7 @@ Rectangle {
     // What leaves the page is not drawn under a notch on its way.
     opacity: goesAway ? 1 - Math.max(0, Math.min(1, scrolled / height)) : 1
 
+    Blocker { anchors.fill: parent }
     WayBack { enabled: button.visible; onTaken: header.leave() }
     IconButton {
         id: button

@@ -18,14 +18,15 @@ Item {
         color: Theme.hairlineColor
         clip: true
         Rectangle {
+            x: Words.rightToLeft ? parent.width - width : 0
             width: parent.width / 3
             height: parent.height
             radius: 2
             color: Theme.secondaryColor
             NumberAnimation on x {
                 running: line.visible && !Theme.reducedMotion
-                from: -line.width / 3
-                to: line.width
+                from: Words.rightToLeft ? line.width : -line.width / 3
+                to: Words.rightToLeft ? -line.width / 3 : line.width
                 duration: 1200
                 loops: Animation.Infinite
             }

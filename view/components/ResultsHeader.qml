@@ -46,9 +46,9 @@ Rectangle {
             Flow {
                 width: parent.width
                 spacing: 8
-                PlainText { text: header.screen.departCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
+                PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: header.screen.departCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
                 Icon { width: 20; height: 20 * Math.max(1, Theme.textScale); name: header.screen.routeImage; color: Theme.secondaryColor }
-                PlainText { text: header.screen.destCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
+                PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: header.screen.destCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
             }
             PlainText {
                 width: parent.width

@@ -70,6 +70,7 @@ FocusScope {
             width: beside ? buttons.width : parent.width
             height: buttons.height + (beside ? 0 : 8)
             color: beside ? "transparent" : Theme.canvasColor
+            Blocker { anchors.fill: parent; visible: !floating.beside }
             Rectangle { visible: !floating.beside; width: parent.width; height: 1; color: Theme.hairlineColor }
         }
         Grid {

@@ -41,8 +41,8 @@ Item {
                     GradientStop { position: 1; color: "#00FFFFFF" }
                 }
                 NumberAnimation on x {
-                    from: -shimmer.width
-                    to: shimmer.width
+                    from: Words.rightToLeft ? shimmer.width : -shimmer.width
+                    to: -from
                     duration: 2000
                     loops: Animation.Infinite
                 }

@@ -30,6 +30,7 @@ Item {
         height: Math.max(Theme.fieldHeight, words.implicitHeight + 24)
         radius: Theme.fieldRadius
         color: Theme.blackColor
+        Blocker { anchors.fill: parent }
         Icon {
             id: icon
             anchors { left: parent.left; leftMargin: 14 }

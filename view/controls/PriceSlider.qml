@@ -17,6 +17,8 @@ T.Slider {
     Accessible.role: Accessible.Slider
     Accessible.name: label
     Accessible.description: valueText
+    Accessible.onIncreaseAction: { increase(); moved() }
+    Accessible.onDecreaseAction: { decrease(); moved() }
 
     background: Rectangle {
         y: (slider.height - height) / 2

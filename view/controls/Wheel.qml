@@ -25,6 +25,8 @@ ListView {
     Accessible.role: Accessible.SpinBox
     Accessible.name: currentItem === null ? label : Words.fill(Words.fieldWithValue, {field: label, value: (currentItem as WheelEntry).text})
     Accessible.focusable: true
+    Accessible.onIncreaseAction: turnTo(chosen + 1)
+    Accessible.onDecreaseAction: turnTo(chosen - 1)
 
     highlight: Rectangle {
         radius: Theme.fieldRadius

@@ -75,7 +75,7 @@ void FocusRing::watch(QQuickWindow* window) {
     if (window == nullptr) return;
     window->installEventFilter(this);
     connect(window, &QQuickWindow::afterAnimating, this, &FocusRing::follow);
-    connect(window, &QQuickWindow::activeFocusItemChanged, window, &QQuickWindow::update);
+    connect(window, &QQuickWindow::activeFocusItemChanged, this, [window] { window->update(); });
 }
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event) {

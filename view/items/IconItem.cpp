@@ -21,8 +21,14 @@ constexpr const char* drawnColour = "#14181F";
 /// What a drawing that fades away has in the colour of what lies behind it.
 constexpr const char* drawnGround = "#F3F5F9";
 /// The drawings that point the way.
-constexpr std::array<std::string_view, 6> pointing{
-    "arrowLeftIcon", "chevronLeftIcon", "chevronRightIcon", "paperPlaneIcon", "segmentPlane", "toIcon"};
+constexpr std::array<std::string_view, 8> pointing{"arrowLeftIcon",
+                                                   "chevronLeftIcon",
+                                                   "chevronRightIcon",
+                                                   "departureBlackIcon",
+                                                   "paperPlaneIcon",
+                                                   "returnBlackIcon",
+                                                   "segmentPlane",
+                                                   "toIcon"};
 constexpr const char* folder = ":/com.framework.Ombrivane/images/";
 
 QByteArray contents(const QString& path) {

@@ -16,7 +16,7 @@ constexpr double lineShare = 0.7; ///< of a text's height
 QRectF shapeOfText(const QQuickItem& text) {
     const double width = std::min(text.width(), text.property("contentWidth").toDouble());
     const double height = text.height() * lineShare;
-    const int alignment = text.property("horizontalAlignment").toInt();
+    const int alignment = text.property("effectiveHorizontalAlignment").toInt();
     const double free = text.width() - width;
     const double x = alignment == Qt::AlignRight ? free : alignment == Qt::AlignHCenter ? free / 2 : 0;
     return {x, (text.height() - height) / 2, width, height};

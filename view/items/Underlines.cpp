@@ -17,6 +17,7 @@ void Underlines::paint(QPainter* painter) {
     const QFontMetricsF metrics(font_);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setAlignment(Qt::Alignment::fromInt(alignment_));
     QTextLayout layout(text_, font_);
     layout.setTextOption(option);
     layout.beginLayout();

@@ -20,6 +20,8 @@ class Underlines : public QQuickPaintedItem {
     Q_PROPERTY(QString text MEMBER text_ NOTIFY changed FINAL)
     Q_PROPERTY(QFont font MEMBER font_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
+    /// Of its lines, as the text item says: `effectiveHorizontalAlignment`.
+    Q_PROPERTY(int alignment MEMBER alignment_ NOTIFY changed FINAL)
     /// Where the text begins in the item; its lines end at the item's right side.
     Q_PROPERTY(QPointF origin MEMBER origin_ NOTIFY changed FINAL)
     /// The least thickness of a line, in points.
@@ -39,6 +41,7 @@ private:
     QString text_;
     QFont font_;
     QColor color_;
+    int alignment_ = Qt::AlignLeft;
     QPointF origin_;
     double strength_ = 1;
     double lineHeight_ = 1;

@@ -16,6 +16,10 @@ Item {
         onLeave: page.screen.back()
     }
     PageColumn {
+        isRead: true
+        Accessible.role: Accessible.Pane
+        Accessible.name: page.screen.title
+        Accessible.focusable: true
         footCover: waiting.visible ? waiting.height + Theme.margin : 0
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
         Icon {

@@ -18,13 +18,17 @@ Item {
         onLeave: page.screen.close()
     }
     PageColumn {
+        isRead: true
+        Accessible.role: Accessible.Pane
+        Accessible.name: page.screen.title
+        Accessible.focusable: true
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
         Flow {
             Layout.fillWidth: true
             spacing: 8
-            PlainText { text: page.screen.originCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: page.screen.originCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
             Icon { width: 22; height: 22 * Math.max(1, Theme.textScale); name: page.screen.routeImage; color: Theme.blackColor }
-            PlainText { text: page.screen.destinationCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: page.screen.destinationCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
         }
         Repeater {
             model: page.screen.journeys
@@ -36,9 +40,9 @@ Item {
                 Flow {
                     Layout.fillWidth: true
                     spacing: 8
-                    PlainText { objectName: "sectionOrigin"; text: section.modelData.originCity; font.weight: Font.Medium }
+                    PlainText { width: implicitWidth > parent.width ? parent.width : undefined; objectName: "sectionOrigin"; text: section.modelData.originCity; font.weight: Font.Medium }
                     Icon { width: 22; height: 22 * Math.max(1, Theme.textScale); name: "departureBlackIcon"; color: Theme.placeHolderColor }
-                    PlainText { objectName: "sectionDestination"; text: section.modelData.destinationCity; font.weight: Font.Medium }
+                    PlainText { width: implicitWidth > parent.width ? parent.width : undefined; objectName: "sectionDestination"; text: section.modelData.destinationCity; font.weight: Font.Medium }
                 }
                 Repeater {
                     model: section.modelData.legs

@@ -41,7 +41,8 @@ Sheet {
             background: Rectangle { color: item.down ? Theme.segmentColor : "transparent" }
             contentItem: PlainText {
                 id: name
-                leftPadding: Theme.margin
+                leftPadding: Words.rightToLeft ? 0 : Theme.margin
+                rightPadding: Words.rightToLeft ? Theme.margin : 0
                 verticalAlignment: Text.AlignVCenter
                 text: item.row.nationality
                 Accessible.ignored: true

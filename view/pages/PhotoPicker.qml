@@ -20,7 +20,7 @@ Sheet {
         title: Words.documentUpload
         nameFilters: ["*.png *.jpg *.jpeg"]
         onAccepted: preview.source = selectedFile
-        onRejected: page.screen.cancel()
+        onRejected: if (preview.status === Image.Null) page.screen.cancel()
     }
     PlainText {
         id: hint
@@ -42,6 +42,7 @@ Sheet {
             asynchronous: true
             autoTransform: true
             sourceSize.width: 1024
+            onSourceChanged: crop.keepAll()
         }
         CropFrame {
             id: crop
@@ -72,7 +73,7 @@ Sheet {
             Layout.preferredWidth: 1
             enabled: preview.status === Image.Ready
             text: Words.pictureUse
-            onClicked: page.screen.choose(dialog.selectedFile, crop.kept)
+            onClicked: page.screen.choose(preview.source, crop.kept)
         }
     }
 }

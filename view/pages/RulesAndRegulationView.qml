@@ -16,6 +16,7 @@ Item {
         title: page.screen.title
         onLeave: page.back()
     }
+    ScrollKeys { id: keys; area: list }
     ListView {
         id: list
         objectName: "rules"
@@ -32,13 +33,8 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: page.screen.title
         Keys.onPressed: event => {
-            const end = originY + Math.max(0, contentHeight - height)
-            const line = 3 * Theme.sectionSize
-            const places = {[Qt.Key_Down]: contentY + line, [Qt.Key_Up]: contentY - line, [Qt.Key_PageDown]: contentY + height - line, [Qt.Key_PageUp]: contentY - height + line,
-                            [Qt.Key_Space]: contentY + height - line, [Qt.Key_Home]: originY, [Qt.Key_End]: end}
-            event.accepted = event.key in places
-            if (event.key === Qt.Key_End) positionViewAtEnd()
-            else if (event.accepted) contentY = Math.max(originY, Math.min(end, places[event.key]))
+            event.accepted = keys.scroll(event.key)
+            if (event.key === Qt.Key_End) positionViewAtEnd() // whose place is not known before
         }
         delegate: PlainText {
             id: paragraph
@@ -47,7 +43,8 @@ Item {
             required property bool underlined
             required property list<int> underlines
             width: list.width
-            leftPadding: listItem ? 16 : 0
+            leftPadding: listItem && !Words.rightToLeft ? 16 : 0
+            rightPadding: listItem && Words.rightToLeft ? 16 : 0
             text: content
             font.underline: underlined
             font.pixelSize: Theme.sectionSize
@@ -62,12 +59,14 @@ Item {
                 color: Theme.blackColor
             }
             Underlines {
-                anchors.fill: parent
+                width: paragraph.width - paragraph.rightPadding
+                height: paragraph.height
                 visible: stretches.length > 0
                 stretches: paragraph.underlines
                 text: paragraph.content
                 font: paragraph.font
                 color: paragraph.color
+                alignment: paragraph.effectiveHorizontalAlignment
                 origin: Qt.point(paragraph.leftPadding, paragraph.topPadding)
                 lineHeight: paragraph.lineHeight
             }

@@ -6,6 +6,8 @@ Item {
     id: page
 
     required property AirportSearchAdapter screen
+    // A keyboard leaves little more than the field: the rest of it is the list's.
+    readonly property bool cramped: height < 300
 
     Rectangle { anchors.fill: parent; color: Theme.canvasColor }
     PageHeader {
@@ -14,6 +16,7 @@ Item {
         iconName: "crossIcon"
         leaveLabel: Words.close
         title: page.screen.placeholder
+        scrolled: page.cramped ? height : 0
         onLeave: page.screen.close()
     }
     Item {
@@ -59,7 +62,7 @@ Item {
             }
             PlainText {
                 width: parent.width
-                visible: page.screen.showsHeading
+                visible: page.screen.showsHeading && !page.cramped
                 text: page.screen.heading
                 font.pixelSize: Theme.sectionSize
                 font.weight: Font.Medium
