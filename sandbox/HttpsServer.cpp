@@ -149,6 +149,11 @@ void HttpsServer::serve(int socket) {
             } catch (const Refusal& refusal) {
                 deliver(refusalAnswer(refusal.what(), refusal.status()), {}, connection);
                 connection.close();
+            } catch (const std::exception& failure) {
+                // This thread is nobody's: what leaves it would end the process of whoever embeds the
+                // sandbox.
+                deliver(cannotAnswer(failure), {}, connection);
+                connection.close();
             }
         }
     }

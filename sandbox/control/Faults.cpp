@@ -28,6 +28,20 @@ std::uint64_t number(std::string_view text, std::string_view whose) {
     return value;
 }
 
+/// The largest number of a fault: what an answer is made of is held in memory, and pauses that add up have an
+/// end. What is streamed or cut off may be of any length.
+std::uint64_t largestOf(const FaultForm& form) {
+    constexpr std::uint64_t held = 100'000'000;
+    constexpr std::uint64_t day = 86'400'000;
+    if (form.kind == FaultKind::Huge || form.kind == FaultKind::Truncate)
+        return std::numeric_limits<std::uint64_t>::max();
+    return form.value == "MS" ? day : held;
+}
+
+bool hasEmptyStep(std::string_view path) {
+    return path.front() == '.' || path.back() == '.' || path.find("..") != std::string_view::npos;
+}
+
 /// Takes " name=N" from the end of `text`.
 bool takeCount(std::string_view& text, std::string_view name, std::size_t& count) {
     const std::size_t blank = text.rfind(' ');
@@ -175,6 +189,10 @@ Fault parseFault(std::string_view text) {
             fmt::format("\"{}\" takes {}.", form.name, form.value.empty() ? "no value" : form.value));
     if (form.value == "MS" || form.value == "BYTES" || form.value == "CODE" || form.value == "LEVELS")
         fault.number = number(fault.text, form.name);
+    if (fault.number > largestOf(form))
+        throw std::invalid_argument(fmt::format("\"{}\" takes at most {}.", form.name, largestOf(form)));
+    if (form.value == "KEYPATH" && hasEmptyStep(fault.text))
+        throw std::invalid_argument(fmt::format("\"{}\" of {} has an empty step.", fault.text, form.name));
     if (fault.kind == FaultKind::Status && (fault.number < 100 || fault.number > 999))
         throw std::invalid_argument("A status has three digits.");
     return fault;

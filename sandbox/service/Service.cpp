@@ -144,7 +144,7 @@ HttpAnswer Service::answer(const HttpRequest& request) {
     } catch (const Refusal& refusal) {
         return refusalAnswer(refusal.what(), refusal.status());
     } catch (const std::exception& failure) {
-        return refusalAnswer(fmt::format("The sandbox cannot answer this: {}", failure.what()), 500);
+        return cannotAnswer(failure);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "sandbox/wire/HttpMessage.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <charconv>
 #include <utility>
@@ -69,6 +71,10 @@ HttpAnswer refusalAnswer(const std::string& message, int status) {
     HttpAnswer answer = jsonAnswer({{"success", false}, {"data", {{"error", message}}}}, status);
     answer.refusal = message;
     return answer;
+}
+
+HttpAnswer cannotAnswer(const std::exception& failure) {
+    return refusalAnswer(fmt::format("The sandbox cannot answer this: {}", failure.what()), 500);
 }
 
 } // namespace ombrivane::sandbox

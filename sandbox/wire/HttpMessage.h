@@ -3,6 +3,7 @@
 
 #include "sandbox/Json.h"
 
+#include <exception>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +48,9 @@ HttpAnswer successAnswer(Json data);
 
 /// {"success":false,"data":{"error":...}}
 HttpAnswer refusalAnswer(const std::string& message, int status);
+
+/// What a client is told of a mistake of the sandbox's own: a refusal with status 500.
+HttpAnswer cannotAnswer(const std::exception& failure);
 
 /// Equality without regard to the case of ASCII letters.
 bool equalIgnoringCase(std::string_view left, std::string_view right);

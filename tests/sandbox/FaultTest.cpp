@@ -1,3 +1,4 @@
+#include "sandbox/HttpsServer.h"
 #include "sandbox/control/Faults.h"
 #include "tests/sandbox/ServiceClient.h"
 
@@ -5,8 +6,10 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <fstream>
 #include <functional>
 #include <numeric>
+#include <stdexcept>
 #include <thread>
 
 namespace ombrivane::sandbox {
@@ -241,6 +244,24 @@ TEST(Faults, StoppingEndsASilentConnection) {
     EXPECT_NE(answer.end, WireEnd::StillOpen);
 }
 
+TEST(Faults, AHandlerThatThrowsIsAnsweredAndTheServerLivesOn) {
+    ServiceClient client; // whose file of certificates is at hand
+    const ServerIdentity identity = makeServerIdentity(CertificateKind::Good);
+    const auto caFile = client.sandbox().caFile().replace_filename("throwing.pem");
+    std::ofstream(caFile) << identity.authorityPem;
+    RequestLog log;
+    const HttpsServer server(0, identity, log, [](const HttpRequest&, bool, TlsConnection&) -> bool {
+        throw std::out_of_range("beyond the end");
+    });
+    for (int i = 0; i < 2; ++i) {
+        const WireAnswer answer =
+            exchange("https://localhost:" + std::to_string(server.port()), caFile, countries);
+        EXPECT_EQ(answer.status(), 500);
+        EXPECT_EQ(ServiceClient::error(parsed(answer.body())),
+                  "The sandbox cannot answer this: beyond the end");
+    }
+}
+
 TEST(Faults, ThatDoNotReadAreRefusedWithASentence) {
     const std::vector<std::pair<const char*, const char*>> wrong{
         {"/get-token", "\"/get-token\" does not read PATH KIND[=VALUE]."},
@@ -251,6 +272,14 @@ TEST(Faults, ThatDoNotReadAreRefusedWithASentence) {
         {"/get-token latency=soon", "\"soon\" of latency is no number."},
         {"/get-token status=20", "A status has three digits."},
         {"/get-token drop times=x", "\"x\" of times= is no number."},
+        {"/get-token missing-key=data.", "\"data.\" of missing-key has an empty step."},
+        {"/get-token wrong-type=.data", "\".data\" of wrong-type has an empty step."},
+        {"/get-token wrong-type=data..0", "\"data..0\" of wrong-type has an empty step."},
+        {"/get-token extra=100000001", "\"extra\" takes at most 100000000."},
+        {"/get-token deep=1000000000000", "\"deep\" takes at most 100000000."},
+        {"/get-token gzip-bomb=1000000000000", "\"gzip-bomb\" takes at most 100000000."},
+        {"/get-token latency=86400001", "\"latency\" takes at most 86400000."},
+        {"/get-token trickle=18446744073709551615", "\"trickle\" takes at most 86400000."},
     };
     for (const auto& [text, complaint] : wrong) {
         try {
