@@ -71,7 +71,7 @@ Json faultsJson(const std::vector<FaultPlan::Entry>& entries) {
         list.push_back({{"fault", entry.fault.written},
                         {"scenario", entry.fault.scenario},
                         {"met", entry.met()},
-                        {"isOver", entry.met() == entry.fault.times}});
+                        {"isOver", entry.isOver()}});
     return list;
 }
 

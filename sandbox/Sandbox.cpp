@@ -41,6 +41,17 @@ std::vector<Fault> faultsOf(const Scenario& scenario) {
     return faults;
 }
 
+/// On what terms all of them together price offers; of several the last counts.
+Terms termsOf(const std::vector<std::string>& names) {
+    Terms terms;
+    for (const std::string& name : names) {
+        const Scenario& scenario = scenarioNamed(name);
+        if (scenario.farePercent) terms.farePercent = scenario.farePercent;
+        if (scenario.holds) terms.holds = *scenario.holds;
+    }
+    return terms;
+}
+
 /// The path as faults name it: without the prefix of the service.
 std::string_view faultPath(std::string_view path) {
     return path.substr(0, pathPrefix.size()) == pathPrefix ? path.substr(pathPrefix.size()) : path;
@@ -68,7 +79,7 @@ bool tellsStatus(DeliveryPlan::Manner manner) {
 } // namespace
 
 Sandbox::Sandbox(Options options) : options_(std::move(options)), faults_(std::make_unique<FaultPlan>()) {
-    setFaults(options_.faults);
+    play(options_.scenarios, options_.faults);
 }
 
 Sandbox::~Sandbox() { stop(); }
@@ -90,14 +101,20 @@ void Sandbox::start() {
             return answer(request, isFirst, connection);
         });
     address_ = fmt::format("https://localhost:{}", server_->port());
-    service_ = std::make_unique<Service>(options_, address_);
-    if (!options_.scenarios.empty()) play(options_.scenarios, options_.faults);
+    {
+        const std::lock_guard lock(playing_);
+        service_ = std::make_unique<Service>(options_, address_);
+        service_->setTerms(termsOf(scenarios_));
+    }
     ready.set_value();
 }
 
 void Sandbox::stop() {
     server_.reset();
-    service_.reset();
+    {
+        const std::lock_guard lock(playing_);
+        service_.reset();
+    }
     address_.clear();
     if (!temporaryFolder_.empty()) {
         std::error_code ignored;
@@ -108,20 +125,15 @@ void Sandbox::stop() {
 
 void Sandbox::play(const std::vector<std::string>& scenarios, const std::vector<std::string>& faults) {
     std::vector<Fault> all;
-    Terms terms;
-    for (const std::string& name : scenarios) {
-        const Scenario& scenario = scenarioNamed(name);
-        for (Fault& fault : faultsOf(scenario))
+    for (const std::string& name : scenarios)
+        for (Fault& fault : faultsOf(scenarioNamed(name)))
             all.push_back(std::move(fault));
-        if (scenario.farePercent) terms.farePercent = scenario.farePercent;
-        if (scenario.holds) terms.holds = *scenario.holds;
-    }
     for (Fault& fault : parsed(faults))
         all.push_back(std::move(fault));
     const std::lock_guard lock(playing_);
     scenarios_ = scenarios;
     faults_->replace(std::move(all));
-    if (service_) service_->setTerms(terms);
+    if (service_) service_->setTerms(termsOf(scenarios_));
 }
 
 void Sandbox::advanceClock(std::chrono::seconds time) {
@@ -141,13 +153,19 @@ bool Sandbox::answer(const HttpRequest& request, bool isFirst, TlsConnection& co
     }
     const auto arrived = std::chrono::steady_clock::now();
     const std::size_t number = log_.record(request);
+    std::vector<Fault> later; // what the reservation, once it is made, brings about
     if (faultPath(request.path) == "/reservation") {
-        if (const Scenario* scenario = scenarioOfTravellers(request.body)) faults_->add(faultsOf(*scenario));
+        if (const Scenario* scenario = scenarioOfTravellers(request.body)) later = faultsOf(*scenario);
+        const auto own = std::stable_partition(
+            later.begin(), later.end(), [](const Fault& fault) { return fault.path != "/reservation"; });
+        faults_->add({own, later.end()});
+        later.erase(own, later.end());
     }
     const std::vector<Fault> faults = faults_->due(faultPath(request.path));
     const bool isPrevented = std::any_of(
         faults.begin(), faults.end(), [](const Fault& fault) { return preventsTheOperation(fault.kind); });
     HttpAnswer reply = isPrevented ? HttpAnswer{} : service_->answer(request);
+    if (!isPrevented && reply.refusal.empty()) faults_->add(std::move(later));
     for (const Fault& fault : faults)
         reply = withFault(std::move(reply), fault);
     DeliveryPlan plan = planDelivery(faults);

@@ -21,7 +21,7 @@ class TlsConnection;
 /// Every operation may be called from any thread, but `start` and `stop` not at the same time.
 class Sandbox {
 public:
-    /// Throws `std::invalid_argument` for a fault that does not read.
+    /// Throws `std::invalid_argument` for a fault that does not read, and for a scenario that there is not.
     explicit Sandbox(Options options = {});
     ~Sandbox();
     Sandbox(const Sandbox&) = delete;
@@ -31,7 +31,8 @@ public:
     /// port is taken or the file cannot be written.
     void start();
 
-    /// Ends every connection and takes the temporary folder away. A second call does nothing.
+    /// Ends every connection and takes the temporary folder away; faults and scenarios stay in force for
+    /// another start. A second call does nothing.
     void stop();
 
     /// "https://localhost:PORT"; empty before the start.
@@ -45,7 +46,8 @@ public:
     /// How many connections and requests there were.
     [[nodiscard]] Counters counters() const { return log_.counters(); }
 
-    /// What customers meet from here on, in place of all faults and scenarios before. Throws
+    /// What customers meet from here on, in place of all faults and scenarios before; before the start, from
+    /// the start on. Throws
     /// `std::invalid_argument` and changes nothing where a scenario has no such name or a fault does not
     /// read.
     void play(const std::vector<std::string>& scenarios, const std::vector<std::string>& faults);

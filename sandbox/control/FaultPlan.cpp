@@ -14,8 +14,13 @@ void FaultPlan::replace(std::vector<Fault> faults) {
 
 void FaultPlan::add(std::vector<Fault> faults) {
     const std::lock_guard lock(mutex_);
-    for (Fault& fault : faults)
-        entries_.push_back({std::move(fault)});
+    for (Fault& fault : faults) {
+        const bool isInForce = std::any_of(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+            return entry.fault.scenario == fault.scenario && entry.fault.written == fault.written &&
+                   !entry.isOver();
+        });
+        if (!isInForce) entries_.push_back({std::move(fault)});
+    }
 }
 
 std::vector<Fault> FaultPlan::due(std::string_view path) {

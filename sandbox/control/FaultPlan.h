@@ -15,7 +15,7 @@ public:
     /// Replaces all faults and forgets what was counted.
     void replace(std::vector<Fault> faults);
 
-    /// More faults, beside those in force.
+    /// More faults, beside those in force. One of a scenario that is in force already is not added again.
     void add(std::vector<Fault> faults);
 
     /// The faults that a request of that path meets, in the order in which they were given; counts the
@@ -29,6 +29,8 @@ public:
 
         /// How many of them it has met.
         [[nodiscard]] std::size_t met() const;
+        /// Whether it meets no request any more.
+        [[nodiscard]] bool isOver() const { return met() == fault.times; }
     };
 
     /// All faults, also those that are over, in the order in which they were given.

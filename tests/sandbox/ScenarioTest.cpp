@@ -1,6 +1,8 @@
 #include "sandbox/control/Scenarios.h"
 #include "tests/sandbox/BookingFixture.h"
 
+#include <cmath>
+
 namespace ombrivane::sandbox {
 namespace {
 
@@ -34,6 +36,34 @@ TEST_F(ScenarioTest, EachBringsAboutWhatItSays) {
     EXPECT_EQ(priced(offer), offered) << "nothing changes where one does not exist";
 }
 
+TEST_F(ScenarioTest, BeforeTheStartHoldAfterItAsWell) {
+    // Options and `play` alike; whoever starts again meets what was in force.
+    Options options = frozenOptions();
+    options.scenarios = {"cheaper"};
+    const auto percent = [](ServiceClient& client) {
+        const Json offer = client.post("/search-flights", searchBody("KTM", "DOH")).at("data").at(0);
+        const Json priced = client.post(
+            "/availability", {{"user_type", "customer"}, {"itinerary_type", "oneway"}, {"itinerary", offer}});
+        const auto offered = offer.at("fare_information").at("total_cost").get<double>();
+        return std::lround(100 * priced.at("data").at("fareInformation").at("total_cost").get<double>() /
+                           offered);
+    };
+    ServiceClient client(options);
+    EXPECT_EQ(percent(client), 93);
+    client.sandbox().stop();
+    client.sandbox().setScenarios({"dearer"});
+    client.sandbox().start();
+    client.renewToken();
+    EXPECT_EQ(percent(client), 107);
+    client.sandbox().stop();
+    client.sandbox().start();
+    client.renewToken();
+    EXPECT_EQ(percent(client), 107);
+
+    options.scenarios = {"unheard-of"};
+    EXPECT_THROW(Sandbox{options}, std::invalid_argument);
+}
+
 TEST_F(ScenarioTest, APriceThatIsHeldForAMinuteIsNotReservedAfterIt) {
     play({"expires-soon"});
     const Json opened = openFamilyBooking();
@@ -51,6 +81,20 @@ TEST_F(ScenarioTest, ASurnameBringsItAboutForItsBookingAlone) {
         EXPECT_EQ(reserve(opened, passengers).at("success"), false) << surname;
         EXPECT_EQ(reserve(opened, family()).at("success"), true) << surname;
     }
+    const auto inForce = [this] { return client_.send({"GET", "/sandbox/faults", {}, ""}).body(); };
+    const std::string before = inForce();
+    Json lost = family();
+    lost[1]["last_name"] = "Documents Lost";
+    lost[0]["document_type"] = "diary";
+    EXPECT_EQ(reserve(openFamilyBooking(), lost).at("success"), false);
+    EXPECT_EQ(inForce(), before) << "a reservation that is refused arms nothing for later";
+    lost[0]["document_type"] = "passport";
+    EXPECT_EQ(reserve(openFamilyBooking(), lost).at("success"), true);
+    const std::string armed = inForce();
+    EXPECT_NE(armed, before);
+    EXPECT_EQ(reserve(openFamilyBooking(), lost).at("success"), true);
+    EXPECT_EQ(inForce(), armed) << "what is armed is not armed twice";
+
     Json sold = family();
     sold[0]["last_name"] = "Soldout"; // happens before there is a traveller
     EXPECT_EQ(reserve(openFamilyBooking(), sold).at("success"), true);

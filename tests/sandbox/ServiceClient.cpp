@@ -8,6 +8,10 @@ namespace ombrivane::sandbox {
 
 ServiceClient::ServiceClient(Options options) : sandbox_(std::move(options)) {
     sandbox_.start();
+    renewToken();
+}
+
+void ServiceClient::renewToken() {
     const Json answer = post(
         "/get-token", {{"user_type", "customer"}, {"username", "wallet"}, {"password", "wallet-secret"}});
     token_ = answer.at("data").at("accessToken").get<std::string>();

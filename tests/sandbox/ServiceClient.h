@@ -14,6 +14,9 @@ public:
     /// Starts a sandbox of its own and gets a token.
     explicit ServiceClient(Options options = {});
 
+    /// Gets another token, as after another start.
+    void renewToken();
+
     /// The whole answer to a JSON request of the service.
     Json post(const std::string& path, const Json& body);
     Json get(const std::string& path);
