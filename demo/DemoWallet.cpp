@@ -48,7 +48,7 @@ DemoWallet::DemoWallet(DemoOptions options, sandbox::Sandbox* service) :
     started_.start();
     setFaultHandler([this](const std::string& text) {
         faulted_ = true;
-        log_.event(Json{{"event", "fault"}, {"text", text}});
+        log_->event(Json{{"event", "fault"}, {"text", text}});
     });
     installPlatform();
     makeWindow();
@@ -150,12 +150,12 @@ QLocale DemoWallet::locale() const {
 void DemoWallet::listen() {
     session_->setCallback([this](auto dictionary, auto error) { receive(dictionary, error); });
     QObject::connect(session_, &view::OmbrivaneSession::closed, window_, [this] {
-        if (!options_.script.empty()) log_.event(Json{{"event", "closed"}});
+        if (!options_.script.empty()) log_->event(Json{{"event", "closed"}});
         QMetaObject::invokeMethod(window_, "closeComponent");
     });
     QObject::connect(&account_, &WalletAccount::kept, window_, [this](const QString& number) {
         if (!options_.script.empty())
-            log_.event(Json{{"event", "reservation"}, {"PNR", number.toStdString()}});
+            log_->event(Json{{"event", "reservation"}, {"PNR", number.toStdString()}});
     });
     QObject::connect(&conditions_, &Conditions::changed, window_, [this] { follow(); });
     QObject::connect(&conditions_, &Conditions::turned, window_, [this] {
@@ -173,7 +173,7 @@ void DemoWallet::receive(const std::optional<Dictionary>& dictionary, const std:
     Json event =
         journey::callbackEvent(dictionary ? std::optional(withoutToken(*dictionary)) : std::nullopt, error);
     event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
-    log_.event(std::move(event));
+    log_->event(std::move(event));
 }
 
 Navigator* DemoWallet::watched() {
@@ -193,7 +193,7 @@ journey::Stage DemoWallet::stage() {
         .destroy = [this] { QMetaObject::invokeMethod(window_, "closeComponent"); },
         .navigator = [this] { return watched(); },
         .faulted = [this] { return faulted_.load(); },
-        .log = log_,
+        .log = *log_,
         .clock = *clock_,
         .reachability = *scripted_,
         .photos = *photos_,
@@ -210,7 +210,7 @@ int DemoWallet::play(std::istream& lines) {
     QMetaObject::invokeMethod(window_, "openComponent");
     journey::Script script(stage());
     script.addCommand("texts", [this](const std::string&) {
-        log_.answer(Json{{"texts", visibleTexts(*window_)}});
+        log_->answer(Json{{"texts", visibleTexts(*window_)}});
     });
     script.addCommand("picture", [this](const std::string& file) { writePicture(file); });
     script.addCommand(
@@ -218,7 +218,7 @@ int DemoWallet::play(std::istream& lines) {
     script.addCommand("click", [this](const std::string& name) { click(name); });
     script.addCommand("faults", [this](const std::string& fault) { setFaults(fault); });
     script.addCommand("figures", [this](const std::string&) {
-        log_.answer(Json{{"figures", figures_->json()}});
+        log_->answer(Json{{"figures", figures_->json()}});
     });
     return static_cast<int>(script.play(lines));
 }
@@ -256,7 +256,7 @@ void DemoWallet::writePicture(const std::string& file) {
     // Pictures from addresses and slides arrive within this time.
     PagePlayer::runUntil([] { return false; }, std::chrono::milliseconds(options_.stillMotion ? 150 : 400));
     const bool written = lightened(window_->grabWindow()).save(QString::fromStdString(file));
-    log_.answer(Json{{"picture", file}, {"written", written}});
+    log_->answer(Json{{"picture", file}, {"written", written}});
 }
 
 int DemoWallet::takePicture(const std::string& file) {

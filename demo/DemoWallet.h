@@ -68,7 +68,7 @@ private:
     sandbox::Sandbox* service_;
     std::thread::id mainThread_ = std::this_thread::get_id();
     std::shared_ptr<view::QtMainQueue> queue_ = std::make_shared<view::QtMainQueue>();
-    journey::EventLog log_{[] {}};
+    std::shared_ptr<journey::EventLog> log_ = std::make_shared<journey::EventLog>([] {});
     std::shared_ptr<AdjustableClock> clock_ = std::make_shared<AdjustableClock>();
     std::shared_ptr<journey::ScriptedReachability> scripted_ =
         std::make_shared<journey::ScriptedReachability>();

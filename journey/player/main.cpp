@@ -28,7 +28,7 @@ public:
     explicit Wallet(const Options& options) : options_(options) {
         setFaultHandler([this](const std::string& text) {
             faulted_ = true;
-            log_.event(Json{{"event", "fault"}, {"text", text}});
+            log_->event(Json{{"event", "fault"}, {"text", text}});
         });
         installPlatform();
         auto hosts = ServiceHosts::current();
@@ -37,7 +37,7 @@ public:
         ServiceHosts::use(hosts);
         receipts_ = Reservations::shared().observe([this] {
             while (const auto reserved = Reservations::shared().take()) {
-                log_.event(
+                log_->event(
                     Json{{"event", "reservation"}, {"PNR", reserved->at("bookingSummary").value("PNR", "")}});
             }
         });
@@ -92,7 +92,7 @@ private:
             .restore = [this](const auto& state) { open(state); },
             .navigator = [this] { return view_ ? view_->navigator() : nullptr; },
             .faulted = [this] { return faulted_.load(); },
-            .log = log_,
+            .log = *log_,
             .clock = *clock_,
             .reachability = *reachability_,
             .photos = *photos_,
@@ -117,7 +117,7 @@ private:
             options_.environment,
             [this](auto dictionary, auto error) { receive(dictionary, error); });
         const auto close = [this] {
-            log_.event(Json{{"event", "closed"}});
+            log_->event(Json{{"event", "closed"}});
             drop();
         };
         view_->onClose(close, close);
@@ -130,13 +130,13 @@ private:
     void receive(const std::optional<Dictionary>& dictionary, const std::optional<Error>& error) {
         Json event = callbackEvent(dictionary, error);
         event["thread"] = std::this_thread::get_id() == mainThread_ ? "main" : "network";
-        log_.event(std::move(event));
+        log_->event(std::move(event));
     }
 
     Options options_;
     std::thread::id mainThread_ = std::this_thread::get_id();
     std::shared_ptr<RunLoop> loop_ = std::make_shared<RunLoop>();
-    EventLog log_{[loop = loop_] { loop->async([] {}); }};
+    std::shared_ptr<EventLog> log_ = std::make_shared<EventLog>([loop = loop_] { loop->async([] {}); });
     std::shared_ptr<AdjustableClock> clock_ = std::make_shared<AdjustableClock>();
     std::shared_ptr<ScriptedReachability> reachability_ = std::make_shared<ScriptedReachability>();
     std::shared_ptr<ScriptedPhotos> photos_ = std::make_shared<ScriptedPhotos>();

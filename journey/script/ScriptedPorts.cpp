@@ -4,11 +4,11 @@ namespace ombrivane::journey {
 
 void ReportedDiagnostics::callFailed(const FailedCall& call) {
     print(call.line());
-    log_.event(Json{{"event", "failed-call"},
-                    {"endpoint", call.endpoint},
-                    {"domain", call.domain},
-                    {"code", call.code},
-                    {"developer", call.developerText}});
+    log_->event(Json{{"event", "failed-call"},
+                     {"endpoint", call.endpoint},
+                     {"domain", call.domain},
+                     {"code", call.code},
+                     {"developer", call.developerText}});
 }
 
 std::optional<std::uint32_t> ScriptedReachability::flags(const std::string& host) {
@@ -17,7 +17,7 @@ std::optional<std::uint32_t> ScriptedReachability::flags(const std::string& host
 }
 
 void ScriptedPhotos::present(Handler handler) {
-    open_ = std::move(handler);
+    open_ = std::make_shared<const Handler>(std::move(handler));
     answer();
 }
 
@@ -28,7 +28,9 @@ void ScriptedPhotos::pick(Picked picked) {
 
 void ScriptedPhotos::answer() {
     if (!open_ || answers_.empty()) return;
-    mainQueue().async([handler = open_, picked = answers_.front()] { handler(picked); });
+    mainQueue().async([open = std::weak_ptr(open_), picked = answers_.front()] {
+        if (const auto handler = open.lock()) (*handler)(picked);
+    });
     answers_.pop_front();
 }
 

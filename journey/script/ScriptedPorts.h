@@ -6,8 +6,10 @@
 
 #include <atomic>
 #include <deque>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace ombrivane::journey {
 
@@ -29,23 +31,23 @@ private:
 class ScriptedPhotos final : public PhotoLibrary {
 public:
     void present(Handler handler) override;
-    void dismiss() override { open_ = nullptr; }
+    void dismiss() override { open_.reset(); }
     /// The next answer of the picker. Main thread.
     void pick(Picked picked);
 
 private:
     void answer();
 
-    Handler open_;
+    std::shared_ptr<const Handler> open_; ///< what is on its way to it is told only while it is
     std::deque<Picked> answers_;
 };
 
 /// Reports the calls that failed, and prints every line where it is asked to.
 class ReportedDiagnostics final : public Diagnostics {
 public:
-    /// @param log outlives this; hears of each call that failed
+    /// @param log hears of each call that failed
     /// @param prints whether each line is printed as well
-    ReportedDiagnostics(EventLog& log, bool prints) : log_(log), prints_(prints) {}
+    ReportedDiagnostics(std::shared_ptr<EventLog> log, bool prints) : log_(std::move(log)), prints_(prints) {}
 
     void print(std::string_view line) override {
         if (prints_) printed_.print(line);
@@ -53,7 +55,7 @@ public:
     void callFailed(const FailedCall& call) override;
 
 private:
-    EventLog& log_;
+    std::shared_ptr<EventLog> log_;
     bool prints_;
     PrintedDiagnostics printed_;
 };
@@ -61,23 +63,25 @@ private:
 /// Reports what the component opens.
 class ReportedUrls final : public UrlOpener {
 public:
-    /// @param log outlives this; hears of each address
-    explicit ReportedUrls(EventLog& log) : log_(log) {}
-    void openUrl(const std::string& url) override { log_.event(Json{{"event", "opened-url"}, {"url", url}}); }
+    /// @param log hears of each address
+    explicit ReportedUrls(std::shared_ptr<EventLog> log) : log_(std::move(log)) {}
+    void openUrl(const std::string& url) override {
+        log_->event(Json{{"event", "opened-url"}, {"url", url}});
+    }
 
 private:
-    EventLog& log_;
+    std::shared_ptr<EventLog> log_;
 };
 
 /// Reports what the component shares.
 class ReportedSharing final : public ShareSheet {
 public:
-    /// @param log outlives this; hears of each address
-    explicit ReportedSharing(EventLog& log) : log_(log) {}
-    void share(const std::string& url) override { log_.event(Json{{"event", "shared"}, {"url", url}}); }
+    /// @param log hears of each address
+    explicit ReportedSharing(std::shared_ptr<EventLog> log) : log_(std::move(log)) {}
+    void share(const std::string& url) override { log_->event(Json{{"event", "shared"}, {"url", url}}); }
 
 private:
-    EventLog& log_;
+    std::shared_ptr<EventLog> log_;
 };
 
 } // namespace ombrivane::journey

@@ -24,17 +24,23 @@ PagePlayer::PagePlayer(Platform ports) {
     Platform::install(std::move(ports));
 }
 
+PagePlayer::~PagePlayer() {
+    Platform::endNetwork();
+    runUntil([] { return false; }, std::chrono::milliseconds(0)); // steps that its ending has left
+    Platform::install({});
+}
+
 CompletionCallback PagePlayer::heardBy(CompletionCallback wallet) {
-    return [this, wallet = std::move(wallet)](auto dictionary, auto error) {
+    return [log = log_, wallet = std::move(wallet)](auto dictionary, auto error) {
         Json event = journey::callbackEvent(dictionary, error);
         if (wallet) wallet(std::move(dictionary), std::move(error));
-        log_.event(std::move(event));
+        log->event(std::move(event));
     };
 }
 
 journey::Ending PagePlayer::play(std::istream& lines, view::OmbrivaneSession& session) {
     const auto closing = QObject::connect(&session, &view::OmbrivaneSession::closed, &session, [this] {
-        log_.event(Json{{"event", "closed"}});
+        log_->event(Json{{"event", "closed"}});
     });
     auto& queue = dynamic_cast<view::QtMainQueue&>(mainQueue());
     const auto ending = journey::Script({
@@ -42,9 +48,15 @@ journey::Ending PagePlayer::play(std::istream& lines, view::OmbrivaneSession& se
                                             .advance = [&queue](auto duration) { queue.advance(duration); },
                                             .open = [&session] { session.open(); },
                                             .destroy = [&session] { session.drop(); },
+                                            .restore =
+                                                [&session](const std::string& state) {
+                                                    session.drop();
+                                                    session.restoreState(QString::fromStdString(state));
+                                                    session.open();
+                                                },
                                             .navigator = [&session] { return session.navigator(); },
                                             .faulted = [] { return false; }, // a fault ends the process
-                                            .log = log_,
+                                            .log = *log_,
                                             .clock = *clock_,
                                             .reachability = *reachability_,
                                             .photos = *photos_,

@@ -22,7 +22,7 @@ public:
     WalkPorts& operator=(const WalkPorts&) = delete;
     ~WalkPorts();
 
-    journey::EventLog log{[] {}};
+    std::shared_ptr<journey::EventLog> log = std::make_shared<journey::EventLog>([] {});
     std::shared_ptr<AdjustableClock> clock = std::make_shared<AdjustableClock>();
     std::shared_ptr<journey::ScriptedPhotos> photos = std::make_shared<journey::ScriptedPhotos>();
     std::shared_ptr<journey::ScriptedReachability> reachability =
