@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <exception>
 #include <future>
 #include <thread>
 
@@ -33,14 +34,26 @@ Findings checkReachability(const std::shared_ptr<ReachabilityMeasure>& reachabil
         using Flags = std::optional<std::uint32_t>;
         // One that never answers is left behind on its thread, which holds the port.
         auto answer = std::make_shared<std::promise<Flags>>();
-        std::thread([reachability, answer, host] { answer->set_value(reachability->flags(host)); }).detach();
+        std::thread([reachability, answer, host] {
+            try {
+                answer->set_value(reachability->flags(host));
+            } catch (...) {
+                answer->set_exception(std::current_exception());
+            }
+        }).detach();
         auto flags = answer->get_future();
         const std::string asked = std::string("flags(\"") + host + "\"): ";
         if (flags.wait_for(std::chrono::seconds(3)) != std::future_status::ready) {
             findings.push_back(asked + "has not answered within three seconds");
             break; // it would not for the next one either
         }
-        const Flags word = flags.get();
+        Flags word;
+        try {
+            word = flags.get();
+        } catch (const std::exception& failure) {
+            findings.push_back(asked + "throws \"" + failure.what() + "\"");
+            continue;
+        }
         if (!word)
             findings.push_back(asked + "gives no flag word; the component takes that for no connection");
         else if ((*word & reachableFlag) == 0)

@@ -73,10 +73,20 @@ Findings checkPhotoLibrary(const std::shared_ptr<PhotoLibrary>& photos, const Ph
     }
     photos->dismiss();
     expect(again.use_count() == 1, "dismiss: the handler is not let go");
-    const std::size_t before = second.came.size();
+
+    const auto leaving = std::make_shared<Answers>();
+    photos->present(leaving->handler(main));
+    customer.picks();
+    photos->dismiss();
+    const std::size_t told = leaving->came.size();
+    runUntil([] { return false; }, afterwards);
+    expect(leaving->came.size() == told, "dismiss: an answer that is on its way is told after it");
+
+    const auto toldOfBoth = [&] { return second.came.size() + leaving->came.size(); };
+    const std::size_t before = toldOfBoth();
     customer.picks();
     runUntil([] { return false; }, afterwards);
-    expect(second.came.size() == before, "dismiss: the handler is called after it");
+    expect(toldOfBoth() == before, "dismiss: the handler is called after it");
     return findings;
 }
 

@@ -183,6 +183,12 @@ struct WrongReachability final : ReachabilityMeasure {
     std::optional<std::uint32_t> word;
 };
 
+struct ThrowingReachability final : ReachabilityMeasure {
+    std::optional<std::uint32_t> flags(const std::string& /*host*/) override {
+        throw std::runtime_error("no radio");
+    }
+};
+
 /// Never says anything, until it is let go.
 struct SilentReachability final : ReachabilityMeasure {
     std::optional<std::uint32_t> flags(const std::string& /*host*/) override {
@@ -227,6 +233,8 @@ TEST(PortContractTest, FindsWhatADeviceTellsOtherwise) {
     EXPECT_TRUE(tells(reachability(std::nullopt), "flags(\"localhost\"): gives no flag word"));
     EXPECT_TRUE(tells(reachability(0), "flags(\"::1\"): finds no way"));
     EXPECT_TRUE(tells(reachability(6), "flags(\"127.0.0.1\"): wants a connection"));
+    EXPECT_TRUE(tells(checkReachability(std::make_shared<ThrowingReachability>()),
+                      "flags(\"localhost\"): throws \"no radio\""));
     const auto silent = std::make_shared<SilentReachability>();
     EXPECT_EQ(checkReachability(silent),
               Findings{"flags(\"localhost\"): has not answered within three seconds"});
@@ -243,12 +251,13 @@ TEST(PortContractTest, FindsWhatADeviceTellsOtherwise) {
 
 /// Passes requests on to a network of ours, and does one thing otherwise than it promises.
 struct WrongNetwork final : Network {
-    enum class Fault { answersTwice, sendsTwice, answersInside };
+    enum class Fault { answersTwice, sendsTwice, answersInside, sendsNothing };
     WrongNetwork(Fault which, const std::string& caFile) :
         fault(which), own(CurlSettings{.caFile = caFile}) {}
 
     void send(HttpRequest request, HttpCompletion completion) override {
         if (fault == Fault::answersInside) return completion({.error = Error{}});
+        if (fault == Fault::sendsNothing) return;
         if (fault == Fault::sendsTwice) own.send(request, [](HttpAnswer) {});
         own.send(std::move(request), [this, completion](const HttpAnswer& answer) {
             completion(answer);
@@ -267,12 +276,18 @@ TEST(PortContractTest, FindsWhatANetworkDoesOtherwise) {
         {Fault::answersTwice, "send: a completion is called more than once"},
         {Fault::sendsTwice, "send: a request does not reach the service once"},
         {Fault::answersInside, "send: the completion is called inside of the call"},
+        {Fault::sendsNothing, "send: a request is not answered"},
+        {Fault::sendsNothing, "destruction: what is under way is not answered once"},
     };
+    std::map<Fault, Findings> found;
     for (const auto& [fault, sentence] : table) {
-        const auto findings = checkNetwork([which = fault](const std::string& caFile) {
-            return std::make_shared<WrongNetwork>(which, caFile);
-        });
-        EXPECT_TRUE(tells(findings, sentence)) << sentence << "\n" << testing::PrintToString(findings);
+        if (found.count(fault) == 0) {
+            found[fault] = checkNetwork([which = fault](const std::string& caFile) {
+                return std::make_shared<WrongNetwork>(which, caFile);
+            });
+        }
+        EXPECT_TRUE(tells(found[fault], sentence)) << sentence << "\n"
+                                                   << testing::PrintToString(found[fault]);
     }
 }
 
