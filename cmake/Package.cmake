@@ -17,7 +17,8 @@ file(RELATIVE_PATH from_pkgconfig_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /
 configure_file(${CMAKE_CURRENT_LIST_DIR}/ombrivane-core.pc.in ${PROJECT_BINARY_DIR}/ombrivane-core.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/ombrivane-core.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 include(Sbom)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs FILES_MATCHING PATTERN *.md)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs 
+    FILES_MATCHING PATTERN *.md PATTERN pictures/*.png)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/contract)
@@ -47,5 +48,5 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS 
     "qt6-declarative-dev, qt6-svg-dev, qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-dialogs, \
 qml6-module-qtquick-layouts, qml6-module-qtquick-shapes, qml6-module-qtquick-templates, qml6-module-qtquick-window, \
-qml6-module-qtqml-models, qml6-module-qtqml-workerscript, zlib1g-dev")
+qml6-module-qtqml-models, qml6-module-qtqml-workerscript, qml6-module-qt-labs-folderlistmodel, zlib1g-dev")
 include(CPack)

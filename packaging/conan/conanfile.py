@@ -20,7 +20,7 @@ class Ombrivane(ConanFile):
         "libcurl/[>=7.87 <9]",
         "fmt/[>=9 <11]",
         "icu/[>=72 <76]",
-        "libjpeg/9e",
+        "libjpeg-turbo/[>=2.1 <4]",
         "libpng/[>=1.6 <2]",
         "nlohmann_json/[>=3.11 <4]",
         "openssl/[>=3 <4]",
@@ -31,11 +31,14 @@ class Ombrivane(ConanFile):
         if self.options.kit:
             self.requires("zlib/[>=1.2.13 <2]")
 
+    def build_requirements(self):
+        self.tool_requires("gettext/[>=0.21 <1]")  # msgfmt, which compiles the translations
+
     def export_sources(self):
         tree = os.path.join(self.recipe_folder, "..", "..")
         for pattern in ("CMakeLists.txt", "LICENSE", "*.md"):
             copy(self, pattern, tree, self.export_sources_folder, excludes=("*/*",))
-        for folder in ("cmake", "contract", "journey", "kit", "resources", "sandbox", "src", "view", "demo"):
+        for folder in ("cmake", "contract", "docs", "examples", "journey", "kit", "resources", "sandbox", "src", "view", "demo"):
             copy(self, f"{folder}/*", tree, self.export_sources_folder)
 
     def generate(self):
