@@ -1,5 +1,7 @@
 #include "DemoOptions.h"
 
+#include "base/Date.h"
+
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -29,6 +31,12 @@ int whole(const std::string& text, int least, int most) {
     return static_cast<int>(number(text, least, most));
 }
 
+/// `text`, where it is a time.
+std::string time(const std::string& text) {
+    if (!parseIso(text)) throw std::invalid_argument(text + " is no time such as 2026-11-21T03:30:00Z");
+    return text;
+}
+
 void checkScript(const std::string& script) {
     if (script.empty() || script == "-" || std::filesystem::is_regular_file(script)) return;
     throw std::invalid_argument("there is no script " + script);
@@ -51,7 +59,7 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
         {"--scenario", [&](Value value) { options.scenarios.push_back(value); }},
         {"--brand", [&](Value value) { options.brand = whole(value, 0, brands) - 1; }},
-        {"--now", [&](Value value) { options.now = value; }},
+        {"--now", [&](Value value) { options.now = time(value); }},
         {"--locale", [&](Value value) { options.locale = value; }},
         {"--language", [&](Value value) { options.language = value; }},
         {"--region", [&](Value value) { options.region = value; }},

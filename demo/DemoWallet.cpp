@@ -256,14 +256,20 @@ void DemoWallet::writePicture(const std::string& file) {
     // Pictures from addresses and slides arrive within this time.
     PagePlayer::runUntil([] { return false; }, std::chrono::milliseconds(options_.stillMotion ? 150 : 400));
     const bool written = lightened(window_->grabWindow()).save(QString::fromStdString(file));
-    log_->answer(Json{{"picture", file}, {"written", written}});
+    if (!written) throw std::runtime_error("there is no writing to " + file);
+    log_->answer(Json{{"picture", file}});
 }
 
 int DemoWallet::takePicture(const std::string& file) {
     QMetaObject::invokeMethod(window_, "openComponent");
     if (!PagePlayer::runUntil([this] { return hasSearch(); }, std::chrono::seconds(10)))
         return static_cast<int>(Ending::expectationFailed);
-    writePicture(file);
+    try {
+        writePicture(file);
+    } catch (const std::runtime_error& failure) {
+        log_->answer(Json{{"failed", failure.what()}});
+        return static_cast<int>(Ending::badLine);
+    }
     return 0;
 }
 

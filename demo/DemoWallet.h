@@ -44,7 +44,8 @@ public:
     int playScript();
     /// The same for its lines.
     int play(std::istream& lines);
-    /// Opens the component, waits for its first screen and writes a picture of it. @return the exit status
+    /// Opens the component, waits for its first screen and writes a picture of it. @return the exit status,
+    /// that of a bad line where the picture cannot be written
     int takePicture(const std::string& file);
 
 private:
@@ -58,6 +59,7 @@ private:
     /// The stack that a script works on; whoever watches has seen its topmost screen.
     Navigator* watched();
     bool hasSearch() const;
+    /// @throws std::runtime_error where it cannot be written
     void writePicture(const std::string& file);
     void click(const std::string& name);
     void setFaults(const std::string& fault);

@@ -66,6 +66,7 @@ TEST_F(DemoTest, WhatCannotBeUsedIsSaidBeforeAnyWindow) {
                                                       {"--height", "0"},
                                                       {"--brand", "4"},
                                                       {"--now"},
+                                                      {"--now", "tomorrow"},
                                                       {"--nonsense"}};
     for (const auto& line : lines) {
         try {
@@ -75,6 +76,13 @@ TEST_F(DemoTest, WhatCannotBeUsedIsSaidBeforeAnyWindow) {
             EXPECT_NE(std::string(bad.what()).find(line.back()), std::string::npos) << bad.what();
         }
     }
+}
+
+TEST_F(DemoTest, APictureThatCannotBeWrittenEndsTheScript) {
+    play("show\n");
+    std::istringstream script("picture no/such/folder/a.png\n");
+    EXPECT_EQ(wallet->play(script), static_cast<int>(journey::Ending::badLine));
+    EXPECT_EQ(wallet->takePicture("no/such/folder/a.png"), static_cast<int>(journey::Ending::badLine));
 }
 
 TEST_F(DemoTest, MayBeClosedAtAnyOfItsFirstFrames) {
