@@ -59,8 +59,12 @@ Flickable {
     contentHeight: inset + column.implicitHeight + 2 * Theme.margin + footCover
     clip: true
     activeFocusOnTab: isRead && contentHeight > height
-    Keys.onPressed: event => event.accepted = isRead && keys.scroll(event.key)
-    ScrollKeys { id: keys; area: area }
+    Keys.onPressed: event => {
+        const place = keys.place(event.key, contentY, 0, Math.max(0, contentHeight - height), height)
+        event.accepted = isRead && !isNaN(place)
+        if (event.accepted) contentY = place
+    }
+    ScrollKeys { id: keys }
 
     function revealFocus() {
         const focused = area.Window.activeFocusItem

@@ -16,7 +16,7 @@ Item {
         title: page.screen.title
         onLeave: page.back()
     }
-    ScrollKeys { id: keys; area: list }
+    ScrollKeys { id: keys }
     ListView {
         id: list
         objectName: "rules"
@@ -33,8 +33,10 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: page.screen.title
         Keys.onPressed: event => {
-            event.accepted = keys.scroll(event.key)
-            if (event.key === Qt.Key_End) positionViewAtEnd() // whose place is not known before
+            const place = keys.place(event.key, contentY, originY, originY + Math.max(0, contentHeight - height), height)
+            event.accepted = !isNaN(place)
+            if (event.key === Qt.Key_End) positionViewAtEnd() // which is not known before
+            else if (event.accepted) contentY = place
         }
         delegate: PlainText {
             id: paragraph
