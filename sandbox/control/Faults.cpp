@@ -31,7 +31,7 @@ std::uint64_t number(std::string_view text, std::string_view whose) {
 /// The largest number of a fault: what an answer is made of is held in memory, and pauses that add up have an
 /// end. What is streamed or cut off may be of any length.
 std::uint64_t largestOf(const FaultForm& form) {
-    constexpr std::uint64_t held = 100'000'000;
+    constexpr std::uint64_t held = 1'000'000'000;
     constexpr std::uint64_t day = 86'400'000;
     if (form.kind == FaultKind::Huge || form.kind == FaultKind::Truncate)
         return std::numeric_limits<std::uint64_t>::max();

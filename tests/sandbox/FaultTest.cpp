@@ -275,9 +275,9 @@ TEST(Faults, ThatDoNotReadAreRefusedWithASentence) {
         {"/get-token missing-key=data.", "\"data.\" of missing-key has an empty step."},
         {"/get-token wrong-type=.data", "\".data\" of wrong-type has an empty step."},
         {"/get-token wrong-type=data..0", "\"data..0\" of wrong-type has an empty step."},
-        {"/get-token extra=100000001", "\"extra\" takes at most 100000000."},
-        {"/get-token deep=1000000000000", "\"deep\" takes at most 100000000."},
-        {"/get-token gzip-bomb=1000000000000", "\"gzip-bomb\" takes at most 100000000."},
+        {"/get-token extra=1000000001", "\"extra\" takes at most 1000000000."},
+        {"/get-token deep=1000000000000", "\"deep\" takes at most 1000000000."},
+        {"/get-token gzip-bomb=1000000000000", "\"gzip-bomb\" takes at most 1000000000."},
         {"/get-token latency=86400001", "\"latency\" takes at most 86400000."},
         {"/get-token trickle=18446744073709551615", "\"trickle\" takes at most 86400000."},
     };
