@@ -12,7 +12,7 @@ namespace ombrivane {
 /// One background thread that runs steps in their order. It starts with the first step.
 class OMBRIVANE_API SerialQueue {
 public:
-    using Step = std::function<void()>;
+    using Step = std::function<void()>; ///< is run once
 
     /// `name` shows in a debugger, as far as the system takes it.
     explicit SerialQueue(std::string name);
