@@ -38,8 +38,14 @@ public:
 
     explicit RulesAndRegulationView(Given given);
 
-    void appear() override { fetch(); }
-    void disappear() override { task_.cancel(); }
+    void appear() override {
+        snackBar_.appear();
+        fetch();
+    }
+    void disappear() override {
+        task_.cancel();
+        snackBar_.disappear();
+    }
 
     Binding<bool> rulesAndRegulationViewIsActive;
     Published<std::string> bookingClass;

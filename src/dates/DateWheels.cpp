@@ -8,8 +8,8 @@
 namespace ombrivane {
 namespace {
 
-/// No document is valid for longer.
-constexpr int yearsAhead = 30;
+/// Of a day without a latest one: beyond what is written into a document that never runs out.
+constexpr int yearsAhead = 100;
 
 DateWheels::Wheel wheel(const std::vector<Day>& days, const char* pattern, int index) {
     DateWheels::Wheel wheel;

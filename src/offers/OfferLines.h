@@ -76,7 +76,7 @@ struct OfferLines {
     bool operator==(const OfferLines&) const = default;
 };
 
-/// The lines of `offer`. A date of another form than "yyyy-MM-dd" is a fault.
+/// The lines of `offer`. A date of another form than "yyyy-MM-dd" stands as it was sent.
 OfferLines linesOf(const FlightSearchOneWay& offer);
 OfferLines linesOf(const FlightSearchRoundTrip& offer);
 

@@ -126,7 +126,7 @@ void DomesticFlightListView::tapReturnTab() {
 void DomesticFlightListView::clearSelection() {
     if (!flightListVM.hasReturnDate) {
         flightListVM.showContinueButton = false;
-        return selection().clear();
+        return selection(showDepartureFlightSegmant).clear();
     }
     if (flightListVM.index == departureTab) {
         flightListVM.showContinueButton = false;

@@ -95,7 +95,7 @@ private:
     Fields unkeyed_;
     Published<bool> noContinueButton_{unkeyed_, "showContinueButton"};
     std::shared_ptr<OneWayFlightListView> oneWayList_ =
-        makeList(flightListVM.filteredOnewayFlights, selection(), Text::resultsDeparting);
+        makeList(flightListVM.filteredOnewayFlights, selection(showDepartureFlightSegmant), Text::resultsDeparting);
     std::shared_ptr<OneWayFlightListView> departureList_ =
         makeList(flightListVM.filteredDepartureFlights, departureSelection(), Text::resultsDeparting);
     std::shared_ptr<OneWayFlightListView> returnList_ =

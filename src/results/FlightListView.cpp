@@ -22,7 +22,7 @@ FlightListView::FlightListView(SearchRequest searchRequest,
     flightListVM(*viewModel) {}
 
 OfferListBindings FlightListView::listBindings() {
-    return {flightListVM.isLoading, flightListVM.scrollToTop, selection(), [this] { return travellers(); }};
+    return {flightListVM.isLoading, flightListVM.scrollToTop, selection(showSegmant), [this] { return travellers(); }};
 }
 
 void FlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {
@@ -64,7 +64,7 @@ bool FlightListView::isNarrowed() const {
 
 void FlightListView::clearSelection() {
     flightListVM.showContinueButton = false;
-    selection().clear();
+    selection(showSegmant).clear();
 }
 
 std::shared_ptr<Screen> FlightListView::makeFilter() {

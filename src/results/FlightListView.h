@@ -13,6 +13,7 @@ public:
     FlightListView(SearchRequest request, CompletionCallback completionCallback);
 
     FlightListViewModel& flightListVM;
+    Published<bool> showSegmant{fields, "showSegmant"};
 
 protected:
     void sendSearch(const FlightQuery& query, bool roundTrip) override;

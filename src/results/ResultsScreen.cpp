@@ -30,20 +30,20 @@ ResultsScreen::ResultsScreen(std::string_view screenName, std::string_view model
     completionCallback_(std::move(completionCallback)),
     errorWords_(errorMessage, message),
     modelModel_(fields, modelKey, model_->fields) {
-    model_->tripType = request_.tripType;
-    model_->departDate = request_.departDate;
-    model_->hasReturnDate = request_.returnDate.has_value();
-    if (request_.returnDate) model_->returnDate = *request_.returnDate;
+    model_->tripType = tripType.get();
+    model_->departDate = departDate.get();
+    model_->hasReturnDate = returnDate->has_value();
+    if (returnDate.get()) model_->returnDate = *returnDate.get();
 }
 
-void ResultsScreen::appear() { search(request_.returnDate.has_value()); }
+void ResultsScreen::appear() { search(returnDate->has_value()); }
 
 void ResultsScreen::search(bool roundTrip) {
     ++searches_;
     clearForSearch();
     model_->startSearch(roundTrip);
     FlightQuery query;
-    query.tripType = roundTrip ? model_->tripType.get() : request_.tripType;
+    query.tripType = roundTrip ? model_->tripType.get() : tripType.get();
     query.departCity = departCityCode;
     query.destCity = destCityCode;
     query.departDate = model_->departDate;
@@ -82,7 +82,7 @@ bool ResultsScreen::takeIn(const std::optional<Error>& error) {
     return false;
 }
 
-OfferSelection ResultsScreen::selection() {
+OfferSelection ResultsScreen::selection(Field<bool>& showSegmant) {
     return {model_->flight,
             model_->showContinueButton,
             model_->displayedSegmentId,

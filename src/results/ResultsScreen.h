@@ -42,10 +42,14 @@ public:
     /// What both kinds of list keep of their search.
     ResultsModel& model() const { return *model_; }
 
+    Published<std::string> tripType{fields, "tripType", request_.tripType};
     Published<std::string> departCityCode{fields, "departCityCode", request_.departCityCode};
     Published<std::string> departCity{fields, "departCity", request_.departCity};
     Published<std::string> destCityCode{fields, "destCityCode", request_.destCityCode};
     Published<std::string> destCity{fields, "destCity", request_.destCity};
+    Published<Day> departDate{fields, "departDate", request_.departDate};
+    /// Of a round trip. The dates of the search are those of the model, which may be stepped.
+    Published<std::optional<Day>> returnDate{fields, "returnDate", request_.returnDate};
     Published<std::string> nationality{fields, "nationality", request_.nationality};
     Published<std::string> adults{fields, "adults", request_.adults};
     Published<std::string> children{fields, "children", request_.children};
@@ -53,7 +57,6 @@ public:
     Published<std::string> flightClass{fields, "flightClass", request_.flightClass};
     /// How far the list is scrolled from its start, in points.
     Published<double> offset{fields, "offset", 0.0};
-    Published<bool> showSegmant{fields, "showSegmant"};
     Published<std::string> errorMessage{fields, "errorMessage"};
 
     Derived<std::string> routeImage{fields, "routeImage", [this] {
@@ -140,8 +143,8 @@ protected:
             model_->isLoading = false;
         });
     }
-    /// The choice in a list of one-way or of round-trip offers.
-    OfferSelection selection();
+    /// The choice in a list of one-way or of round-trip offers, which tells by `showSegmant` that one is unfolded.
+    OfferSelection selection(Field<bool>& showSegmant);
     /// For how many was searched.
     std::int64_t travellers() const;
     /// Says why the way on is closed, and in `detail` by how much.

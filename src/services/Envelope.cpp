@@ -163,7 +163,9 @@ std::array<std::vector<std::shared_ptr<const Offer>>, 2> Envelope::pairOfOffers(
                     pair.at(index) = decodeOffers<Offer>(answer_.elementsOf(lists[index]),
                                                          [](Offer& /*offer*/, std::string_view /*json*/) {});
                 } else {
-                    answer_.parsed(lists[index]); // nobody reads it, but it is part of the answer
+                    // Nobody reads it, but it is part of the answer.
+                    for (const auto json : answer_.elementsOf(lists[index]))
+                        if (!answer_.parsed(json).is_object()) throw DecodeError("wants objects");
                 }
             });
         }

@@ -20,6 +20,7 @@ constexpr std::array ownWords{
     Said{errorText::answerNotUnderstood, Text::errorAnswerNotUnderstood},
     Said{errorText::answerTooLarge, Text::errorAnswerTooLarge},
     Said{errorText::connectionLost, Text::errorConnectionLost},
+    Said{errorText::documentNotSent, Text::errorDocumentNotSent},
     Said{errorText::notCompleted, Text::errorNotCompleted},
     Said{errorText::notReached, Text::errorNotReached},
     Said{errorText::notSecured, Text::errorNotSecured},

@@ -20,6 +20,11 @@ ServiceCall callWith(std::function<std::optional<std::string>()> body) {
     return call;
 }
 
+/// An offer that cannot be written is not asked for, although what goes out is the JSON that it came as.
+template <class Offer> void requireWritable(const Offer& offer) {
+    Body().add("itinerary", encode(offer)).serialisedOrFail();
+}
+
 void print(const OWFlightAvailability& /*availability*/) {}
 void print(const RTFlightAvailability& availability) {
     platform().diagnostics->print(encode(availability).dump());
@@ -34,6 +39,7 @@ void FlightAvailabilityProvider<Trip>::fetchAvailability(const std::string& itin
     const auto& offer = Trip::offerOf(flight);
     send<Availability>(
         callWith([&] {
+            requireWritable(offer);
             Body body;
             body.add("user_type", AppState::shared().userType.get()).add("itinerary_type", itineraryType);
             addRawItinerary(body, offer.rawData);

@@ -10,7 +10,7 @@ namespace ombrivane {
 namespace {
 
 /// The first character decides, since the bytes are known to be JSON without white space.
-bool isObject(std::string_view bytes) { return !bytes.empty() && bytes.front() == '{'; }
+bool startsWith(std::string_view bytes, char sign) { return !bytes.empty() && bytes.front() == sign; }
 
 } // namespace
 
@@ -23,12 +23,14 @@ void addRawItinerary(Body& body, const std::optional<RawData>& rawData) {
     const std::string bytes = rawData->minified();
     try {
         const JsonDocument checked(bytes);
+        if (!startsWith(bytes, '{') && !startsWith(bytes, '['))
+            throw DecodeError("wants an object or an array outermost");
     } catch (const DecodeError& error) {
         diagnostics.print(std::string("Something went wrong during JSON deserialization: ") + error.what());
         body.add("itinerary", nullptr);
         return;
     }
-    if (isObject(bytes)) {
+    if (startsWith(bytes, '{')) {
         diagnostics.print("Converted back to JSON: " + bytes);
         body.addRaw("itinerary", bytes);
     } else {

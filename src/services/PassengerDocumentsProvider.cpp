@@ -1,5 +1,6 @@
 #include "services/PassengerDocumentsProvider.h"
 
+#include "base/ErrorTexts.h"
 #include "platform/Platform.h"
 #include "services/Endpoints.h"
 #include "services/Frame.h"
@@ -15,7 +16,7 @@ namespace {
 std::string pngOf(ImageCodec& images, const DocumentPicture& picture) {
     auto png = picture.jpeg ? images.pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
     if (!png)
-        throw Error{errorDomain::encoding, 0, "A document could not be sent.", "a picture has no PNG form"};
+        throw Error{errorDomain::encoding, 0, errorText::documentNotSent, "a picture has no PNG form"};
     return *std::move(png);
 }
 
@@ -35,11 +36,11 @@ void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers
     form.addText("bookingReferenceID", bookingReferenceID);
     call.pieces = [form, passengers, documents, bookedPassengers, images = platform().images]() mutable {
         // The answer may book more than were sent: nothing is known of those.
-        const auto known = std::min({bookedPassengers.size(), passengers.size(), documents.size()});
+        const auto known = std::min(bookedPassengers.size(), passengers.size());
         for (std::size_t i = 0; i < known; ++i) {
             const std::string& id = bookedPassengers[i].passengerID;
             form.addText("documentType[" + id + "]", passengers[i].documentType);
-            if (documents[i]) {
+            if (i < documents.size() && documents[i]) {
                 form.addFile(
                     "documentImage[" + id + "]", "imagename.png", "image/png", pngOf(*images, *documents[i]));
             }

@@ -105,7 +105,7 @@ std::string KeptState::save(const Navigator* navigator) {
             kept["form"]["departureDate"] = Keyed<Day>::toJson(model.departDate.get());
             if (model.hasReturnDate) {
                 kept["form"]["returnDate"] = Keyed<Day>::toJson(model.returnDate.get());
-                kept["form"]["returnDateText"] = formatDay(model.returnDate.get(), dayPattern::form);
+                kept["form"]["returnDateText"] = formatDay(model.returnDate.get(), dayPattern::calendar);
                 kept["tab"] = Keyed<TabBarItem>::toJson(TabBarItem::roundTrip);
             }
         }

@@ -60,9 +60,11 @@ TEST_P(SessionTest, TheGateAsksOnEachShowingAndNeverBlocks) {
     wallet.answer(fakes::captured("restrictions"), 1);
     EXPECT_EQ(gate("paragraphs").empty(), false);
 
-    wallet.set("RulesAndRegulationView.showSnackBar", false);
+    world.pass(2s);
     wallet.tap("continue");
+    world.pass(5s);
     wallet.tap("back");
+    EXPECT_EQ(message(), "No seats left.") << "what was covered meanwhile has its time again";
     wallet.fail(2);
     EXPECT_EQ(message(), "The request timed out.");
     world.pass(2999ms);

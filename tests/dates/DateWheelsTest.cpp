@@ -39,6 +39,14 @@ TEST(DateWheelsTest, OfferTheYearsMonthsAndDaysOfTheDevicesCalendar) {
     }
 }
 
+TEST(DateWheelsTest, ADayFarAheadIsKeptWhereThereIsNoLatest) {
+    fakes::World world;
+    DateWheels wheels(dayOf("2027-05-21"));
+    EXPECT_EQ(wheels.day().text(), "2027-05-21");
+    wheels.choose(dayOf("2099-12-31"));
+    EXPECT_EQ(wheels.day().text(), "2099-12-31");
+}
+
 TEST(DateWheelsTest, EveryEntryOfEveryWheelCanBeTurnedToAndStaysWithinTheLimits) {
     fakes::World world;
     const Day earliest = dayOf("2019-01-10");

@@ -58,7 +58,7 @@ TEST_F(DomesticFlightListViewTest, OneWayIsOneListWithAStripAndNoTabs) {
     EXPECT_FALSE(screen->showsTabs.get() || screen->tapReturningFlights.isEnabled());
     tapItem(1);
     EXPECT_EQ(screen->total.get(), "NPR 20");
-    EXPECT_TRUE(model().flightSelected && screen->showSegmant);
+    EXPECT_TRUE(model().flightSelected && screen->showDepartureFlightSegmant);
 }
 
 TEST_F(DomesticFlightListViewTest, ABadOfferInEitherListFailsTheWholeSearch) {
@@ -249,7 +249,7 @@ TEST_F(DomesticFlightListViewTest, AOneWayFilterClearsTheOneWayChoice) {
     filter().apply();
     EXPECT_EQ(keysOf(list()->offers.get()), "a");
     EXPECT_EQ(chosen(), "--");
-    EXPECT_FALSE(model().flightSelected || model().showContinueButton || screen->showSegmant);
+    EXPECT_FALSE(model().flightSelected || model().showContinueButton || screen->showDepartureFlightSegmant);
 }
 
 TEST_F(DomesticFlightListViewTest, ANewSearchReturnsToTheDepartureTabWithNothingChosen) {

@@ -96,12 +96,12 @@ TEST_F(BookingTest, DocumentsTravelAsAFormByteForByte) {
     EXPECT_NE(world.network->last().headers.front().second, contentType) << "each form has its own boundary";
 }
 
-TEST_F(BookingTest, NothingIsSentForWhoeverHasNoDocument) {
+TEST_F(BookingTest, WhoeverWasSentAndIsBookedHasHisKindOfDocument) {
     const struct {
         std::size_t passengers;
         std::size_t documents;
         std::size_t sent;
-    } rows[] = {{1, 2, 1}, {2, 1, 1}, {0, 0, 0}, {3, 3, 2}};
+    } rows[] = {{1, 2, 1}, {2, 1, 2}, {2, 0, 2}, {0, 0, 0}, {3, 3, 2}};
     for (const auto& row : rows) {
         PassengerDocumentsProvider().upload(std::vector<Passenger>(row.passengers),
                                             std::vector<std::optional<DocumentPicture>>(row.documents),

@@ -130,7 +130,9 @@ TEST_F(FlightSearchTest, TheSpecialRoundWantsTwoLists) {
         const char* failure; ///< of the developer; none when both lists come
     } rows[] = {
         {Json::array({Json::array(), Json::array()}), nullptr},
-        {Json::array({captured[0], Json::array(), 7}), nullptr},
+        {Json::array({captured[0], Json::array(), Json::array()}), nullptr},
+        {Json::array({captured[0], Json::array(), 7}), "data[2]: wants an array"},
+        {Json::array({captured[0], Json::array(), Json::array({7})}), "data[2]: wants objects"},
         {Json::array({Json::array()}), "data: lacks its list 1"},
         {Json::array({captured[0], Json::object()}), "data[1]: wants an array"},
         {captured[0], "data[0]: wants an array"},

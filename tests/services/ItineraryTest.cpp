@@ -42,8 +42,8 @@ TEST_F(ItineraryTest, RawDataThatIsNoObjectGoesOutAsNull) {
     } rows[] = {
         {std::nullopt, "null", {}},
         {"[{}]", "null", {failed}},
-        {"\"text\"", "null", {failed}},
-        {"null", "null", {failed}},
+        {"\"text\"", "null", {wrong}},
+        {"null", "null", {wrong}},
         {"{\"a\":", "null", {wrong}},
         {"", "null", {wrong}},
         {R"( { "a" : 1.50 } )", R"({"a":1.50})", {R"(Converted back to JSON: {"a":1.50})"}},

@@ -113,6 +113,8 @@ void Theme::chooseLettering() {
 
 int Theme::textWeight() const { return look_.boldText ? QFont::DemiBold : QFont::Normal; }
 
+int Theme::readingWeight() const { return look_.boldText ? textWeight() : QFont::Light; }
+
 double Theme::cardRadius() const { return std::max(0.0, appearance_.cornerRadius.value_or(14)); }
 
 double Theme::fieldRadius() const { return std::max(0.0, cardRadius() - 2); }

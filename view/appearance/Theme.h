@@ -59,6 +59,7 @@ class Theme : public QObject {
     Q_PROPERTY(bool reducedMotion READ isMotionReduced NOTIFY changed FINAL)
     /// Of letters that are not emphasised.
     Q_PROPERTY(int textWeight READ textWeight NOTIFY changed FINAL)
+    Q_PROPERTY(int readingWeight READ readingWeight NOTIFY changed FINAL)
 
     OMBRIVANE_COLOUR(canvasColor, canvas)
     OMBRIVANE_COLOUR(whiteColor, card)
@@ -139,6 +140,8 @@ public:
     double textScale() const { return look_.textScale; }
     bool isMotionReduced() const { return look_.reducedMotion; }
     int textWeight() const;
+    /// Of a long text.
+    int readingWeight() const;
     static QColor dimColor() { return QColor(0, 0, 0, 128); }
     QString fontFamily() { return lettering().family; }
     double overhang() { return lettering().overhang; }

@@ -5,10 +5,10 @@ import Ombrivane.Private
 FocusScope {
     id: picker
 
-    property DateField field: null
+    property DatePickerTextFIeldView field: null
     readonly property bool shown: field !== null
 
-    function open(opened: DateField) {
+    function open(opened: DatePickerTextFIeldView) {
         field = opened
         forceActiveFocus()
     }

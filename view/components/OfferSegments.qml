@@ -16,13 +16,18 @@ Rectangle {
         id: column
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.gap }
         spacing: 8
-        Flow {
+        RowLayout {
             Layout.fillWidth: true
             spacing: 8
-            Icon { width: 22; height: 22; name: "departureBlackIcon"; color: Theme.blackColor }
-            CardText { width: implicitWidth > parent.width ? parent.width : undefined; text: block.journey.departureCountry; font.weight: Font.Medium }
-            Icon { width: 20; height: 22; name: "toIcon"; color: Theme.placeHolderColor }
-            CardText { width: implicitWidth > parent.width ? parent.width : undefined; text: block.journey.arrivalCountry; font.weight: Font.Medium }
+            Icon { implicitWidth: 22; implicitHeight: 22; name: "departureBlackIcon"; color: Theme.blackColor }
+            RouteLine {
+                Layout.fillWidth: true
+                origin: block.journey.departureCountry
+                destination: block.journey.arrivalCountry
+                iconSize: 20
+                tint: Theme.placeHolderColor
+                toldAsOne: true
+            }
         }
         Repeater {
             model: block.journey.segments

@@ -42,7 +42,7 @@ Flickable {
         return true
     }
     function isMissing(item: Item): bool {
-        const field = item as FormField
+        const field = item as CustomTextFieldView
         const button = item as FieldButton
         const tile = item as DocumentTile
         return field !== null && field.missing || button !== null && button.missing || tile !== null && tile.missing

@@ -37,7 +37,7 @@ PageColumn {
         LabelledLine { Layout.fillWidth: true; visible: area.told; label: area.screen.referenceLabel; value: area.screen.reference; awaited: area.screen.showProgressView }
         LabelledLine { Layout.fillWidth: true; label: area.screen.amountLabel; value: area.told ? area.screen.amount : area.session.total; awaited: area.screen.showProgressView }
     }
-    FormField {
+    CustomTextFieldView {
         id: otp
         objectName: "otp"
         Layout.fillWidth: true

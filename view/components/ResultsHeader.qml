@@ -43,12 +43,15 @@ Rectangle {
         Column {
             id: texts
             anchors { left: back.right; leftMargin: 4; right: edit.left; rightMargin: 4; verticalCenter: parent.verticalCenter }
-            Flow {
+            RouteLine {
                 width: parent.width
-                spacing: 8
-                PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: header.screen.departCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
-                Icon { width: 20; height: 20 * Math.max(1, Theme.textScale); name: header.screen.routeImage; color: Theme.secondaryColor }
-                PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: header.screen.destCity; font.pixelSize: Theme.sectionSize; font.weight: Font.DemiBold; spread: 1.2 }
+                origin: header.screen.departCity
+                destination: header.screen.destCity
+                iconName: header.screen.routeImage
+                iconSize: 20
+                tint: Theme.secondaryColor
+                pixelSize: Theme.sectionSize
+                weight: Font.DemiBold
             }
             PlainText {
                 width: parent.width

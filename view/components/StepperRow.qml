@@ -32,6 +32,7 @@ Item {
         anchors { right: number.left; verticalCenter: parent.verticalCenter }
         iconName: "decrementIcon"
         label: Words.fill(Words.travellersOneLess, {kind: item.row.category})
+        Accessible.description: item.row.mayDecrement ? "" : Words.travellersLimit
         tint: item.row.mayDecrement ? Theme.secondaryColor : Theme.formBorderColor
         onClicked: {
             item.isChanged = true
@@ -55,6 +56,7 @@ Item {
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         iconName: "incrementIcon"
         label: Words.fill(Words.travellersOneMore, {kind: item.row.category})
+        Accessible.description: item.row.mayIncrement ? "" : Words.travellersLimit
         tint: item.row.mayIncrement ? Theme.secondaryColor : Theme.formBorderColor
         onClicked: {
             item.isChanged = true

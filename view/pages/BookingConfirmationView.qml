@@ -37,23 +37,44 @@ Item {
         }
         Repeater {
             model: page.screen.flightBlocks
-            Card {
+            ColumnLayout {
                 id: flight
                 required property TicketFlightValue modelData
                 Layout.fillWidth: true
-                title: modelData.title
-                LabelledLine { Layout.fillWidth: true; label: flight.modelData.departureCity; value: flight.modelData.departureTime }
-                LabelledLine { Layout.fillWidth: true; label: flight.modelData.arrivalCity; value: flight.modelData.arrivalTime }
-                PlainText { text: flight.modelData.date; color: Theme.placeHolderColor }
-                LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: Words.cabinBaggage; value: flight.modelData.cabin }
-                LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: Words.checkInBaggage; value: flight.modelData.checkIn }
+                spacing: 0
+                Card {
+                    Layout.fillWidth: true
+                    title: flight.modelData.title
+                    LabelledLine { Layout.fillWidth: true; label: flight.modelData.departureCity; value: flight.modelData.departureTime }
+                    LabelledLine { Layout.fillWidth: true; label: flight.modelData.arrivalCity; value: flight.modelData.arrivalTime }
+                    PlainText { text: flight.modelData.date; color: Theme.placeHolderColor }
+                    LabelledLine { Layout.fillWidth: true; iconName: "handcarryIcon"; label: Words.cabinBaggage; value: flight.modelData.cabin }
+                    LabelledLine { Layout.fillWidth: true; iconName: "brifcaseIcon"; label: Words.checkInBaggage; value: flight.modelData.checkIn }
+                }
+                // From edge to edge, so that the notches are those of the cards that it parts.
+                Icon {
+                    objectName: "ticketLine"
+                    Layout.fillWidth: true
+                    Layout.bottomMargin: -Theme.gap
+                    implicitHeight: width * 24 / 320
+                    name: "ticketLine"
+                    color: Theme.formBorderColor
+                }
             }
         }
         Card {
             objectName: "awaitedPassenger"
             Layout.fillWidth: true
             visible: page.screen.isLoading
-            AwaitedText { Layout.fillWidth: true; lines: [0.5, 0.9, 0.9, 0.7] }
+            Repeater {
+                model: [Words.ticketType, Words.ticketReservation, Words.ticketETicket, Words.ticketClass, Words.ticketStatus]
+                LabelledLine {
+                    required property string modelData
+                    Layout.fillWidth: true
+                    label: modelData
+                    value: Words.loading
+                }
+            }
         }
         Repeater {
             model: page.screen.passengerBlocks

@@ -40,6 +40,8 @@ Item {
             Layout.fillWidth: true
             title: page.screen.showPaymentView ? page.screen.appBarTitle
                                                : Words.fill(Words.sessionRoute, {origin: page.screen.departLocation, destination: page.screen.destLocation})
+            origin: page.screen.showPaymentView ? "" : page.screen.departLocation
+            destination: page.screen.destLocation
             onLeave: page.screen.back()
         }
         ClockPill {

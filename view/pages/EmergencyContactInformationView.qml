@@ -25,7 +25,7 @@ Item {
         inset: header.height
         footCover: page.screen.showSnackBar ? snack.implicitHeight + 8 : 0
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
-        FormField {
+        CustomTextFieldView {
             objectName: "name"
             Layout.fillWidth: true
             iconName: "userIcon"
@@ -34,7 +34,7 @@ Item {
             mark: page.screen.nameColor
             onTextEdited: page.screen.typeName(text)
         }
-        FormField {
+        CustomTextFieldView {
             objectName: "surname"
             Layout.fillWidth: true
             iconName: "userIcon"
@@ -43,7 +43,7 @@ Item {
             mark: page.screen.surnameColor
             onTextEdited: page.screen.typeSurname(text)
         }
-        FormField {
+        CustomTextFieldView {
             objectName: "email"
             Layout.fillWidth: true
             iconName: "emailIcon"
@@ -53,7 +53,7 @@ Item {
             inputMethodHints: Qt.ImhEmailCharactersOnly
             onTextEdited: page.screen.typeEmail(text)
         }
-        FormField {
+        CustomTextFieldView {
             objectName: "phoneNumber"
             Layout.fillWidth: true
             iconName: "phoneIcon"

@@ -23,12 +23,12 @@ Item {
         Accessible.name: page.screen.title
         Accessible.focusable: true
         anchors { top: header.bottom; left: parent.left; right: parent.right; bottom: parent.bottom }
-        Flow {
+        RouteLine {
             Layout.fillWidth: true
-            spacing: 8
-            PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: page.screen.originCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
-            Icon { width: 22; height: 22 * Math.max(1, Theme.textScale); name: page.screen.routeImage; color: Theme.blackColor }
-            PlainText { width: implicitWidth > parent.width ? parent.width : undefined; text: page.screen.destinationCity; font.pixelSize: Theme.sectionSize; font.weight: Font.Medium }
+            origin: page.screen.originCity
+            destination: page.screen.destinationCity
+            iconName: page.screen.routeImage
+            pixelSize: Theme.sectionSize
         }
         Repeater {
             model: page.screen.journeys
@@ -37,12 +37,13 @@ Item {
                 required property JourneyValue modelData
                 Layout.fillWidth: true
                 title: modelData.sectionTitle
-                Flow {
+                RouteLine {
+                    objectName: "sectionRoute"
                     Layout.fillWidth: true
-                    spacing: 8
-                    PlainText { width: implicitWidth > parent.width ? parent.width : undefined; objectName: "sectionOrigin"; text: section.modelData.originCity; font.weight: Font.Medium }
-                    Icon { width: 22; height: 22 * Math.max(1, Theme.textScale); name: "departureBlackIcon"; color: Theme.placeHolderColor }
-                    PlainText { width: implicitWidth > parent.width ? parent.width : undefined; objectName: "sectionDestination"; text: section.modelData.destinationCity; font.weight: Font.Medium }
+                    origin: section.modelData.originCity
+                    destination: section.modelData.destinationCity
+                    iconName: "departureBlackIcon"
+                    tint: Theme.placeHolderColor
                 }
                 Repeater {
                     model: section.modelData.legs

@@ -64,7 +64,7 @@ Sheet {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             quiet: true
-            text: Words.pictureAnother
+            text: preview.status === Image.Null ? Words.pictureChoose : Words.pictureAnother
             onClicked: dialog.open()
         }
         MainButton {

@@ -50,6 +50,7 @@ Item {
             text: content
             font.underline: underlined
             font.pixelSize: Theme.sectionSize
+            font.weight: Theme.readingWeight
             Rectangle {
                 objectName: "bullet"
                 visible: paragraph.listItem

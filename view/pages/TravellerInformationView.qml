@@ -27,7 +27,7 @@ Item {
         inset: header.height
         footCover: page.screen.showSnackBar ? snack.implicitHeight + 8 : 0
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: save.top; bottomMargin: 8 }
-        FormField {
+        CustomTextFieldView {
             objectName: "name"
             Layout.fillWidth: true
             iconName: "userIcon"
@@ -36,7 +36,7 @@ Item {
             mark: page.screen.nameColor
             onTextEdited: page.screen.typeName(text)
         }
-        FormField {
+        CustomTextFieldView {
             objectName: "surname"
             Layout.fillWidth: true
             iconName: "userIcon"
@@ -45,7 +45,7 @@ Item {
             mark: page.screen.surnameColor
             onTextEdited: page.screen.typeSurname(text)
         }
-        FormField {
+        CustomTextFieldView {
             objectName: "email"
             Layout.fillWidth: true
             iconName: "emailIcon"
@@ -62,7 +62,7 @@ Item {
             Choice { objectName: "male"; Layout.fillWidth: true; text: Words.genderMale; marked: page.screen.gender === "Male"; onClicked: page.screen.chooseGender("Male") }
             Choice { objectName: "female"; Layout.fillWidth: true; text: Words.genderFemale; marked: page.screen.gender === "Female"; onClicked: page.screen.chooseGender("Female") }
         }
-        DateField {
+        DatePickerTextFIeldView {
             id: dateOfBirth
             objectName: "dateOfBirth"
             Layout.fillWidth: true
@@ -76,7 +76,7 @@ Item {
             onPicked: day => page.screen.pickDateOfBirth(day)
         }
         LabelledLine { Layout.fillWidth: true; iconName: "globeIcon"; label: Words.nationality; value: page.screen.nationality }
-        DateField {
+        DatePickerTextFIeldView {
             id: expiryDate
             objectName: "expiryDate"
             visible: page.screen.showsExpiryDate
@@ -90,7 +90,7 @@ Item {
             onClicked: picker.open(expiryDate)
             onPicked: day => page.screen.pickExpiryDate(day)
         }
-        FormField {
+        CustomTextFieldView {
             objectName: "documentNumber"
             visible: page.screen.showsDocuments
             Layout.fillWidth: true

@@ -24,7 +24,7 @@ T.TextField {
         next.forceActiveFocus(Qt.TabFocusReason)
     }
     function takesOver(item: Item): bool {
-        return (item as FormField) !== null || (item as FieldButton) !== null || (item as DocumentTile) !== null || (item as MainButton) !== null
+        return (item as CustomTextFieldView) !== null || (item as FieldButton) !== null || (item as DocumentTile) !== null || (item as MainButton) !== null
     }
 
     text: value
