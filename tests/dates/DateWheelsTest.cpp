@@ -77,8 +77,6 @@ TEST(DateWheelsTest, ProposeTheMiddleOfTwoLimitsAndTheOnlyOne) {
     const fakes::World world;
     EXPECT_EQ(DateWheels(dayOf("1927-01-10"), dayOf("2026-11-21")).day().text(), "1976-01-10");
     EXPECT_EQ(DateWheels(dayOf("2027-07-10")).day().text(), "2027-07-10");
-    EXPECT_EQ(DateWheels(dayOf("2027-07-10")).years().entries.size(), 31U)
-        << "no document is valid for longer";
 }
 
 } // namespace
