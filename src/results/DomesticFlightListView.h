@@ -94,8 +94,8 @@ private:
     /// The return list chooses without a word to the Continue button, which the departure offer shows.
     Fields unkeyed_;
     Published<bool> noContinueButton_{unkeyed_, "showContinueButton"};
-    std::shared_ptr<OneWayFlightListView> oneWayList_ =
-        makeList(flightListVM.filteredOnewayFlights, selection(showDepartureFlightSegmant), Text::resultsDeparting);
+    std::shared_ptr<OneWayFlightListView> oneWayList_ = makeList(
+        flightListVM.filteredOnewayFlights, selection(showDepartureFlightSegmant), Text::resultsDeparting);
     std::shared_ptr<OneWayFlightListView> departureList_ =
         makeList(flightListVM.filteredDepartureFlights, departureSelection(), Text::resultsDeparting);
     std::shared_ptr<OneWayFlightListView> returnList_ =

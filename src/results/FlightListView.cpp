@@ -22,7 +22,9 @@ FlightListView::FlightListView(SearchRequest searchRequest,
     flightListVM(*viewModel) {}
 
 OfferListBindings FlightListView::listBindings() {
-    return {flightListVM.isLoading, flightListVM.scrollToTop, selection(showSegmant), [this] { return travellers(); }};
+    return {flightListVM.isLoading, flightListVM.scrollToTop, selection(showSegmant), [this] {
+                return travellers();
+            }};
 }
 
 void FlightListView::sendSearch(const FlightQuery& query, bool roundTrip) {

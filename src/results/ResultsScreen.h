@@ -143,7 +143,8 @@ protected:
             model_->isLoading = false;
         });
     }
-    /// The choice in a list of one-way or of round-trip offers, which tells by `showSegmant` that one is unfolded.
+    /// The choice in a list of one-way or of round-trip offers, which tells by `showSegmant` that one is
+    /// unfolded.
     OfferSelection selection(Field<bool>& showSegmant);
     /// For how many was searched.
     std::int64_t travellers() const;

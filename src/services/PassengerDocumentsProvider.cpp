@@ -15,8 +15,7 @@ namespace {
 /// @throws Error for a picture that cannot be written
 std::string pngOf(ImageCodec& images, const DocumentPicture& picture) {
     auto png = picture.jpeg ? images.pngOfJpeg(*picture.jpeg, documentLimits()) : std::nullopt;
-    if (!png)
-        throw Error{errorDomain::encoding, 0, errorText::documentNotSent, "a picture has no PNG form"};
+    if (!png) throw Error{errorDomain::encoding, 0, errorText::documentNotSent, "a picture has no PNG form"};
     return *std::move(png);
 }
 
