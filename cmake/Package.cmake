@@ -22,7 +22,11 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/contract)
+# Beside the documents too, which link to it.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/contract)
 if(OMBRIVANE_TOOLS)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/journeys/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/journeys
+        FILES_MATCHING PATTERN *.journey PATTERN *.steps PATTERN *.png)
     install(EXPORT OmbrivaneKit NAMESPACE Ombrivane:: DESTINATION ${package_folder})
     if(OMBRIVANE_VIEW)
         install(EXPORT OmbrivaneKitPages NAMESPACE Ombrivane:: DESTINATION ${package_folder})

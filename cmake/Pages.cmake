@@ -3,7 +3,8 @@
 
 set(OMBRIVANE_MOVING
     AirportRow CardText FlightTime FoundText KeyList ListEntry Logo OfferCard OfferJourney OfferListView OfferSegments
-    PlainText PlaneLine Pressable PriceSlider ResultsHeader ResultsPage SegmentLine SegmentStop StripCard Wheel WheelEntry)
+    PlainText PlaneLine Pressable PriceSlider ResultsHeader ResultsPage RouteLine SegmentLine
+    SegmentStop StripCard Wheel WheelEntry)
 
 # Before the pages are added to `target`. A build machine without a shell makes code for all of them.
 function(ombrivane_pages target)

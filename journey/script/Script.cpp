@@ -8,7 +8,9 @@
 #include "platform/Platform.h"
 #include "words/LanguageChoice.h"
 
+#include <cstdint>
 #include <fstream>
+#include <memory>
 #include <mutex>
 #include <sstream>
 #include <utility>
@@ -16,6 +18,21 @@
 
 namespace ombrivane::journey {
 namespace {
+
+/// What a customer may have picked: red from left to right, green from the top down.
+Image somePicture() {
+    constexpr int width = 120;
+    constexpr int height = 80;
+    std::vector<std::uint8_t> points;
+    for (int row = 0; row < height; ++row) {
+        for (int column = 0; column < width; ++column) {
+            const auto red = static_cast<std::uint8_t>(2 * column);
+            const auto green = static_cast<std::uint8_t>(3 * row);
+            points.insert(points.end(), {red, green, 128, 255});
+        }
+    }
+    return {width, height, std::make_shared<const std::vector<std::uint8_t>>(std::move(points))};
+}
 
 constexpr double defaultSeconds = 10;
 
@@ -141,7 +158,7 @@ std::string Script::help() {
            "for\n"
            "  pause SECONDS                 real time, for what is not to happen\n"
            "  advance SECONDS               moves the clock and the timers on, beyond real time\n"
-           "  pick FILE                     the photo library's next answer\n"
+           "  pick [FILE]                   the photo library's next answer, without a file some picture\n"
            "  pick-cancel                   a cancelled one\n"
            "  reachability FLAGS            the flag word of the network from here on\n"
            "  destroy                       drops the view, as a host may at any time\n"
@@ -274,7 +291,7 @@ void Script::wait(const std::string& arguments) {
     const double limit = value.size() == 2 ? value.back().get<double>() : defaultSeconds;
     const auto arrived = [&] { return stage_.faulted() || holds(path, value.front()); };
     if (!stage_.runUntil(arrived, milliseconds(limit)))
-        throw ExpectationFailed(path + " did not become " + text + ": " + seen(path));
+        throw ExpectationFailed(path + " did not become " + value.front().dump() + ": " + seen(path));
 }
 
 void Script::waitScreen(const std::string& arguments) {
@@ -352,6 +369,7 @@ void Script::advance(const std::string& arguments) {
 }
 
 void Script::pick(const std::string& file) {
+    if (file.empty()) return stage_.photos.pick({false, somePicture()});
     std::ifstream in(file, std::ios::binary);
     if (!in) throw BadLine("there is no file " + file);
     const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};

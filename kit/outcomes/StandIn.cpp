@@ -1,5 +1,6 @@
 #include "outcomes/StandIn.h"
 
+#include "events/HostEvents.h"
 #include "session/HostBoundary.h"
 
 #include <thread>
@@ -17,7 +18,10 @@ bool comesOnMainThread(ErrorKind kind) {
 } // namespace
 
 StandIn::StandIn(CompletionCallback callback, std::function<void()> close) :
-    boundary_(std::make_shared<HostBoundary>(std::move(callback), std::move(close))) {}
+    boundary_(std::make_shared<HostBoundary>(std::move(callback), std::move(close))) {
+    boundary_->setOpening(HostEvents::shared().beginOpening());
+    HostEvents::shared().tell(Event{.kind = EventKind::opened, .opening = boundary_->opening()});
+}
 
 StandIn::~StandIn() { drop(); }
 
@@ -29,6 +33,11 @@ void StandIn::failed(ErrorKind kind) {
     const Error error = errorOf(kind);
     if (comesOnMainThread(kind)) return boundary_->receive(std::nullopt, error);
     std::thread([boundary = boundary_, &error] { boundary->receive(std::nullopt, error); }).join();
+}
+
+void StandIn::outcomeUnknown(ErrorKind kind) {
+    HostEvents::shared().tell(
+        Event{.kind = EventKind::reservationUnknown, .opening = boundary_->opening(), .error = kind});
 }
 
 void StandIn::closed() { boundary_->receive(std::nullopt, std::nullopt); }

@@ -30,6 +30,8 @@ struct Booked {
 /// written by the component's own code, and passes the same boundary: a reservation comes to `Reservations`
 /// first, then to the callback, and the close is a step of the main queue.
 ///
+/// Each is an opening: `HostEvents` tells that it has opened, and by whom it was closed.
+///
 /// Wants an installed `Platform`, of which it uses the main queue. Main thread. After an outcome that closes
 /// another one is delivered as what it is, a late one: a reservation still comes, nothing else does.
 class StandIn {
@@ -51,6 +53,10 @@ public:
     /// The opening failed: an error of that kind, then the close. On a thread of its own where the component
     /// would be on one of the network; it has ended when this returns.
     void failed(ErrorKind kind);
+
+    /// A reservation was sent and no answer came: the component stays and its callback is not called; whoever
+    /// listens to `HostEvents` hears `reservationUnknown`. @param kind why nothing is known
+    void outcomeUnknown(ErrorKind kind = ErrorKind::timedOut);
 
     /// The customer left the search: the close without a call.
     void closed();

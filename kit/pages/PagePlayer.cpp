@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEvent>
+#include <QPointer>
 #include <QTimer>
 
 #include <stdexcept>
@@ -42,19 +43,30 @@ journey::Ending PagePlayer::play(std::istream& lines, view::OmbrivaneSession& se
     const auto closing = QObject::connect(&session, &view::OmbrivaneSession::closed, &session, [this] {
         log_->event(Json{{"event", "closed"}});
     });
+    // The wallet's page may go while it is played over: then nothing is open.
+    const QPointer<view::OmbrivaneSession> held(&session);
     auto& queue = dynamic_cast<view::QtMainQueue&>(mainQueue());
     const auto ending = journey::Script({
                                             .runUntil = runUntil,
                                             .advance = [&queue](auto duration) { queue.advance(duration); },
-                                            .open = [&session] { session.open(); },
-                                            .destroy = [&session] { session.drop(); },
-                                            .restore =
-                                                [&session](const std::string& state) {
-                                                    session.drop();
-                                                    session.restoreState(QString::fromStdString(state));
-                                                    session.open();
+                                            .open =
+                                                [&held] {
+                                                    if (held) held->open();
                                                 },
-                                            .navigator = [&session] { return session.navigator(); },
+                                            .destroy =
+                                                [&held] {
+                                                    if (held) held->drop();
+                                                },
+                                            .restore =
+                                                [&held](const std::string& state) {
+                                                    if (!held) return;
+                                                    held->drop();
+                                                    held->restoreState(QString::fromStdString(state));
+                                                    held->open();
+                                                },
+                                            .navigator = [&held]() -> Navigator* {
+                                                return held ? held->navigator() : nullptr;
+                                            },
                                             .faulted = [] { return false; }, // a fault ends the process
                                             .log = *log_,
                                             .clock = *clock_,

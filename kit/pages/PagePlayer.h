@@ -20,8 +20,8 @@ namespace ombrivane::kit {
 class PagePlayer {
 public:
     /// Installs `ports` with a clock, a photo library, a reachability, and what opens and shares addresses
-    /// that scripts decide about. @param ports of `qtPlatform`; @throws std::invalid_argument where the main
-    /// queue is another's, since its timers cannot be moved on
+    /// that scripts decide about, and with diagnostics that scripts wait for. @param ports of `qtPlatform`;
+    /// @throws std::invalid_argument where the main queue is another's, since its timers cannot be moved on
     explicit PagePlayer(Platform ports);
     PagePlayer(const PagePlayer&) = delete;
     PagePlayer& operator=(const PagePlayer&) = delete;
@@ -37,7 +37,8 @@ public:
 
     /// Plays `lines` over the component in `session`; `open`, `destroy` and `restore` in them are its `open`,
     /// `drop` and `restoreState`.
-    /// The wallet's page has been made, and need not be open yet. Prints each event and, where the script
+    /// The wallet's page has been made, and need not be open yet; where it goes meanwhile, with its session,
+    /// nothing is open for the lines that are left. Prints each event and, where the script
     /// stops early, why.
     journey::Ending play(std::istream& lines, view::OmbrivaneSession& session);
 

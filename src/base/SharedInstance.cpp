@@ -5,15 +5,17 @@
 namespace ombrivane {
 namespace {
 
+// Neither is destroyed, as the instances themselves.
+
 std::vector<std::function<void()>>& drops() {
-    static std::vector<std::function<void()>> instance;
+    static auto& instance = *new std::vector<std::function<void()>>;
     return instance;
 }
 
 } // namespace
 
 std::recursive_mutex& detail::sharedInstanceMutex() {
-    static std::recursive_mutex instance;
+    static auto& instance = *new std::recursive_mutex;
     return instance;
 }
 

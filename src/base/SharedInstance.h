@@ -29,8 +29,9 @@ public:
     }
 
 private:
+    /// Never destroyed: threads of the network read it until the process has gone.
     static std::shared_ptr<T>& slot() {
-        static std::shared_ptr<T> instance;
+        static auto& instance = *new std::shared_ptr<T>;
         return instance;
     }
 };

@@ -155,6 +155,7 @@ void BookingSession::proceed() {
     if (!everySlotIsFilled()) return sayMissing(Text::sessionPassengersMissing);
     isUploading_ = false;
     showProgressView = true;
+    credentials_ = AppState::shared().keepCredentials();
     reporter_.sent(EventKind::reservationSent);
     reserve();
 }
@@ -205,6 +206,7 @@ void BookingSession::failReservation(const Error& error) {
     errorMessage = error.localizedDescription;
     showProgressView = false;
     showSnackBar = true;
+    credentials_.reset();
 }
 
 void BookingSession::handOver(const FlightBooking& booking) {
@@ -212,6 +214,7 @@ void BookingSession::handOver(const FlightBooking& booking) {
     showProgressView = false;
     if (!viewIsGone()) AppState::shared().resetNavigation();
     completionCallback_(handOverDictionary(booking), std::nullopt);
+    credentials_.reset();
 }
 
 Dictionary BookingSession::handOverDictionary(const FlightBooking& booking) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Api.h"
 #include "platform/Image.h"
 
 #include <optional>
@@ -42,8 +43,8 @@ public:
 };
 
 /// Of a picture from an address.
-PictureLimits logoLimits();
+OMBRIVANE_API PictureLimits logoLimits();
 /// Of a picture that the customer chose.
-PictureLimits documentLimits();
+OMBRIVANE_API PictureLimits documentLimits();
 
 } // namespace ombrivane

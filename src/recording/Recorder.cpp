@@ -18,7 +18,7 @@ namespace {
 constexpr std::array lettersOfPages{"scrolled", "measured"}; // what a page tells by itself
 /// Actions whose texts belong to a journey and not to a customer.
 constexpr std::array namesOfPlacesAndDays{"type", "tap", "tapDay", "chooseGender"};
-constexpr const char* pickedPicture = "pick journeys/data/passport.png";
+constexpr const char* pickedPicture = "pick";
 constexpr std::array daysOfCustomers{"pickDateOfBirth", "pickExpiryDate"};
 
 template <class Keys> bool has(const Keys& keys, std::string_view key) {

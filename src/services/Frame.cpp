@@ -68,7 +68,7 @@ void sendWritten(const Pieces& pieces, HttpRequest request, HttpCompletion answe
 
 /// What is told where the network has neither an answer nor an error.
 const Error& nothing() {
-    static const Error nothing{errorDomain::network, 0, "", "neither an answer nor an error"};
+    static const auto& nothing = *new Error{errorDomain::network, 0, "", "neither an answer nor an error"};
     return nothing;
 }
 

@@ -7,6 +7,7 @@
 #include "search/MainView.h"
 #include "search/MainViewModel.h"
 #include "services/CustomError.h"
+#include "services/Endpoints.h"
 #include "services/ServiceHosts.h"
 #include "session/Fonts.h"
 #include "state/AppState.h"
@@ -37,6 +38,14 @@ void warnOfHosts() {
         "ServiceHosts: no booking service was named, neither by ServiceHosts::use nor when the "
         "component was built; asking " +
         ServiceHosts::current().of(AppState::shared().environment.get()));
+}
+
+/// A wallet that asks for another environment later would take what it sees for that of the other.
+void warnOfEnvironment() {
+    const std::string& fixed = Endpoints::shared().baseURL;
+    if (ServiceHosts::current().of(AppState::shared().environment.get()) == fixed) return;
+    platform().diagnostics->print(
+        "environment: the first request of the process has fixed the host of the service; asking " + fixed);
 }
 
 /// Whose the navigation flags of the process are.
@@ -71,6 +80,7 @@ void EntryView::appear() {
     // Before any endpoint is read: the first one fixes the host for the life of the process.
     AppState::shared().environment = arguments_.environment.value_or("test");
     warnOfHosts();
+    warnOfEnvironment();
 
     const std::weak_ptr<Screen> weak = weak_from_this();
     const auto boundary = boundary_;

@@ -1,5 +1,6 @@
 #include "session/HostBoundary.h"
 
+#include "base/Attempted.h"
 #include "base/Fault.h"
 #include "events/HostEvents.h"
 #include "platform/Platform.h"
@@ -61,7 +62,7 @@ bool HostBoundary::isOpen() {
 void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<Error> error) {
     if (error) {
         const bool open = endUse(State::closed, ClosedBy::error, error);
-        if (open && callback_) callback_(std::nullopt, inCustomersWords(*std::move(error)));
+        if (open) callHost(std::nullopt, inCustomersWords(*std::move(error)));
         return closeIf(open);
     }
     if (!dictionary) return closeIf(endUse(State::closed, ClosedBy::customer));
@@ -69,7 +70,7 @@ void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<E
     if (exitOf(*dictionary)) {
         const bool open = endUse(State::closed, ClosedBy::reservation);
         Reservations::shared().keep(*dictionary);
-        if (callback_) callback_(std::move(dictionary), std::nullopt);
+        callHost(std::move(dictionary), std::nullopt);
         return closeIf(open);
     }
     bool open = false;
@@ -77,7 +78,14 @@ void HostBoundary::receive(std::optional<Dictionary> dictionary, std::optional<E
         const std::lock_guard lock(mutex_);
         open = state_ == State::open;
     }
-    if (open && callback_) callback_(std::move(dictionary), std::nullopt);
+    if (open) callHost(std::move(dictionary), std::nullopt);
+}
+
+/// Its exception is the host's own, says nothing of the component, and may name what is not to be printed.
+void HostBoundary::callHost(std::optional<Dictionary> dictionary, std::optional<Error> error) {
+    if (!callback_) return;
+    const auto thrown = attempted([&] { callback_(std::move(dictionary), std::move(error)); });
+    if (thrown) platform().diagnostics->print("callback: the host's callback has thrown an exception");
 }
 
 void HostBoundary::drop() { endUse(State::dropped, ClosedBy::host); }

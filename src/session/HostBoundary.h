@@ -23,7 +23,7 @@ namespace ombrivane {
 /// Once the component has closed or its view was dropped nothing more is passed on, with one exception: a
 /// dictionary with "exit" true hands over a reservation that was made, and must reach the host whatever
 /// happened meanwhile. It goes to `Reservations` as well, before the host is called. Any thread; no lock is
-/// held while the host is called.
+/// held while the host is called. What its callback throws ends there, and is told to diagnostics.
 class HostBoundary : public std::enable_shared_from_this<HostBoundary> {
 public:
     /// @param close takes the component off the screen; called on the main queue
@@ -51,6 +51,7 @@ private:
     bool endUse(State ended, ClosedBy who, const std::optional<Error>& error = std::nullopt);
     bool isDropped();
     void closeIf(bool open);
+    void callHost(std::optional<Dictionary> dictionary, std::optional<Error> error);
 
     std::mutex mutex_;
     State state_ = State::open;

@@ -2,6 +2,8 @@
 
 #include "base/SharedInstance.h"
 
+#include <utility>
+
 namespace ombrivane {
 
 AppState& AppState::shared() { return SharedInstance<AppState>::get(); }
@@ -12,6 +14,32 @@ void AppState::update(std::string newAccessToken, std::string newUserType,
     userType = std::move(newUserType);
     walletBalance = newWalletBalance;
     phone = std::move(newPhone);
+    forgetsCredentials_ = false;
+}
+
+void AppState::forget() {
+    const std::string token = accessToken;
+    const std::string type = userType;
+    const AppState empty;
+    for (const Member* member : empty.fields.members())
+        fields.find(member->key())->write(member->read());
+    if (credentials_.expired()) return;
+    accessToken = token;
+    userType = type;
+    forgetsCredentials_ = true;
+}
+
+std::shared_ptr<const void> AppState::keepCredentials() {
+    auto kept = credentials_.lock();
+    if (kept) return kept;
+    kept = std::shared_ptr<const void>(this, [](const void* /*state*/) {
+        auto& state = AppState::shared();
+        if (!std::exchange(state.forgetsCredentials_, false)) return;
+        state.accessToken = "";
+        state.userType = "";
+    });
+    credentials_ = kept;
+    return kept;
 }
 
 void AppState::resetNavigation() {

@@ -2,6 +2,7 @@
 
 #include "keyed/Field.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -17,6 +18,13 @@ public:
     /// Takes over what a finished bootstrap brought.
     void update(std::string accessToken, std::string userType, std::optional<double> walletBalance,
                 std::optional<std::string> phone);
+
+    /// Another customer may come: everything as at first. Token and user type stay as long as somebody keeps
+    /// them, and go then, unless a bootstrap has brought others.
+    void forget();
+    /// Keeps what requests are sent with while the result lives: a reservation is under way. Main thread, the
+    /// result's end too.
+    std::shared_ptr<const void> keepCredentials();
 
     /// Back to the search form: clears the seven flags, the shallow selection screens first.
     void resetNavigation();
@@ -36,6 +44,10 @@ public:
     Published<std::string> nationalityText{fields, "nationalityText", "Nepalese"};
     Published<std::string> nationality{fields, "nationality", "NP"};
     Published<std::string> environment{fields, "environment"};
+
+private:
+    std::weak_ptr<const void> credentials_;
+    bool forgetsCredentials_ = false; ///< once nobody keeps them any more
 };
 
 } // namespace ombrivane

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <iostream>
 
@@ -44,6 +45,11 @@ const Interruption interruptions[] = {
      }},
     {"back to the search", [](auto&, auto&) { AppState::shared().resetNavigation(); }},
     {"the view dropped", [](auto&, Wallet& wallet) { wallet.drop(); }},
+    {"the customer signed out",
+     [](auto&, Wallet& wallet) {
+         wallet.drop();
+         OmbrivaneView::forget();
+     }},
     {"the view dropped by its callback", [](auto&, Wallet& wallet) { wallet.dropsWhenCalled = true; }},
     {"the view shown again by its callback", [](auto&, Wallet& wallet) { wallet.showsWhenCalled = true; }},
 };
@@ -90,6 +96,16 @@ TEST_P(HandOverTest, AReservationIsHandedOverOnceWhereverTheBookingIsInterrupted
                 EXPECT_EQ(wallet.contract(), "");
                 if (answersWell) {
                     EXPECT_EQ(wallet.handedOver.size(), reserving ? 1U : 0U);
+                    if (reserving) {
+                        EXPECT_FALSE(wallet.handedOver.front()["bearerToken"].get<std::string>().empty());
+                        EXPECT_TRUE(std::none_of(world.network->sent().begin(),
+                                                 world.network->sent().end(),
+                                                 [](const HttpRequest& request) {
+                                                     return !request.headers.empty() &&
+                                                            request.headers.back().second == "Bearer ";
+                                                 }))
+                            << "without a token";
+                    }
                 }
                 EXPECT_TRUE(world.takeFaults().empty());
                 ++states;

@@ -73,7 +73,7 @@ TEST(RecordingTest, AnOpeningBecomesAJourney) {
                              "tap OneWayFlightListView.rows[0].tap\ntap FlightListView.continue\n",
                              "tap OWPessangerContactDetailView.rows[0].tap\n",
                              "tap TravellerInformationView.pickDateOfBirth \"1990-05-01\"\n"
-                             "pick journeys/data/passport.png\n"
+                             "pick\n"
                              "tap TravellerInformationView.openPhotoPicker\n",
                              "advance 61\nback\n",
                              "tap OWBookingDetailsView.continue\n"})

@@ -1,5 +1,6 @@
 #include "outcomes/StandIn.h"
 
+#include "events/HostEvents.h"
 #include "session/Reservations.h"
 
 #include "fakes/World.h"
@@ -112,6 +113,22 @@ TEST_F(StandInTest, FailsInEachKindOnItsThread) {
         world.queue->drain();
         EXPECT_EQ(heard, (std::vector<std::string>{std::string(nameOf(wanted)), "close"}));
     }
+}
+
+TEST_F(StandInTest, TellsTheEventsOfAnOpening) {
+    std::vector<std::string> told;
+    const auto listening = HostEvents::shared().listen([&told](const Event& event) {
+        told.push_back(event.json().dump());
+        const auto begin = told.back().find(event.opening);
+        if (!event.opening.empty()) told.back().replace(begin, event.opening.size(), "…");
+    });
+    StandIn unknown([](const auto&, const auto&) { FAIL() << "nobody knows"; });
+    unknown.outcomeUnknown();
+    unknown.closed();
+    EXPECT_EQ(told,
+              (std::vector<std::string>{R"({"event":"opened","opening":"…"})",
+                                        R"({"event":"reservationUnknown","opening":"…","error":"timedOut"})",
+                                        R"({"event":"closed","opening":"…","closedBy":"customer"})"}));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "pages/PagePlayer.h"
 
 #include "device/QtPlatform.h"
+#include "events/HostEvents.h"
 #include "sandbox/Sandbox.h"
 #include "services/ServiceHosts.h"
 
@@ -43,6 +44,19 @@ TEST(PagePlayerTest, OneThatGoesIsNotToldOfWhatWasUnderWay) {
     service.setFaults({});
     player.emplace(ports());
     EXPECT_TRUE(open(*player, "open\nwait-screen MainView\nno-event failed-call\nno-event callback\n"));
+
+    // A page that goes while it is played over, as at an event that its wallet hears.
+    auto going = std::make_unique<view::OmbrivaneSession>();
+    going->clientId = "wallet";
+    going->clientSecret = "wallet-secret";
+    const auto leaving = HostEvents::shared().listen([&going](const Event& event) {
+        if (event.kind == EventKind::screenShown)
+            QMetaObject::invokeMethod(
+                qApp, [&going] { going.reset(); }, Qt::QueuedConnection);
+    });
+    std::istringstream cut("open\nwait SomewhereElse.key 1 0.2\n");
+    EXPECT_EQ(player->play(cut, *going), journey::Ending::expectationFailed);
+    EXPECT_EQ(going, nullptr);
 
     // A script restores what the wallet kept.
     view::OmbrivaneSession session;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace ombrivane {
 namespace {
 
@@ -31,6 +33,21 @@ TEST(JsonDocumentTest, TakesNothingButJson) {
         nested(1025)};
     for (const auto& json : refused)
         EXPECT_THROW(JsonDocument{json}, DecodeError) << json.substr(0, 40);
+}
+
+/// A thread of the network is at an answer when the process ends: what joins it was registered before
+/// anything was parsed, and so runs after all that was made later has gone.
+TEST(JsonDocumentDeathTest, ParsesUntilTheLastThreadHasGone) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto end = [] {
+        std::atexit([] {
+            const JsonDocument late("{}");
+            std::_Exit(0);
+        });
+        const JsonDocument early("[]");
+        std::exit(1);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,17 @@ TEST_F(HostBoundaryTest, TellsTheHostAndClosesByWhatAScreenPasses) {
         EXPECT_EQ(taken(), row.heard);
         send(progress);
         EXPECT_EQ(taken(), row.staysOpen ? Log{progress} : Log{});
+    }
+}
+
+TEST_F(HostBoundaryTest, WhatTheHostThrowsEndsInItsCallbackAndTheComponentCloses) {
+    for (const char* dictionary : {static_cast<const char*>(nullptr), finished}) {
+        boundary = std::make_shared<HostBoundary>(hearing(), [this] { heard.emplace_back("close"); });
+        whenCalled = [] { throw std::runtime_error("9800000000 is not a customer"); };
+        send(dictionary, dictionary == nullptr ? std::optional(refused) : std::nullopt);
+        EXPECT_EQ(taken().back(), "close");
+        EXPECT_EQ(std::exchange(world.diagnostics->lines, {}),
+                  std::vector<std::string>{"callback: the host's callback has thrown an exception"});
     }
 }
 

@@ -62,7 +62,7 @@ TEST_F(ReservationsTest, WhatNobodyHasTakenWaitsInOrder) {
 TEST_F(ReservationsTest, AReservationIsKeptWhenTheCallbackFails) {
     const auto boundary = std::make_shared<HostBoundary>(
         [](const auto&, const auto&) { throw std::runtime_error("the wallet's own"); }, nullptr);
-    EXPECT_THROW(boundary->receive(reservation(1), std::nullopt), std::runtime_error);
+    boundary->receive(reservation(1), std::nullopt);
     EXPECT_EQ(reservations.pending(), 1U);
 }
 
