@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string_view>
+
 namespace ombrivane {
 namespace {
 
@@ -141,6 +144,12 @@ TEST(OmbrivaneView, TheFirstEnvironmentOfAProcessChoosesTheHostExactlyTestTheTes
         second.show();
         EXPECT_EQ(world.network->last().url, expected);
         EXPECT_EQ(AppState::shared().environment.get(), "another");
+        const auto& lines = world.diagnostics->lines;
+        const auto told = std::count_if(lines.begin(), lines.end(), [](const std::string& line) {
+            return line.starts_with("environment: ");
+        });
+        EXPECT_EQ(told, std::string_view(host) == cases[0].second ? 1 : 0)
+            << "asked for the other host, too late";
     }
 }
 
