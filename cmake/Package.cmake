@@ -26,7 +26,7 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DA
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/contract/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/contract)
 if(OMBRIVANE_TOOLS)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/journeys/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrivane/journeys
-        FILES_MATCHING PATTERN *.journey PATTERN *.steps PATTERN *.png)
+        FILES_MATCHING PATTERN unmet-expectation.journey EXCLUDE PATTERN *.journey PATTERN *.steps PATTERN *.png)
     install(EXPORT OmbrivaneKit NAMESPACE Ombrivane:: DESTINATION ${package_folder})
     if(OMBRIVANE_VIEW)
         install(EXPORT OmbrivaneKitPages NAMESPACE Ombrivane:: DESTINATION ${package_folder})

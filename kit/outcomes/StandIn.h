@@ -30,7 +30,8 @@ struct Booked {
 /// written by the component's own code, and passes the same boundary: a reservation comes to `Reservations`
 /// first, then to the callback, and the close is a step of the main queue.
 ///
-/// Each is an opening: `HostEvents` tells that it has opened, and by whom it was closed.
+/// Each is an opening: `HostEvents` tells that it has opened, and by whom it was closed: by the
+/// host where this goes first.
 ///
 /// Wants an installed `Platform`, of which it uses the main queue. Main thread. After an outcome that closes
 /// another one is delivered as what it is, a late one: a reservation still comes, nothing else does.

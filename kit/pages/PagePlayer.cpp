@@ -33,9 +33,8 @@ PagePlayer::~PagePlayer() {
 
 CompletionCallback PagePlayer::heardBy(CompletionCallback wallet) {
     return [log = log_, wallet = std::move(wallet)](auto dictionary, auto error) {
-        Json event = journey::callbackEvent(dictionary, error);
+        log->event(journey::callbackEvent(dictionary, error));
         if (wallet) wallet(std::move(dictionary), std::move(error));
-        log->event(std::move(event));
     };
 }
 

@@ -31,7 +31,7 @@ public:
     /// Where the clock of the component stands from here on: where that of the sandbox does.
     void startAt(Date now) { clock_->startAt(now); }
 
-    /// A callback for the session that tells the script of each call (`wait-event callback`) and then calls
+    /// A callback for the session that tells the script of each call (`wait-event callback`), and calls
     /// `wallet`, the callback under test. It may be called after the player has gone.
     CompletionCallback heardBy(CompletionCallback wallet);
 

@@ -14,8 +14,9 @@ struct HandlerSlot {
     FaultHandler handler;
 };
 
+/// Never destroyed: threads read it until the process has gone.
 HandlerSlot& slot() {
-    static HandlerSlot instance;
+    static auto& instance = *new HandlerSlot;
     return instance;
 }
 

@@ -28,6 +28,12 @@ public:
         return *instance;
     }
 
+    /// Whether it has been made.
+    static bool isMade() {
+        const std::lock_guard lock(detail::sharedInstanceMutex());
+        return slot() != nullptr;
+    }
+
 private:
     /// Never destroyed: threads of the network read it until the process has gone.
     static std::shared_ptr<T>& slot() {

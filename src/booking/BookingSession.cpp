@@ -155,12 +155,13 @@ void BookingSession::proceed() {
     if (!everySlotIsFilled()) return sayMissing(Text::sessionPassengersMissing);
     isUploading_ = false;
     showProgressView = true;
-    credentials_ = AppState::shared().keepCredentials();
+    credentials_ = AppState::shared().credentials();
     reporter_.sent(EventKind::reservationSent);
     reserve();
 }
 
 void BookingSession::reserve() {
+    const SendingAs same(credentials_);
     flightBookingProvider_.reserve(
         passengersList,
         availabilitySummary(),
@@ -188,6 +189,7 @@ void BookingSession::reservationAnswered(std::optional<FlightBooking> booking,
 
 void BookingSession::upload(const FlightBooking& booking) {
     reporter_.sent(EventKind::uploadSent);
+    const SendingAs same(credentials_);
     passengerDocumentsProvider_.upload(
         passengersList,
         Travellers(passengersList, documentList).documents(),
@@ -206,7 +208,6 @@ void BookingSession::failReservation(const Error& error) {
     errorMessage = error.localizedDescription;
     showProgressView = false;
     showSnackBar = true;
-    credentials_.reset();
 }
 
 void BookingSession::handOver(const FlightBooking& booking) {
@@ -214,7 +215,6 @@ void BookingSession::handOver(const FlightBooking& booking) {
     showProgressView = false;
     if (!viewIsGone()) AppState::shared().resetNavigation();
     completionCallback_(handOverDictionary(booking), std::nullopt);
-    credentials_.reset();
 }
 
 Dictionary BookingSession::handOverDictionary(const FlightBooking& booking) const {
@@ -226,7 +226,7 @@ Dictionary BookingSession::handOverDictionary(const FlightBooking& booking) cons
         {"emergencyContact",
          Dictionary{{"contact", contact.contact}, {"email", contact.email}, {"name", contact.name}}},
         {"bookingSummary", encode(booking)},
-        {"bearerToken", AppState::shared().accessToken.get()},
+        {"bearerToken", credentials_.accessToken},
         {"totalCost", cost ? Dictionary(*cost) : Dictionary("")}};
 }
 

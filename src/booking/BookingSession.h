@@ -174,7 +174,7 @@ private:
     void tellReserved(bool booked, const std::optional<Error>& error) const;
 
     Reporter reporter_;
-    std::shared_ptr<const void> credentials_; ///< while a reservation is under way
+    Credentials credentials_; ///< with which the reservation was asked for
     /// Steps that no key tells of.
     Fields unkeyed_;
     Published<bool> isAsking_{unkeyed_, "isAsking"};       ///< an availability is under way

@@ -80,7 +80,7 @@ void RulesAndRegulationView::take(std::optional<std::string> message, const std:
     task_ = mainQueue().after(messageDuration, [this] { showSnackBar = false; });
     showProgressView = false;
     errorMessage = error->localizedDescription;
-    showSnackBar = true;
+    snackBar_.showAnew();
 }
 
 } // namespace ombrivane

@@ -38,14 +38,8 @@ public:
 
     explicit RulesAndRegulationView(Given given);
 
-    void appear() override {
-        snackBar_.appear();
-        fetch();
-    }
-    void disappear() override {
-        task_.cancel();
-        snackBar_.disappear();
-    }
+    void appear() override { fetch(); }
+    void disappear() override { task_.cancel(); }
 
     Binding<bool> rulesAndRegulationViewIsActive;
     Published<std::string> bookingClass;

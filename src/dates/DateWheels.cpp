@@ -8,7 +8,7 @@
 namespace ombrivane {
 namespace {
 
-/// Of a day without a latest one: beyond what is written into a document that never runs out.
+/// Where there is no latest day: farther than any date that documents carry.
 constexpr int yearsAhead = 100;
 
 DateWheels::Wheel wheel(const std::vector<Day>& days, const char* pattern, int index) {

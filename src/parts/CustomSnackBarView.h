@@ -18,10 +18,11 @@ public:
     CustomSnackBarView(const CustomSnackBarView&) = delete;
     CustomSnackBarView& operator=(const CustomSnackBarView&) = delete;
 
-    /// The bar's screen is shown: a message that it still has stays for the full time from now on.
-    void appear() { follow(); }
-    /// The bar's screen is covered or gone, and the message stays as it is.
-    void disappear() { task_.cancel(); }
+    /// Another message takes the place of the one that may be shown, and has the full time.
+    void showAnew() {
+        task_.cancel();
+        show_.set(true);
+    }
 
 private:
     void follow() {

@@ -63,8 +63,8 @@ template <class Code> bool isOfANumber(Code code) {
     }
 }
 
-/// The parser's implementations are made before `main`, and so go after the threads of a network that is
-/// joined as the process ends: what is made first goes last.
+/// The parser's implementations are made before `main`, ahead of everything that is registered for the end of
+/// the process, and so outlive the threads of the network, which is joined there.
 [[maybe_unused]] const std::string chosenImplementation = simdjson::get_active_implementation()->name();
 
 } // namespace

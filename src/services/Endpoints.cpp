@@ -17,6 +17,8 @@ std::string Endpoints::address(std::string_view endpoint) const {
     return baseURL + "/api/b2b/v2" + std::string(endpoint);
 }
 
+bool Endpoints::areFixed() { return SharedInstance<Endpoints>::isMade(); }
+
 const Endpoints& Endpoints::shared() { return SharedInstance<Endpoints>::get(); }
 
 } // namespace ombrivane

@@ -27,6 +27,8 @@ inline constexpr std::string_view ticketDownload = "/download-ticket";
 struct Endpoints {
     Endpoints();
     static const Endpoints& shared();
+    /// Whether the first request of the process has fixed the host.
+    static bool areFixed();
 
     /// The address of an operation.
     std::string address(std::string_view endpoint) const;

@@ -32,7 +32,7 @@ void FlightBookingProvider::reserve(const std::vector<Passenger>& passengers,
             return std::nullopt;
         }
         return Body()
-            .add("user_type", AppState::shared().userType.get())
+            .add("user_type", AppState::shared().credentials().userType)
             .add("availabilitySummary", encode(*availabilitySummary))
             .add("emergencyContact", encode(emergencyContact))
             .add("passengers", Encoder<std::vector<Passenger>>::encode(passengers))

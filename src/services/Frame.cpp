@@ -34,7 +34,8 @@ HttpRequest requestFor(const ServiceCall& call, std::string url) {
     request.method = call.method;
     request.headers.emplace_back("Content-Type", call.contentType);
     if (call.bearerToken) {
-        request.headers.emplace_back("Authorization", "Bearer " + AppState::shared().accessToken.get());
+        request.headers.emplace_back("Authorization",
+                                     "Bearer " + AppState::shared().credentials().accessToken);
     }
     for (const auto& [name, value] : request.headers)
         requireOneLine(name, value);

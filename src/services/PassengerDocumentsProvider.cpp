@@ -31,7 +31,7 @@ void PassengerDocumentsProvider::upload(const std::vector<Passenger>& passengers
     call.endpoint = endpoint::documents;
     call.contentType = form.contentType();
     call.wholeInterval = limits::upload;
-    form.addText("user_type", AppState::shared().userType.get());
+    form.addText("user_type", AppState::shared().credentials().userType);
     form.addText("bookingReferenceID", bookingReferenceID);
     call.pieces = [form, passengers, documents, bookedPassengers, images = platform().images]() mutable {
         // The answer may book more than were sent: nothing is known of those.

@@ -42,10 +42,11 @@ void warnOfHosts() {
 
 /// A wallet that asks for another environment later would take what it sees for that of the other.
 void warnOfEnvironment() {
+    if (!Endpoints::areFixed()) return;
     const std::string& fixed = Endpoints::shared().baseURL;
     if (ServiceHosts::current().of(AppState::shared().environment.get()) == fixed) return;
     platform().diagnostics->print(
-        "environment: the first request of the process has fixed the host of the service; asking " + fixed);
+        "ServiceHosts: the first request of the process has fixed the host of the service; asking " + fixed);
 }
 
 /// Whose the navigation flags of the process are.

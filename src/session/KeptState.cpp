@@ -166,7 +166,9 @@ void forgetCustomer() {
     const MainViewModel form;
     for (const Member* member : form.fields.members())
         MainViewModel::shared().fields.find(member->key())->write(member->read());
-    AppState::shared().forget();
+    const AppState state;
+    for (const Member* member : state.fields.members())
+        AppState::shared().fields.find(member->key())->write(member->read());
 }
 
 } // namespace ombrivane

@@ -56,7 +56,7 @@ public:
     static bool isState(const std::string& state);
     /// Another customer may come: empties what the process knows of the last one (token, balance, telephone
     /// number, form, nationality). Travellers and pictures go with their view. A reservation that is under
-    /// way keeps its token until it is handed over or fails. No view may be shown.
+    /// way is finished with the token that it began with. No view may be shown.
     static void forget();
 
     /// Records each opening from the next `show` on, for whoever looks into a customer's trouble: what the

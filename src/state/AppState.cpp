@@ -14,33 +14,17 @@ void AppState::update(std::string newAccessToken, std::string newUserType,
     userType = std::move(newUserType);
     walletBalance = newWalletBalance;
     phone = std::move(newPhone);
-    forgetsCredentials_ = false;
 }
 
-void AppState::forget() {
-    const std::string token = accessToken;
-    const std::string type = userType;
-    const AppState empty;
-    for (const Member* member : empty.fields.members())
-        fields.find(member->key())->write(member->read());
-    if (credentials_.expired()) return;
-    accessToken = token;
-    userType = type;
-    forgetsCredentials_ = true;
+Credentials AppState::credentials() const {
+    if (sendingAs_ != nullptr) return *sendingAs_;
+    return {accessToken, userType};
 }
 
-std::shared_ptr<const void> AppState::keepCredentials() {
-    auto kept = credentials_.lock();
-    if (kept) return kept;
-    kept = std::shared_ptr<const void>(this, [](const void* /*state*/) {
-        auto& state = AppState::shared();
-        if (!std::exchange(state.forgetsCredentials_, false)) return;
-        state.accessToken = "";
-        state.userType = "";
-    });
-    credentials_ = kept;
-    return kept;
-}
+SendingAs::SendingAs(const Credentials& credentials) :
+    before_(std::exchange(AppState::shared().sendingAs_, &credentials)) {}
+
+SendingAs::~SendingAs() { AppState::shared().sendingAs_ = before_; }
 
 void AppState::resetNavigation() {
     onewayOriginRootViewActive = false;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "keyed/Field.h"
+#include "state/Credentials.h"
 
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -19,12 +19,8 @@ public:
     void update(std::string accessToken, std::string userType, std::optional<double> walletBalance,
                 std::optional<std::string> phone);
 
-    /// Another customer may come: everything as at first. Token and user type stay as long as somebody keeps
-    /// them, and go then, unless a bootstrap has brought others.
-    void forget();
-    /// Keeps what requests are sent with while the result lives: a reservation is under way. Main thread, the
-    /// result's end too.
-    std::shared_ptr<const void> keepCredentials();
+    /// What requests are sent with: what `SendingAs` says, else the fields below.
+    Credentials credentials() const;
 
     /// Back to the search form: clears the seven flags, the shallow selection screens first.
     void resetNavigation();
@@ -46,8 +42,9 @@ public:
     Published<std::string> environment{fields, "environment"};
 
 private:
-    std::weak_ptr<const void> credentials_;
-    bool forgetsCredentials_ = false; ///< once nobody keeps them any more
+    friend class SendingAs;
+
+    const Credentials* sendingAs_ = nullptr;
 };
 
 } // namespace ombrivane

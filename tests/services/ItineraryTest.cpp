@@ -64,6 +64,15 @@ TEST_F(ItineraryTest, RawDataThatIsNoObjectGoesOutAsNull) {
     }
 }
 
+TEST_F(ItineraryTest, AnOfferThatCannotBeWrittenIsNotAskedForThoughItsOwnJsonCould) {
+    FlightSearchOneWay offer = withRawData("{}").oneWay();
+    offer.flightSummary.timeOfDeparture = "\xff";
+    Outcome outcome;
+    askOneWay(outcome, AnyFlight(std::make_shared<const FlightSearchOneWay>(std::move(offer))));
+    EXPECT_EQ(world.network->outstanding(), 0U);
+    EXPECT_EQ(outcome.error.value_or(Error{}).domain, errorDomain::encoding);
+}
+
 TEST_F(ItineraryTest, AvailabilitiesFillTheSlotOfTheirKind) {
     const auto carrierOf = [](const auto& summary) { return summary ? summary->carrierName : "none"; };
     const auto slots = [&] { return carrierOf(owFlightsSummary()) + " " + carrierOf(rtFlightsSummary()); };

@@ -146,11 +146,22 @@ TEST(OmbrivaneView, TheFirstEnvironmentOfAProcessChoosesTheHostExactlyTestTheTes
         EXPECT_EQ(AppState::shared().environment.get(), "another");
         const auto& lines = world.diagnostics->lines;
         const auto told = std::count_if(lines.begin(), lines.end(), [](const std::string& line) {
-            return line.starts_with("environment: ");
+            return line.starts_with("ServiceHosts: the first request");
         });
         EXPECT_EQ(told, std::string_view(host) == cases[0].second ? 1 : 0)
             << "asked for the other host, too late";
     }
+}
+
+TEST(OmbrivaneView, AnOpeningThatCouldAskNothingFixesNoHost) {
+    fakes::World world;
+    world.reachability->word = 0;
+    OmbrivaneView first("id", "secret", {}, {}, {}, "test", nullptr);
+    first.show();
+    world.reachability->word = reachableFlag;
+    OmbrivaneView second("id", "secret", {}, {}, {}, "production", nullptr);
+    second.show();
+    EXPECT_EQ(world.network->last().url, "https://localhost:9443/api/b2b/v2/get-token");
 }
 
 TEST_F(OmbrivaneViewTest, TellsTheHostOfEveryFailureOnceAndClosesInTheWayOfTheSystem) {

@@ -9,6 +9,7 @@ Rectangle {
     // A route is drawn in place of the title, which says it in words.
     property string origin: ""
     property string destination: ""
+    readonly property bool isRoute: origin !== "" && destination !== ""
     property string iconName: "arrowLeftIcon"
     property string leaveLabel: Words.back
     // Of the content that passes under it, in points. On a page that a keyboard leaves little of, no header stays.
@@ -18,7 +19,7 @@ Rectangle {
 
     color: "transparent"
     y: goesAway ? -Math.max(0, Math.min(height, scrolled)) : 0
-    implicitHeight: Math.max(56, (route.visible ? route : text).implicitHeight + 16)
+    implicitHeight: Math.max(56, (isRoute ? route : text).implicitHeight + 16)
 
     // What leaves the page is not drawn under a notch on its way.
     opacity: goesAway ? 1 - Math.max(0, Math.min(1, scrolled / height)) : 1
@@ -41,13 +42,13 @@ Rectangle {
         font.pixelSize: Theme.titleSize
         font.weight: Font.DemiBold
         spread: 1.2
-        visible: !route.visible
+        visible: !header.isRoute
         Accessible.role: Accessible.Heading
     }
     RouteLine {
         id: route
         objectName: "route"
-        visible: header.origin !== "" && header.destination !== ""
+        visible: header.isRoute
         anchors { left: text.left; right: text.right; verticalCenter: parent.verticalCenter }
         origin: header.origin
         destination: header.destination

@@ -12,7 +12,7 @@ Flow {
     property color tint: Theme.blackColor
     property int pixelSize: Theme.bodySize
     property int weight: Font.Medium
-    // Assistive technology reads the whole instead.
+    // Whoever holds it tells assistive technology of it.
     property bool toldAsOne: false
 
     spacing: 8
