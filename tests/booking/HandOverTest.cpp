@@ -45,11 +45,6 @@ const Interruption interruptions[] = {
      }},
     {"back to the search", [](auto&, auto&) { AppState::shared().resetNavigation(); }},
     {"the view dropped", [](auto&, Wallet& wallet) { wallet.drop(); }},
-    {"the customer signed out",
-     [](auto&, Wallet& wallet) {
-         wallet.drop();
-         OmbrivaneView::forget();
-     }},
     {"another customer signed in",
      [](auto&, Wallet& wallet) {
          wallet.drop();

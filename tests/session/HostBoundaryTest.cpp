@@ -1,4 +1,5 @@
 #include "session/HostBoundary.h"
+#include "session/Reservations.h"
 
 #include "fakes/World.h"
 
@@ -73,6 +74,7 @@ TEST_F(HostBoundaryTest, WhatTheHostThrowsEndsInItsCallbackAndTheComponentCloses
         whenCalled = [] { throw std::runtime_error("9800000000 is not a customer"); };
         send(dictionary, dictionary == nullptr ? std::optional(refused) : std::nullopt);
         EXPECT_EQ(taken().back(), "close");
+        EXPECT_EQ(Reservations::shared().pending(), dictionary == nullptr ? 0U : 1U);
         EXPECT_EQ(std::exchange(world.diagnostics->lines, {}),
                   std::vector<std::string>{"callback: the host's callback has thrown an exception"});
     }

@@ -59,13 +59,6 @@ TEST_F(ReservationsTest, WhatNobodyHasTakenWaitsInOrder) {
     EXPECT_EQ(reservations.take(), std::nullopt);
 }
 
-TEST_F(ReservationsTest, AReservationIsKeptWhenTheCallbackFails) {
-    const auto boundary = std::make_shared<HostBoundary>(
-        [](const auto&, const auto&) { throw std::runtime_error("the wallet's own"); }, nullptr);
-    boundary->receive(reservation(1), std::nullopt);
-    EXPECT_EQ(reservations.pending(), 1U);
-}
-
 TEST_F(ReservationsTest, WhoTakesOneAtATimeIsToldUntilNoneIsLeft) {
     for (const int number : {1, 2, 3})
         reservations.keep(reservation(number));
