@@ -34,7 +34,7 @@ Image somePicture() {
     return {width, height, std::make_shared<const std::vector<std::uint8_t>>(std::move(points))};
 }
 
-constexpr double defaultSeconds = 10;
+constexpr double defaultSeconds = 30;
 
 /// What a line wants is not so.
 class ExpectationFailed : public std::runtime_error {
@@ -147,7 +147,7 @@ std::string Script::help() {
            "takes its "
            "choice\n"
            "                                back\n"
-           "  wait PATH JSON [SECONDS]      waits until it is (10 s unless told)\n"
+           "  wait PATH JSON [SECONDS]      waits until it is (30 s unless told)\n"
            "  wait-screen NAME [SECONDS]    waits until a screen of this name is on the stack\n"
            "  wait-event NAME [OBJECT] [SECONDS]\n"
            "                                waits for an event: callback, reservation, closed,\n"
