@@ -1,5 +1,6 @@
 #include "DemoOptions.h"
 
+#include "Brands.h"
 #include "base/Date.h"
 
 #include <filesystem>
@@ -10,7 +11,6 @@
 namespace ombrivane::demo {
 namespace {
 
-constexpr int brands = 3;
 constexpr int largest = 10000;
 
 /// All of `text` as a number from `least` to `most`.
@@ -58,7 +58,8 @@ DemoOptions DemoOptions::parse(const std::vector<std::string>& arguments) {
         {"--picture", [&](Value value) { options.picture = value; }},
         {"--fault", [&](Value value) { options.faults.push_back(value); }},
         {"--scenario", [&](Value value) { options.scenarios.push_back(value); }},
-        {"--brand", [&](Value value) { options.brand = whole(value, 0, brands) - 1; }},
+        {"--brand",
+         [&](Value value) { options.brand = whole(value, 0, static_cast<int>(brands().size())) - 1; }},
         {"--now", [&](Value value) { options.now = time(value); }},
         {"--locale", [&](Value value) { options.locale = value; }},
         {"--language", [&](Value value) { options.language = value; }},

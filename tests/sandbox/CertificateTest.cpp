@@ -8,12 +8,12 @@ namespace ombrivane::sandbox {
 
 namespace {
 
-struct Case {
+struct Presented {
     const char* kind;
     const char* fault; ///< as OpenSSL words it; empty when a client accepts the certificate
 };
 
-class CertificateTest : public testing::TestWithParam<Case> {};
+class CertificateTest : public testing::TestWithParam<Presented> {};
 
 TEST_P(CertificateTest, AClientThatChecksSeesWhatIsWrong) {
     Options options;
@@ -30,13 +30,13 @@ TEST_P(CertificateTest, AClientThatChecksSeesWhatIsWrong) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, CertificateTest,
-                         testing::Values(Case{"good", ""}, //
-                                         Case{"self-signed", "self-signed certificate"},
-                                         Case{"expired", "certificate has expired"},
-                                         Case{"not-yet-valid", "certificate is not yet valid"},
-                                         Case{"wrong-host", "hostname mismatch"},
-                                         Case{"wrong-alternative-names", "hostname mismatch"},
-                                         Case{"untrusted", "unable to get local issuer certificate"}));
+                         testing::Values(Presented{"good", ""}, //
+                                         Presented{"self-signed", "self-signed certificate"},
+                                         Presented{"expired", "certificate has expired"},
+                                         Presented{"not-yet-valid", "certificate is not yet valid"},
+                                         Presented{"wrong-host", "hostname mismatch"},
+                                         Presented{"wrong-alternative-names", "hostname mismatch"},
+                                         Presented{"untrusted", "unable to get local issuer certificate"}));
 
 TEST(CertificateNames, AnUnknownKindIsNoKind) { EXPECT_FALSE(certificateKindNamed("bad").has_value()); }
 

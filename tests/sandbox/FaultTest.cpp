@@ -46,13 +46,13 @@ std::size_t unpackedSize(const std::string& packed) {
 }
 
 /// What one fault does to the answer of /countries, as the client sees it.
-struct Case {
+struct FaultCase {
     const char* fault;
     std::function<void(const WireAnswer&)> check;
 };
 
-const std::vector<Case>& cases() {
-    static const std::vector<Case> list{
+const std::vector<FaultCase>& cases() {
+    static const std::vector<FaultCase> list{
         {"latency=150", [](const WireAnswer& a) { EXPECT_GE(a.firstByte, milliseconds(150)); }},
         {"status=503",
          [](const WireAnswer& a) {
@@ -159,7 +159,7 @@ const std::vector<Case>& cases() {
 TEST(Faults, ShowOnTheWireAndTheRequestIsRecordedOnce) {
     ServiceClient client;
     const WireRequest request = authorized(countries, client);
-    for (const Case& scenario : cases()) {
+    for (const FaultCase& scenario : cases()) {
         SCOPED_TRACE(scenario.fault);
         const std::size_t before = client.sandbox().requests().size();
         client.sandbox().setFaults({std::string("/countries ") + scenario.fault});
@@ -175,7 +175,7 @@ TEST(Faults, ShowOnTheWireAndTheRequestIsRecordedOnce) {
 TEST(Faults, EveryKindIsTested) {
     const auto isTested = [](const FaultForm& form) {
         return form.kind == FaultKind::Trickle ||
-               std::any_of(cases().begin(), cases().end(), [&](const Case& scenario) {
+               std::any_of(cases().begin(), cases().end(), [&](const FaultCase& scenario) {
                    return parseFault(std::string("* ") + scenario.fault).kind == form.kind;
                });
     };

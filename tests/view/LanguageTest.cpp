@@ -14,7 +14,7 @@ namespace ombrivane::view {
 namespace {
 
 /// A wallet that says in QML what it wants.
-constexpr const char* wallet = R"(
+constexpr const char* speakingWallet = R"(
 import QtQuick
 import Ombrivane
 Window {
@@ -69,7 +69,7 @@ TEST(LanguageTest, AWalletInQmlSaysItsLanguageAndChangesItWhileThePagesAreShown)
     const QString english = words("en", Text::searchTitle);
     const QString nepali = words("ne", Text::searchTitle);
     ASSERT_NE(english, nepali);
-    Window window(wallet);
+    Window window(speakingWallet);
     window.open();
     ASSERT_TRUE(window.waitForScreen("MainView"));
     EXPECT_TRUE(Window::waitFor([&] { return shows(window, nepali); }));
@@ -113,7 +113,7 @@ TEST(LanguageTest, OffersThatAreShownAreToldInTheNextLanguage) {
 }
 
 TEST(LanguageTest, TheLanguageAloneMirrorsThePages) {
-    for (const char* host : {wallet, mirroredWallet}) {
+    for (const char* host : {speakingWallet, mirroredWallet}) {
         const WalkPorts ports;
         Window window(host);
         window.session().setTexts({});

@@ -136,7 +136,7 @@ TEST(ThemeTest, WhatIsDrawnCanBeRead) {
 }
 
 /// Two views of one engine beside each other, each of its own look.
-constexpr const char* wallet = R"(
+constexpr const char* twoBrands = R"(
 import QtQuick
 import Ombrivane
 Window {
@@ -200,7 +200,7 @@ TEST(ThemeTest, EachOfTwoViewsDrawsItsOwnAndFollowsItsTable) {
     Platform heard = platform();
     heard.diagnostics = diagnostics;
     Platform::install(std::move(heard));
-    Window window(wallet, 780, 844);
+    Window window(twoBrands, 780, 844);
     const auto view = [&](const QString& name) { return window.window().findChild<QQuickItem*>(name); };
     for (const char* name : {"light", "dark"}) {
         auto* session = view(name)->findChild<OmbrivaneSession*>();
