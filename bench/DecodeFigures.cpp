@@ -16,7 +16,7 @@
 namespace ombrivane::bench {
 namespace {
 
-constexpr std::size_t rounds = 25;
+constexpr std::size_t decodeRounds = 25;
 constexpr std::size_t growthRounds = 9;
 
 /// The same records in the same order; identities and the order of keys in the raw bytes differ by nature.
@@ -49,7 +49,7 @@ void addComparisons(std::vector<Figure>& figures, const std::string& name, const
     OneWayOffers others;
     const Timed baseline{[&] { others = doublePass(answer); }, [] {}, [&others] { others.clear(); }};
     const auto medians =
-        interleavedMedians({bareParse(parser, padded), decoding(answer, offers), baseline}, rounds);
+        interleavedMedians({bareParse(parser, padded), decoding(answer, offers), baseline}, decodeRounds);
     figures.push_back({name + ".parse_ms", medians[0] * 1e3});
     figures.push_back({name + ".pipeline_ms", medians[1] * 1e3});
     figures.push_back({name + ".double_pass_ms", medians[2] * 1e3});
@@ -105,7 +105,7 @@ std::vector<Figure> decodeFigures() {
         addMemory(figures, name, answer);
     }
     OneWayOffers offers;
-    const double warm = interleavedMedians({decoding(full, offers)}, rounds).front();
+    const double warm = interleavedMedians({decoding(full, offers)}, decodeRounds).front();
     figures.push_back({instructions + ".first_over_warm", first / warm});
     addGrowth(figures, instructions);
     return figures;

@@ -11,7 +11,7 @@
 namespace ombrivane::bench {
 namespace {
 
-constexpr std::size_t rounds = 15;
+constexpr std::size_t searchRounds = 15;
 constexpr std::size_t tapsPerRound = 1'000;
 
 /// One setting of the filter: as it opens, and each of its three conditions at work.
@@ -82,7 +82,7 @@ std::vector<Figure> searchFigures() {
                          [] {},
                          [&] { requireSameKept(list, copies); }});
     }
-    const auto medians = interleavedMedians(works, rounds);
+    const auto medians = interleavedMedians(works, searchRounds);
 
     double slowest = 0;
     double slowestCopied = 0;

@@ -35,9 +35,12 @@ function(ombrivane_precompiled target)
     endif()
 endfunction()
 
-# Most of compiling a small file is reading what it includes: where nothing is built again and again, eight are read as one.
+# Most of compiling a small file is reading what it includes: where nothing is built again and again, eight are read as one,
+# or as many as are told.
 function(ombrivane_united target)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ${OMBRIVANE_UNITED} UNITY_BUILD_BATCH_SIZE 8)
+    set(files ${ARGN} 8)
+    list(GET files 0 files)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ${OMBRIVANE_UNITED} UNITY_BUILD_BATCH_SIZE ${files})
 endfunction()
 
 if(OMBRIVANE_SANITIZE)

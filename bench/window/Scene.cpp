@@ -10,7 +10,7 @@
 namespace ombrivane::bench {
 namespace {
 
-constexpr const char* source = R"(
+constexpr const char* sceneSource = R"(
 import QtQuick
 Window {
     property alias page: loader.item
@@ -26,7 +26,7 @@ Window {
 
 Scene::Scene() {
     QQmlComponent component(&engine_);
-    component.setData(source, QUrl("qrc:/bench/Scene.qml"));
+    component.setData(sceneSource, QUrl("qrc:/bench/Scene.qml"));
     root_.reset(component.create());
     window_ = qobject_cast<QQuickWindow*>(root_.get());
     if (window_ == nullptr) throw std::runtime_error(component.errorString().toStdString());
